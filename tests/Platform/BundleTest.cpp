@@ -1,0 +1,69 @@
+#include "Platform/Core/Bundle.h"
+#include "Platform/Core/CodeLocation.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using platform::Bundle;
+
+namespace {
+
+const int marker = 0;
+
+class BundleTest : public testing::Test {
+protected:
+    ~BundleTest() override { Bundle::setMainDirectory(QFileInfo(platform::programPath()).absolutePath()); }
+
+    QString make(const QString& relative) const {
+        QDir(m_root.path()).mkpath(relative);
+        return m_root.filePath(relative);
+    }
+
+    void write(const QString& relative, const QByteArray& content) const {
+        QFile file(m_root.filePath(relative));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    QTemporaryDir m_root;
+};
+
+} // namespace
+
+TEST_F(BundleTest, ModuleIsTakenFromTheFirstPlaceThatHasIt) {
+    Bundle::setMainDirectory(make(QStringLiteral("app")));
+    const QString name = QStringLiteral("Kit_Kit");
+    EXPECT_DEATH(Bundle::module(name, &marker), "^unable to find bundle named Kit_Kit\n$");
+
+    const QString beside = make(QStringLiteral("app/Kit_Kit.bundle"));
+    EXPECT_EQ(Bundle::module(name, &marker).directory(), beside);
+
+    const QString inside = make(QStringLiteral("app/Resources/Kit_Kit.bundle"));
+    Bundle::setMainDirectory(m_root.filePath(QStringLiteral("app")));
+    EXPECT_EQ(Bundle::module(name, &marker).directory(), inside);
+}
+
+TEST_F(BundleTest, InformationIsEmptyWhenMissingOrBroken) {
+    make(QStringLiteral("app"));
+    const QString directory = m_root.filePath(QStringLiteral("app"));
+    EXPECT_EQ(Bundle(directory).information(QStringLiteral("version")), QString());
+    write(QStringLiteral("app/Info.json"), "{ \"version\": ");
+    EXPECT_EQ(Bundle(directory).information(QStringLiteral("version")), QString());
+    write(QStringLiteral("app/Info.json"), R"({"version": "1.2", "build": 45})");
+    const Bundle bundle(directory);
+    EXPECT_EQ(bundle.information(QStringLiteral("version")), QStringLiteral("1.2"));
+    EXPECT_EQ(bundle.information(QStringLiteral("build")), QString()) << "only strings are information";
+}
+
+TEST(CodeLocation, TellsTheProgramFromItsLibraries) {
+    EXPECT_EQ(platform::codePath(&marker), platform::programPath());
+    const auto library = platform::codePath(reinterpret_cast<const void*>(&qVersion));
+    EXPECT_TRUE(library.contains(QStringLiteral("Qt6Core"))) << library.toStdString();
+    EXPECT_EQ(Bundle::containing(reinterpret_cast<const void*>(&qVersion)).directory(),
+              QFileInfo(library).absolutePath());
+    const int local = 0;
+    EXPECT_EQ(platform::codePath(&local), QString()) << "a stack address belongs to no code";
+}
