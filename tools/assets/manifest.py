@@ -20,8 +20,8 @@ class AssetError(Exception):
     """Everything that is wrong with one resource folder, one message a line."""
 
     def __init__(self, messages):
-        super().__init__("\n".join(messages))
         self.messages = list(messages)
+        super().__init__("\n".join(self.messages))
 
 
 @dataclasses.dataclass(frozen=True)
