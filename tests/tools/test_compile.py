@@ -1,0 +1,230 @@
+"""Runs the asset compiler as the build does, on small resource folders of its own."""
+
+import json
+import os
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+COMPILER = Path(__file__).resolve().parents[2] / "tools" / "assets" / "compile.py"
+DRAWING = '<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 20 10"><rect width="20" height="10"/></svg>'
+VERTEX = "#version 330 core\nvoid main() { gl_Position = vec4(0.0); }\n"
+
+
+def color(name="Grey 20%", **changes):
+    return {"name": name, "light": "#ffffff", "dark": "#00000080", "space": "srgb", "comment": ""} | changes
+
+
+def image(name="knob", **changes):
+    return {"name": name, "source": f"Images/{name}.svg", "size": [20, 10], "capInsets": [0, 4, 0, 4],
+            "resizing": "stretch", "template": False, "comment": ""} | changes
+
+
+class CompileTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = Path(folder.name)
+        self.source, self.bundle = self.root / "Kit", self.root / "Kit.bundle"
+        self.manifest([color()], [image()])
+        self.write("Kit/Images/knob.svg", DRAWING)
+
+    def write(self, path, content):
+        target = self.root / path
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_text(content, encoding="utf-8")
+        return target
+
+    def manifest(self, colors, images):
+        self.write("Kit/Assets.json", json.dumps({"colors": colors, "images": images}))
+
+    def run_compiler(self, *options):
+        command = [sys.executable, COMPILER, "--source", self.source, "--output", self.bundle, *options]
+        return subprocess.run(command, capture_output=True, text=True, check=False)
+
+    def compile(self, *options):
+        result = self.run_compiler(*options)
+        self.assertEqual(result.returncode, 0, result.stderr)
+
+    def fails_with(self, *parts, options=()):
+        result = self.run_compiler(*options)
+        self.assertEqual(result.returncode, 1, result.stderr)
+        self.assertNotIn("Traceback", result.stderr)
+        for part in parts:
+            self.assertIn(part, result.stderr)
+
+    def bitmaps(self):
+        return sorted(path.name for path in (self.bundle / "Images").iterdir())
+
+
+class BundleTest(CompileTest):
+    def test_bitmaps_have_the_pixels_of_each_scale(self):
+        self.compile()
+        for scale in (1, 2, 3):
+            header = (self.bundle / f"Images/knob@{scale}x.png").read_bytes()[:24]
+            self.assertEqual(struct.unpack(">II", header[16:]), (20 * scale, 10 * scale))
+
+    def test_index_names_the_bitmaps_in_place_of_the_drawing(self):
+        self.compile()
+        index = json.loads((self.bundle / "Assets.json").read_text(encoding="utf-8"))
+        expected = image() | {"files": {str(s): f"Images/knob@{s}x.png" for s in (1, 2, 3)}}
+        del expected["source"]
+        self.assertEqual(index, {"colors": [color()], "images": [expected]})
+
+    def test_second_run_renders_nothing_anew(self):
+        self.compile()
+        before = {path: path.stat().st_ino for path in (self.bundle / "Images").iterdir()}
+        self.compile()
+        self.assertEqual({path: path.stat().st_ino for path in before}, before)
+
+    def test_a_changed_drawing_is_rendered_again(self):
+        self.compile()
+        before = (self.bundle / "Images/knob@2x.png").read_bytes()
+        drawing = self.write("Kit/Images/knob.svg", DRAWING.replace("<rect", '<rect fill="#f00"'))
+        later = (self.bundle / "Images/knob@2x.png").stat().st_mtime + 1
+        os.utime(drawing, (later, later))
+        self.compile()
+        self.assertNotEqual((self.bundle / "Images/knob@2x.png").read_bytes(), before)
+
+    def test_a_changed_size_is_rendered_again(self):
+        self.compile()
+        self.manifest([color()], [image(size=[40, 20])])
+        self.compile()
+        header = (self.bundle / "Images/knob@1x.png").read_bytes()[:24]
+        self.assertEqual(struct.unpack(">II", header[16:]), (40, 20))
+
+    def test_what_is_no_longer_made_is_removed_and_nothing_else(self):
+        self.manifest([], [image(), image("dial")])
+        self.write("Kit/Images/dial.svg", DRAWING)
+        self.write("Kit/Shaders/a.vert", VERTEX)
+        self.write("Kit/Shaders/Shaders.json", "{}")
+        self.compile()
+        kept = self.write("Kit.bundle/Info.json", "{}")
+        self.manifest([], [image()])
+        (self.source / "Images/dial.svg").unlink()
+        (self.source / "Shaders/a.vert").unlink()
+        self.compile()
+        self.assertEqual(self.bitmaps(), ["knob@1x.png", "knob@2x.png", "knob@3x.png"])
+        self.assertFalse((self.bundle / "Shaders/a.vert").exists())
+        self.assertTrue(kept.exists())
+
+    def test_depfile_lists_what_was_read(self):
+        code = self.write("code dir/a.cpp", 'colorAsset("Grey 20%"); imageAsset("knob");')
+        depfile = self.root / "kit.d"
+        self.compile("--depfile", depfile, "--code", code.parent)
+        text = depfile.read_text(encoding="utf-8")
+        self.assertTrue(text.startswith(f"{self.bundle}/Assets.json:"))
+        for read in ("Kit/Images/knob.svg", "Kit/Assets.json", r"code\ dir/a.cpp"):
+            self.assertIn(f"{self.root}/{read}", text)
+
+
+class ManifestErrorTest(CompileTest):
+    def test_missing_drawing(self):
+        (self.source / "Images/knob.svg").unlink()
+        self.fails_with('image "knob"', "no such file")
+
+    def test_drawing_of_another_shape(self):
+        self.manifest([], [image(size=[20, 11])])
+        self.fails_with('image "knob"', "20 by 10", "20 by 11")
+
+    def test_drawing_that_is_not_well_formed(self):
+        self.write("Kit/Images/knob.svg", "<svg>")
+        self.fails_with('image "knob"', "not well-formed")
+
+    def test_drawing_that_depends_on_fonts(self):
+        self.write("Kit/Images/knob.svg", DRAWING.replace("</svg>", "<text>a</text></svg>"))
+        self.fails_with('image "knob"', "use outlines")
+
+    def test_drawing_that_no_image_names(self):
+        self.write("Kit/Images/old.svg", DRAWING)
+        self.fails_with("Images/old.svg", "no image names this file")
+
+    def test_cap_insets_that_leave_nothing_to_stretch(self):
+        self.manifest([], [image(capInsets=[0, 10, 0, 10])])
+        self.fails_with('image "knob"', "leave nothing of the width 20")
+        self.manifest([], [image(capInsets=[6, 4, 5, 4])])
+        self.fails_with('image "knob"', "leave nothing of the height 10")
+
+    def test_repeated_names(self):
+        self.manifest([color(), color()], [image(), image()])
+        self.fails_with('color "Grey 20%": is named more than once', 'image "knob": is named more than once')
+
+    def test_bad_values(self):
+        for entry in (color(dark="#12345"), color(light="red"), color(space="cmyk"), color(extra=1)):
+            self.manifest([entry], [image()])
+            self.fails_with('color "Grey 20%"')
+        for entry in (image(size=[20, 10.5]), image(size=[0, 0]), image(resizing="fit"), image(template=1),
+                      image(capInsets=[1, 2]), image(source="../knob.svg")):
+            self.manifest([], [entry])
+            self.fails_with('image "knob"')
+
+    def test_all_errors_are_told_at_once(self):
+        self.manifest([color(dark="no")], [image(size=[1])])
+        self.fails_with('color "Grey 20%"', 'image "knob"')
+
+    def test_manifest_that_cannot_be_read(self):
+        self.write("Kit/Assets.json", "{")
+        self.fails_with("not valid JSON")
+        (self.source / "Assets.json").unlink()
+        self.fails_with("cannot be read")
+
+
+class UsageTest(CompileTest):
+    def check(self, code):
+        self.write("code/a.cpp", code)
+        return ("--code", self.root / "code")
+
+    def test_all_named_and_all_there(self):
+        self.compile(*self.check('auto a = colorAsset("Grey 20%");\nauto b = imageAsset(\n  "knob");\n'))
+
+    def test_an_asset_that_no_code_names(self):
+        self.fails_with('image "knob": no code names it', options=self.check('colorAsset("Grey 20%");'))
+
+    def test_a_name_without_an_asset(self):
+        options = self.check('colorAsset("Grey 20%"); imageAsset("knob");\nimageAsset("knbo");')
+        self.fails_with("a.cpp:2", 'image "knbo"', options=options)
+
+    def test_a_color_is_no_image(self):
+        options = self.check('colorAsset("knob"); colorAsset("Grey 20%");')
+        self.fails_with('color "knob"', 'image "knob": no code names it', options=options)
+
+    def test_comments_and_literals_name_nothing(self):
+        for hidden in ('// imageAsset("knob")\n', '/* imageAsset("knob")\n */', r'"\"" "imageAsset(\"knob\")"'):
+            options = self.check(f'colorAsset("Grey 20%"); {hidden}')
+            self.fails_with('image "knob": no code names it', options=options)
+
+    def test_a_failed_check_leaves_no_index(self):
+        self.fails_with(options=self.check(""))
+        self.assertFalse((self.bundle / "Assets.json").exists())
+
+
+class ShaderTest(CompileTest):
+    def setUp(self):
+        super().setUp()
+        self.write("Kit/Shaders/Shaders.json", "{}")
+        self.write("Kit/Shaders/a.vert", VERTEX)
+
+    def test_shaders_are_copied_with_their_index(self):
+        self.compile()
+        self.assertEqual((self.bundle / "Shaders/a.vert").read_text(encoding="utf-8"), VERTEX)
+        self.assertTrue((self.bundle / "Shaders/Shaders.json").exists())
+
+    def test_a_shader_error_is_told_even_after_a_good_run(self):
+        self.compile()
+        self.write("Kit/Shaders/a.vert", VERTEX.replace("0.0", "nothing"))
+        self.fails_with("a.vert", "nothing")
+
+    def test_another_language_version_is_refused(self):
+        self.write("Kit/Shaders/a.vert", VERTEX.replace("330 core", "450"))
+        self.fails_with("a.vert", "#version 330 core")
+
+    def test_missing_index(self):
+        (self.source / "Shaders/Shaders.json").unlink()
+        self.fails_with("Shaders.json", "cannot be read")
+
+
+if __name__ == "__main__":
+    unittest.main()
