@@ -1,0 +1,38 @@
+# Compiles resource folders into bundle directories, in the build tree where an installation has them.
+find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+find_program(GLSLANG glslangValidator REQUIRED)
+
+set(NOTELOFT_RESOURCES "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_DATADIR}/noteloft/Resources")
+add_custom_target(Resources ALL)
+
+# noteloft_assets(<module> <directory below Resources>): fails the build on an asset that the module's code does not
+# name, and on a name that has no asset.
+function(noteloft_assets module directory)
+  set(bundle "${NOTELOFT_RESOURCES}/${directory}")
+  add_custom_command(
+    OUTPUT "${bundle}/Assets.json"
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tools/assets/compile.py"
+      --source "${PROJECT_SOURCE_DIR}/Resources/${module}" --output "${bundle}"
+      --code "${PROJECT_SOURCE_DIR}/${module}" --depfile "${CMAKE_BINARY_DIR}/${module}.assets.d"
+    DEPFILE "${CMAKE_BINARY_DIR}/${module}.assets.d"
+    COMMENT "Compiling the assets of ${module}"
+    VERBATIM)
+  add_custom_target(${module}Assets DEPENDS "${bundle}/Assets.json")
+  add_dependencies(Resources ${module}Assets)
+endfunction()
+
+# The display face is generated, too: it goes where the programs that ship it look for fonts.
+function(noteloft_display_font)
+  set(font "${NOTELOFT_RESOURCES}/Fonts/Rocket.ttf")
+  file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/tools/rocket/*.py")
+  add_custom_command(
+    OUTPUT "${font}"
+    COMMAND ${CMAKE_COMMAND} -E make_directory "${NOTELOFT_RESOURCES}/Fonts"
+    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tools/rocket/make_rocket.py" "${font}"
+    DEPENDS ${sources}
+    COMMENT "Generating the Rocket face"
+    VERBATIM)
+  add_custom_target(RocketFont DEPENDS "${font}")
+  add_dependencies(Resources RocketFont)
+endfunction()

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+namespace platform {
+
+/// An OpenGL 3.3 core context without a window. It may be used by one thread at a time, inside a `Scope`.
+class GpuContext {
+public:
+    /// Null where the machine cannot make one.
+    static std::unique_ptr<GpuContext> make();
+
+    virtual ~GpuContext() = default;
+
+    /// True if a processor, not a graphics card, does the drawing.
+    virtual bool isSoftware() const = 0;
+
+    /// Makes the context current while it lives. None is current afterwards, so that a plug-in's host finds
+    /// its own thread as it expects it. Scopes do not nest.
+    class Scope {
+    public:
+        explicit Scope(GpuContext& context) : m_context(context) { m_context.makeCurrent(); }
+
+        ~Scope() { m_context.doneCurrent(); }
+
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
+
+    private:
+        GpuContext& m_context;
+    };
+
+protected:
+    GpuContext() = default;
+    virtual void makeCurrent() = 0;
+    virtual void doneCurrent() = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,88 @@
+#include "Platform/Gpu/GpuDevice.h"
+
+#include "Platform/Gpu/CommandQueue.h"
+#include "Platform/Gpu/GpuLibrary.h"
+#include "Platform/Gpu/RenderPipeline.h"
+
+#include <epoxy/gl.h>
+
+#include <future>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+using SharedDevice = std::shared_ptr<GpuDevice>;
+
+SharedDevice makeDevice(const std::function<void(GpuDevice&)>& warmUp) {
+    auto context = GpuContext::make();
+    if (!context)
+        return nullptr;
+    auto device = std::make_shared<GpuDevice>(std::move(context));
+    try {
+        if (warmUp)
+            warmUp(*device);
+    } catch (const GpuError&) {
+        // Who draws with the pipeline meets the same error and decides about it.
+    }
+    return device;
+}
+
+/// Never destroyed: graphics drivers are unloaded before static objects are.
+std::shared_future<SharedDevice>& systemDevice() {
+    static auto& device = *new std::shared_future<SharedDevice>;
+    return device;
+}
+
+} // namespace
+
+SharedDevice GpuDevice::systemDefault() {
+    if (!systemDevice().valid())
+        systemDevice() = std::async(std::launch::deferred, makeDevice, nullptr);
+    return systemDevice().get();
+}
+
+void GpuDevice::prepare(std::function<void(GpuDevice&)> warmUp) {
+    if (!systemDevice().valid())
+        systemDevice() = std::async(std::launch::async, makeDevice, std::move(warmUp));
+}
+
+GpuDevice::GpuDevice(std::unique_ptr<GpuContext> context) : m_context(std::move(context)) {}
+
+GpuDevice::~GpuDevice() = default;
+
+std::unique_ptr<CommandQueue> GpuDevice::makeCommandQueue() {
+    return std::make_unique<CommandQueue>(shared_from_this());
+}
+
+std::unique_ptr<GpuBuffer> GpuDevice::makeBuffer(const void* bytes, std::size_t length) {
+    const GpuContext::Scope scope(*m_context);
+    unsigned name = 0;
+    glGenBuffers(1, &name);
+    glBindBuffer(GL_ARRAY_BUFFER, name);
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(length), bytes, GL_STATIC_DRAW);
+    if (glGetError() == GL_NO_ERROR)
+        return std::make_unique<GpuBuffer>(*m_context, name, length);
+    glDeleteBuffers(1, &name);
+    return nullptr;
+}
+
+std::unique_ptr<GpuLibrary> GpuDevice::makeDefaultLibrary(const Bundle& bundle) {
+    return std::make_unique<GpuLibrary>(bundle);
+}
+
+std::shared_ptr<RenderPipelineState>
+GpuDevice::makeRenderPipelineState(const RenderPipelineDescriptor& descriptor) {
+    auto& pipeline = m_pipelines[descriptor.key()];
+    if (!pipeline)
+        pipeline = std::make_shared<RenderPipelineState>(*m_context, descriptor);
+    return pipeline;
+}
+
+GpuBuffer::~GpuBuffer() {
+    const GpuContext::Scope scope(m_context);
+    glDeleteBuffers(1, &m_name);
+}
+
+} // namespace platform

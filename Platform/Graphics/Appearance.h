@@ -1,0 +1,14 @@
+#pragma once
+
+namespace platform {
+
+/// Which of its two values a named colour has, and how the desktop's own dialogs look.
+enum class Appearance { light, dark };
+
+/// Dark until set. Main thread.
+Appearance currentAppearance();
+
+/// Sets the appearance of the whole application, with the palette of its standard dialogs and menus.
+void setAppearance(Appearance appearance);
+
+} // namespace platform

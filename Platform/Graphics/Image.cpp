@@ -1,0 +1,120 @@
+#include "Platform/Graphics/Image.h"
+
+#include "Platform/Graphics/NineSlice.h"
+
+#include <QCache>
+#include <QPainter>
+
+#include <cmath>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+/// What a drawn picture depends on; the scale in thousandths.
+struct DrawnKey {
+    QSize pixels;
+    int scale;
+    std::optional<QRgb> tint;
+
+    bool operator==(const DrawnKey&) const = default;
+};
+
+std::size_t qHash(const DrawnKey& key, std::size_t seed = 0) {
+    return qHashMulti(seed, key.pixels.width(), key.pixels.height(), key.scale, key.tint.value_or(0));
+}
+
+constexpr int drawnPictures = 64;
+
+void tint(QImage& image, QRgb color) {
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), QColor::fromRgba(color));
+}
+
+} // namespace
+
+struct Image::Data {
+    Description description;
+    std::map<int, QImage> bitmaps;
+    QCache<DrawnKey, QImage> drawn{drawnPictures};
+
+    const QImage& representation(qreal scale);
+    QImage render(QSize pixels, qreal scale, const std::optional<QRgb>& color);
+};
+
+/// The smallest bitmap that need not be enlarged, else the largest.
+const QImage& Image::Data::representation(qreal scale) {
+    auto file = description.files.lower_bound(static_cast<int>(std::ceil(scale - 0.01)));
+    if (file == description.files.end())
+        --file;
+    auto [bitmap, isNew] = bitmaps.try_emplace(file->first);
+    if (isNew)
+        bitmap->second = QImage(file->second).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return bitmap->second;
+}
+
+QImage Image::Data::render(QSize pixels, qreal scale, const std::optional<QRgb>& color) {
+    const QImage& source = representation(scale);
+    const QSize natural = (description.size * scale).toSize();
+    const QImage fitted = source.size() == natural || source.isNull()
+                              ? source
+                              : source.scaled(natural, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const auto caps = (description.capInsets * scale).toMargins();
+    QImage result = drawNineSlice(fitted, caps, pixels, description.resizingMode == ResizingMode::tile);
+    if (color)
+        tint(result, *color);
+    return result;
+}
+
+Image::Image() = default;
+
+Image::Image(Description description) : m_data(std::make_shared<Data>()), m_template(description.isTemplate) {
+    m_data->description = std::move(description);
+}
+
+bool Image::isNull() const {
+    return !m_data || m_data->description.files.empty();
+}
+
+QSizeF Image::size() const {
+    return m_data ? m_data->description.size : QSizeF(0, 0);
+}
+
+QMarginsF Image::capInsets() const {
+    return m_data ? m_data->description.capInsets : QMarginsF();
+}
+
+Image Image::tinted(const QColor& color) const {
+    if (!m_template)
+        return *this;
+    Image copy = *this;
+    copy.m_tint = color.rgba();
+    copy.m_template = false;
+    return copy;
+}
+
+QImage Image::bitmap(QSizeF size, qreal scale) const {
+    const QSize pixels = (size * scale).toSize();
+    if (isNull() || pixels.isEmpty())
+        return {};
+    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint};
+    if (const QImage* known = m_data->drawn.object(key))
+        return *known;
+    auto* const drawn = new QImage(m_data->render(pixels, scale, m_tint));
+    drawn->setDevicePixelRatio(scale);
+    const QImage result = *drawn;
+    m_data->drawn.insert(key, drawn);
+    return result;
+}
+
+void Image::draw(QPainter& painter, const QRectF& target) const {
+    const qreal scale = painter.device()->devicePixelRatioF();
+    const auto aligned = [scale](qreal x) { return std::round(x * scale) / scale; };
+    const QPointF origin(aligned(target.left()), aligned(target.top()));
+    const QSizeF size(aligned(target.right()) - origin.x(), aligned(target.bottom()) - origin.y());
+    painter.drawImage(origin, bitmap(size, scale));
+}
+
+} // namespace platform

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QMarginsF>
+#include <QSizeF>
+#include <QString>
+
+#include <map>
+#include <memory>
+#include <optional>
+
+class QPainter;
+class QRectF;
+
+namespace platform {
+
+/// A bitmap with several resolutions, drawn at any size: its corners keep theirs, what lies between is
+/// stretched or tiled. A value whose copies share their pixels and what they have drawn. Main thread.
+class Image {
+public:
+    enum class ResizingMode { tile, stretch };
+
+    struct Description {
+        QSizeF size;
+        QMarginsF capInsets;
+        ResizingMode resizingMode = ResizingMode::stretch;
+        bool isTemplate = false;
+        /// Paths of the bitmaps by their scale: pixels in a point.
+        std::map<int, QString> files;
+    };
+
+    /// An image without size that draws nothing.
+    Image();
+
+    /// Files are read when they are first drawn; one that cannot be read draws nothing.
+    explicit Image(Description description);
+
+    bool isNull() const;
+
+    /// In points.
+    QSizeF size() const;
+    QMarginsF capInsets() const;
+
+    /// A template is a shape without a colour of its own.
+    bool isTemplate() const { return m_template; }
+
+    /// For a template, a copy in `color` that is no template; any other image unchanged.
+    Image tinted(const QColor& color) const;
+
+    /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred.
+    void draw(QPainter& painter, const QRectF& target) const;
+
+    /// The picture of `size` points at `scale` pixels a point, kept for the next call with the same
+    /// arguments. Null if the size is empty.
+    QImage bitmap(QSizeF size, qreal scale) const;
+
+private:
+    struct Data;
+
+    std::shared_ptr<Data> m_data;
+    std::optional<QRgb> m_tint;
+    bool m_template = false;
+};
+
+} // namespace platform

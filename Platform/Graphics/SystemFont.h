@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QFont>
+
+namespace platform {
+
+enum class FontDesign { standard, rounded };
+
+/// The interface font at `size` points, which are device-independent pixels. Where the machine lacks our
+/// first choice the next one stands in, last the desktop's own font.
+QFont systemFont(qreal size, QFont::Weight weight = QFont::Normal, FontDesign design = FontDesign::standard);
+
+/// The font family `family` at `size` points; the desktop's font if there is none of that name.
+QFont customFont(const QString& family, qreal size, QFont::Weight weight = QFont::Normal);
+
+} // namespace platform

@@ -1,0 +1,89 @@
+#include "VantorShaders/MetalShaderViewController.h"
+
+#include "Platform/Gpu/GpuDevice.h"
+#include "Platform/Windows/WindowNotifications.h"
+#include "VantorShaders/MetalShaderRenderer.h"
+
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace vantor {
+
+using platform::GpuView;
+using platform::WindowNotifications;
+
+MetalShaderViewController::MetalShaderViewController(QWidget* view, QString rendererName,
+                                                     QString vertxShaderName, QString fragmentShaderName)
+    : ViewController(view),
+      m_rendererName(std::move(rendererName)),
+      m_vertxShaderName(std::move(vertxShaderName)),
+      m_fragmentShaderName(std::move(fragmentShaderName)) {
+    auto* const edges = new QVBoxLayout(view);
+    edges->setContentsMargins({});
+}
+
+MetalShaderViewController::~MetalShaderViewController() {
+    delete m_metalKitView;
+}
+
+void MetalShaderViewController::viewWillAppear() {
+    if (m_metalKitView)
+        return;
+    m_metalKitView = new GpuView(view());
+    m_metalKitView->setDevice(platform::GpuDevice::systemDefault());
+    m_metalKitView->setColorSpace(platform::ColorSpace::extendedLinearSRGB);
+    m_metalKitView->setPreferredFramesPerSecond(60);
+    m_metalKitView->setGeometry(view()->rect());
+    view()->layout()->addWidget(m_metalKitView);
+    m_renderer = makeRenderer();
+    m_metalKitView->setDelegate(m_renderer.get());
+    m_metalKitView->show();
+}
+
+std::unique_ptr<MetalShaderRenderer> MetalShaderViewController::makeRenderer() const {
+    try {
+        return std::make_unique<MetalShaderRenderer>(*m_metalKitView, m_rendererName, m_vertxShaderName,
+                                                     m_fragmentShaderName);
+    } catch (const std::exception&) {
+        return nullptr; // an empty view tells enough
+    }
+}
+
+void MetalShaderViewController::viewDidAppear() {
+    m_metalKitView->setPaused(false);
+    auto& notifications = WindowNotifications::shared();
+    connect(&notifications, &WindowNotifications::didBecomeKey, this,
+            &MetalShaderViewController::handleDidBecomeKey, Qt::UniqueConnection);
+    connect(&notifications, &WindowNotifications::didResignKey, this,
+            &MetalShaderViewController::handleDidResignKey, Qt::UniqueConnection);
+}
+
+bool MetalShaderViewController::isMyWindow(const QWidget* window) const {
+    return m_metalKitView && view() != nullptr && window == view()->window();
+}
+
+void MetalShaderViewController::handleDidBecomeKey(QWidget* window) {
+    if (!isMyWindow(window))
+        return;
+    if (m_renderer)
+        m_renderer->resumeClock();
+    m_metalKitView->setPaused(false);
+}
+
+void MetalShaderViewController::handleDidResignKey(QWidget* window) {
+    if (!isMyWindow(window))
+        return;
+    if (m_renderer)
+        m_renderer->pauseTime = MetalShaderRenderer::Clock::now();
+    m_metalKitView->setPaused(true);
+}
+
+void MetalShaderViewController::viewDidDisappear() {
+    if (!m_metalKitView)
+        return;
+    delete m_metalKitView;
+    m_renderer.reset();
+}
+
+} // namespace vantor
