@@ -1,0 +1,148 @@
+#include "Platform/Windows/HiddenTitleBarWindow.h"
+
+#include "Platform/Windows/WindowButton.h"
+#include "Platform/Windows/WindowCorner.h"
+#include "Platform/Windows/WindowSystem.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <QVariantAnimation>
+#include <QWindow>
+
+namespace platform {
+
+namespace {
+
+/// The strip at the upper edge that stands for the title bar, in points.
+constexpr int titleBarHeight = 32;
+constexpr int fadeMilliseconds = 140;
+
+} // namespace
+
+HiddenTitleBarWindow::HiddenTitleBarWindow(const QString& title, QWidget* content, QMenu* menu)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), m_menu(menu), m_buttonBar(new QWidget(this)),
+      m_fade(new QVariantAnimation(this)) {
+    setWindowTitle(title);
+    setAttribute(Qt::WA_TranslucentBackground, isCompositing());
+    setFixedSize(content->size());
+    content->setParent(this);
+    content->move(0, 0);
+    m_buttonBar->raise();
+    addButtons();
+    if (testAttribute(Qt::WA_TranslucentBackground))
+        addCorners();
+    addShortcuts();
+}
+
+void HiddenTitleBarWindow::addButtons() {
+    m_buttonBar->setGeometry(0, 0, width(), titleBarHeight);
+    auto* const bar = new QHBoxLayout(m_buttonBar);
+    bar->setContentsMargins(8, 8, 8, 0);
+    bar->setSpacing(4);
+    m_menuButton = new WindowButton(WindowButton::Kind::menu, tr("Menu"));
+    auto* const minimize = new WindowButton(WindowButton::Kind::minimize, tr("Minimize"));
+    auto* const close = new WindowButton(WindowButton::Kind::close, tr("Close"));
+    bar->addWidget(m_menuButton);
+    bar->addStretch();
+    bar->addWidget(minimize);
+    bar->addWidget(close);
+    connect(m_menuButton, &WindowButton::clicked, this, &HiddenTitleBarWindow::openMenu);
+    connect(minimize, &WindowButton::clicked, this, &QWidget::showMinimized);
+    connect(close, &WindowButton::clicked, this, &QWidget::close);
+    for (WindowButton* button : {m_menuButton, minimize, close})
+        button->installEventFilter(this);
+    m_fade->setDuration(fadeMilliseconds);
+    m_fade->setStartValue(0.0);
+    m_fade->setEndValue(1.0);
+    connect(m_fade, &QVariantAnimation::valueChanged, this, [=, this](const QVariant& value) {
+        for (WindowButton* button : {m_menuButton, minimize, close})
+            button->setPresence(value.toReal());
+    });
+}
+
+void HiddenTitleBarWindow::addCorners() {
+    for (const Qt::Corner corner :
+         {Qt::TopLeftCorner, Qt::TopRightCorner, Qt::BottomLeftCorner, Qt::BottomRightCorner})
+        new WindowCorner(corner, this);
+}
+
+void HiddenTitleBarWindow::addShortcuts() {
+    connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
+    const QKeySequence minimize(Qt::CTRL | Qt::Key_M);
+    connect(new QShortcut(minimize, this), &QShortcut::activated, this, &QWidget::showMinimized);
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &HiddenTitleBarWindow::openMenu);
+}
+
+void HiddenTitleBarWindow::makeKeyAndOrderFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void HiddenTitleBarWindow::openMenu() {
+    m_menu->popup(m_menuButton->mapToGlobal(QPoint(0, m_menuButton->height() + 4)));
+    m_menu->setActiveAction(m_menu->actions().value(0));
+}
+
+void HiddenTitleBarWindow::openSystemMenu(const QPoint& position) {
+    if (windowHandle() == nullptr || !showSystemMenu(*windowHandle(), position))
+        m_menu->popup(position);
+}
+
+void HiddenTitleBarWindow::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        openMenu();
+    else if (event->y() < titleBarHeight)
+        openSystemMenu(event->globalPos());
+    else
+        m_menu->popup(event->globalPos());
+}
+
+void HiddenTitleBarWindow::mousePressEvent(QMouseEvent* event) {
+    m_pressPosition = event->position().toPoint();
+}
+
+void HiddenTitleBarWindow::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint moved = event->position().toPoint() - m_pressPosition;
+    if ((event->buttons() & Qt::LeftButton) != 0 && moved.manhattanLength() >= QApplication::startDragDistance())
+        windowHandle()->startSystemMove();
+}
+
+void HiddenTitleBarWindow::enterEvent(QEnterEvent*) {
+    setButtonsShown(true);
+}
+
+void HiddenTitleBarWindow::leaveEvent(QEvent*) {
+    setButtonsShown(isKeyboardOnButtons());
+}
+
+bool HiddenTitleBarWindow::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::FocusIn)
+        setButtonsShown(true);
+    else if (event->type() == QEvent::FocusOut)
+        setButtonsShown(underMouse());
+    return false;
+}
+
+bool HiddenTitleBarWindow::isKeyboardOnButtons() const {
+    const QWidget* focused = QApplication::focusWidget();
+    return focused != nullptr && m_buttonBar->isAncestorOf(focused);
+}
+
+void HiddenTitleBarWindow::setButtonsShown(bool shown) {
+    const auto direction = shown ? QAbstractAnimation::Forward : QAbstractAnimation::Backward;
+    const bool isThere = m_fade->currentValue().toReal() >= 1.0;
+    if (m_fade->state() == QAbstractAnimation::Stopped && isThere == shown)
+        return;
+    m_fade->setDirection(direction);
+    if (m_fade->state() == QAbstractAnimation::Stopped)
+        m_fade->start();
+}
+
+} // namespace platform

@@ -1,0 +1,40 @@
+#include "Platform/Windows/WindowCorner.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace platform {
+
+namespace {
+
+constexpr int radius = 12;
+
+bool isRight(Qt::Corner corner) {
+    return corner == Qt::TopRightCorner || corner == Qt::BottomRightCorner;
+}
+
+bool isBottom(Qt::Corner corner) {
+    return corner == Qt::BottomLeftCorner || corner == Qt::BottomRightCorner;
+}
+
+} // namespace
+
+WindowCorner::WindowCorner(Qt::Corner corner, QWidget* window) : QWidget(window), m_corner(corner) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setGeometry(isRight(corner) ? window->width() - radius : 0, isBottom(corner) ? window->height() - radius : 0,
+                radius, radius);
+    raise();
+}
+
+void WindowCorner::paintEvent(QPaintEvent*) {
+    QPainterPath outside;
+    outside.addRect(rect());
+    QPainterPath circle;
+    circle.addEllipse(QPointF(isRight(m_corner) ? 0 : radius, isBottom(m_corner) ? 0 : radius), radius, radius);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.fillPath(outside - circle, Qt::black);
+}
+
+} // namespace platform
