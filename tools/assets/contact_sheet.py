@@ -88,8 +88,8 @@ class Sheet:
                 pieces = nine_slice(data, image, STRETCHED / scale)
                 at = LABEL if scale == 1 else LABEL + height + 4
                 parts.append(f'<g transform="translate(260 {at}) scale({scale})">{pieces}</g>')
-                shown[1] = height * 1.5 + 2
-        return "".join(parts), LABEL + round(2 * shown[1])
+        pieces_height = 3 * height + 4 if any(image.entry["capInsets"]) else 0
+        return "".join(parts), LABEL + max(2 * shown[1], pieces_height)
 
     def _color_cell(self, color):
         parts = [text(84, 14, color["name"], TEXT, 11), text(84, 28, f'{color["dark"]}  {color["light"]}', DIM, 10)]
@@ -113,7 +113,7 @@ def bitmap(data, part, size, place):
     """A part of a bitmap, in points of the image, drawn into a place of the sheet."""
     view, (x, y, width, height) = " ".join(map(str, part)), place
     return (f'<svg x="{x}" y="{y}" width="{width}" height="{height}" viewBox="{view}" preserveAspectRatio="none">'
-            f'<image width="{size[0]}" height="{size[1]}" image-rendering="optimizeSpeed" xlink:href={quoteattr(data)}/></svg>')
+            f'<image width="{size[0]}" height="{size[1]}" image-rendering="pixelated" xlink:href={quoteattr(data)}/></svg>')
 
 
 def data_uri(path):
