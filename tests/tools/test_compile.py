@@ -241,7 +241,8 @@ class UsageTest(CompileTest):
         self.fails_with('color "knob"', 'image "knob": no code names it', options=options)
 
     def test_comments_and_literals_name_nothing(self):
-        for hidden in ('// imageAsset("knob")\n', '/* imageAsset("knob")\n */', r'"\"" "imageAsset(\"knob\")"'):
+        for hidden in ('// imageAsset("knob")\n', '/* imageAsset("knob")\n */',
+                       r'"\"" "imageAsset(\"knob\")"'):
             options = self.check(f'colorAsset("Grey 20%"); {hidden}')
             self.fails_with('image "knob": no code names it', options=options)
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Compiles a resource folder into a bundle directory.
 
-Checks the manifest, renders each drawing and noise recipe at 1x, 2x and 3x, checks and copies the shaders, and, where
-code folders are given, fails on each asset that no code names and each name that has no asset.
+Checks the manifest, renders each drawing and noise recipe at 1x, 2x and 3x, checks and copies the
+shaders, and, where code folders are given, fails on each asset that no code names and each name that has
+no asset.
 """
 
 import argparse
@@ -116,8 +117,8 @@ def render(image, scale, bitmap):
 
 def render_drawing(image, scale, output):
     width, height = (length * scale for length in image.size)
-    command = ["rsvg-convert", "--width", str(width), "--height", str(height), "--output", output, image.source]
-    result = subprocess.run(command, capture_output=True, text=True, check=False)
+    command = ["rsvg-convert", "--width", str(width), "--height", str(height), "--output", output]
+    result = subprocess.run([*command, image.source], capture_output=True, text=True, check=False)
     if result.returncode:
         return result.stderr.strip()
     return None if size_of(output) == (width, height) else f"did not render to {width} by {height} pixels"
