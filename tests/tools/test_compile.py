@@ -7,6 +7,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import zlib
 from pathlib import Path
 
 COMPILER = Path(__file__).resolve().parents[2] / "tools" / "assets" / "compile.py"
@@ -172,6 +173,54 @@ class ManifestErrorTest(CompileTest):
         self.fails_with("cannot be read")
 
 
+class NoiseTest(CompileTest):
+    RECIPE = '{"seed": 5, "cells": 4, "deviation": 0.2}'
+
+    def setUp(self):
+        super().setUp()
+        (self.source / "Images/knob.svg").unlink()
+        self.manifest([], [image("fog", source="Images/fog.noise", size=[32, 32], capInsets=[0, 0, 0, 0])])
+        self.write("Kit/Images/fog.noise", self.RECIPE)
+
+    def pixel_rows(self, scale):
+        data = (self.bundle / f"Images/fog@{scale}x.png").read_bytes()
+        at, packed = 8, b""
+        while at < len(data):
+            length, kind = struct.unpack(">I4s", data[at:at + 8])
+            packed += data[at + 8:at + 8 + length] if kind == b"IDAT" else b""
+            at += 12 + length
+        raw, line = zlib.decompress(packed), 1 + 3 * 32 * scale
+        return [raw[start + 1:start + line] for start in range(0, len(raw), line)]
+
+    def test_the_tile_has_no_seam(self):
+        def step(one, other):
+            return sum(abs(a - b) for a, b in zip(one, other))
+        self.compile()
+        for scale in (1, 2, 3):
+            rows = self.pixel_rows(scale)
+            columns = list(zip(*rows))[::3]  # of the red field
+            for lines in (rows, columns):
+                inner = max(step(*pair) for pair in zip(lines, lines[1:]))
+                self.assertGreater(inner, 0)
+                self.assertLessEqual(step(lines[0], lines[-1]), 1.5 * inner)
+
+    def test_the_seed_alone_decides(self):
+        self.compile()
+        first = self.pixel_rows(2)
+        (self.bundle / "Images/fog@2x.png").unlink()
+        self.compile()
+        self.assertEqual(self.pixel_rows(2), first)
+        self.write("Kit/Images/fog.noise", self.RECIPE.replace("5", "6"))
+        (self.bundle / "Images/fog@2x.png").unlink()
+        self.compile()
+        self.assertNotEqual(self.pixel_rows(2), first)
+
+    def test_a_recipe_that_cannot_tile(self):
+        for recipe in (self.RECIPE.replace("4", "5"), self.RECIPE.replace("0.2", "1"), "{", "[]"):
+            self.write("Kit/Images/fog.noise", recipe)
+            self.fails_with('image "fog"', "fog.noise")
+
+
 class UsageTest(CompileTest):
     def check(self, code):
         self.write("code/a.cpp", code)
@@ -192,7 +241,8 @@ class UsageTest(CompileTest):
         self.fails_with('color "knob"', 'image "knob": no code names it', options=options)
 
     def test_comments_and_literals_name_nothing(self):
-        for hidden in ('// imageAsset("knob")\n', '/* imageAsset("knob")\n */', r'"\"" "imageAsset(\"knob\")"'):
+        for hidden in ('// imageAsset("knob")\n', '/* imageAsset("knob")\n */',
+                       r'"\"" "imageAsset(\"knob\")"'):
             options = self.check(f'colorAsset("Grey 20%"); {hidden}')
             self.fails_with('image "knob": no code names it', options=options)
 

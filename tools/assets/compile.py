@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Compiles a resource folder into a bundle directory.
 
-Checks the manifest, renders each drawing at 1x, 2x and 3x, checks and copies the shaders, and, where
-code folders are given, fails on each asset that no code names and each name that has no asset.
+Checks the manifest, renders each drawing and noise recipe at 1x, 2x and 3x, checks and copies the
+shaders, and, where code folders are given, fails on each asset that no code names and each name that has
+no asset.
 """
 
 import argparse
@@ -17,6 +18,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 from manifest import MANIFEST, AssetError, read_manifest  # noqa: E402
+from noise import read_recipe, write_noise  # noqa: E402
 from usage import source_files, usage_errors  # noqa: E402
 
 SHADER_SUFFIXES = (".vert", ".frag")
@@ -78,7 +80,7 @@ def render_images(images, bundle):
             pixels = (image.size[0] * scale, image.size[1] * scale)
             bitmaps.add(bundle / file)
             if not is_current(bundle / file, image.source, pixels):
-                jobs.append((image, bundle / file, pixels))
+                jobs.append((image, scale, bundle / file))
     with concurrent.futures.ThreadPoolExecutor(WORKERS) as pool:
         errors = [error for error in pool.map(lambda job: render(*job), jobs) if error]
     if errors:
@@ -88,28 +90,38 @@ def render_images(images, bundle):
 
 def is_current(bitmap, drawing, pixels):
     try:
-        newer = bitmap.stat().st_mtime_ns >= drawing.stat().st_mtime_ns
-        with bitmap.open("rb") as file:
-            return newer and struct.unpack(">8xI4sII", file.read(24))[2:] == pixels
+        return bitmap.stat().st_mtime_ns >= drawing.stat().st_mtime_ns and size_of(bitmap) == pixels
     except (OSError, struct.error):
         return False
 
 
-def render(image, bitmap, pixels):
+def size_of(bitmap):
+    with bitmap.open("rb") as file:
+        return struct.unpack(">16xII", file.read(24))
+
+
+def render(image, scale, bitmap):
     """Returns what went wrong, or nothing. The bitmap appears only when it is complete."""
-    width, height = (str(length) for length in pixels)
     bitmap.parent.mkdir(parents=True, exist_ok=True)
     partial = bitmap.with_suffix(".partial")
-    command = ["rsvg-convert", "--width", width, "--height", height, "--output", partial, image.source]
-    result = subprocess.run(command, capture_output=True, text=True, check=False)
-    if result.returncode:
-        partial.unlink(missing_ok=True)
-        return f"{image.source}: image \"{image.name}\": {result.stderr.strip()}"
-    if not is_current(partial, image.source, pixels):
-        partial.unlink(missing_ok=True)
-        return f"{image.source}: image \"{image.name}\": did not render to {width} by {height} pixels"
+    if image.source.suffix == ".noise":
+        write_noise(read_recipe(image.source, image.size), image.size, scale, partial)
+    else:
+        error = render_drawing(image, scale, partial)
+        if error:
+            partial.unlink(missing_ok=True)
+            return f"{image.source}: image \"{image.name}\": {error}"
     os.replace(partial, bitmap)
     return None
+
+
+def render_drawing(image, scale, output):
+    width, height = (length * scale for length in image.size)
+    command = ["rsvg-convert", "--width", str(width), "--height", str(height), "--output", output]
+    result = subprocess.run([*command, image.source], capture_output=True, text=True, check=False)
+    if result.returncode:
+        return result.stderr.strip()
+    return None if size_of(output) == (width, height) else f"did not render to {width} by {height} pixels"
 
 
 def copy_shaders(source, target):

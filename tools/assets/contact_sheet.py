@@ -59,7 +59,8 @@ class Sheet:
         drawing = (f'<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" '
                    f'width="{width * zoom}" height="{height * zoom}" viewBox="0 0 {width} {height}">'
                    f'<rect width="{width}" height="{height}" fill="{GROUND}"/>{"".join(self._parts)}</svg>')
-        subprocess.run(["rsvg-convert", "--unlimited", "--output", output], input=drawing.encode(), check=True)
+        command = ["rsvg-convert", "--unlimited", "--output", output]
+        subprocess.run(command, input=drawing.encode(), check=True)
 
     def _heading(self, name):
         self._parts.append(text(MARGIN, self._y + 18, name, TEXT, 18))
@@ -88,11 +89,12 @@ class Sheet:
                 pieces = nine_slice(data, image, STRETCHED / scale)
                 at = LABEL if scale == 1 else LABEL + height + 4
                 parts.append(f'<g transform="translate(260 {at}) scale({scale})">{pieces}</g>')
-                shown[1] = height * 1.5 + 2
-        return "".join(parts), LABEL + round(2 * shown[1])
+        pieces_height = 3 * height + 4 if any(image.entry["capInsets"]) else 0
+        return "".join(parts), LABEL + max(2 * shown[1], pieces_height)
 
     def _color_cell(self, color):
-        parts = [text(84, 14, color["name"], TEXT, 11), text(84, 28, f'{color["dark"]}  {color["light"]}', DIM, 10)]
+        values = f'{color["dark"]}  {color["light"]}'
+        parts = [text(84, 14, color["name"], TEXT, 11), text(84, 28, values, DIM, 10)]
         for index, key in enumerate(("dark", "light")):
             parts.append(f'<rect x="{index * 40}" width="36" height="32" rx="4" fill="{color[key][:7]}"/>')
         return "".join(parts), 32
@@ -112,8 +114,9 @@ def nine_slice(data, image, target):
 def bitmap(data, part, size, place):
     """A part of a bitmap, in points of the image, drawn into a place of the sheet."""
     view, (x, y, width, height) = " ".join(map(str, part)), place
-    return (f'<svg x="{x}" y="{y}" width="{width}" height="{height}" viewBox="{view}" preserveAspectRatio="none">'
-            f'<image width="{size[0]}" height="{size[1]}" image-rendering="optimizeSpeed" xlink:href={quoteattr(data)}/></svg>')
+    return (f'<svg x="{x}" y="{y}" width="{width}" height="{height}" viewBox="{view}" '
+            f'preserveAspectRatio="none"><image width="{size[0]}" height="{size[1]}" '
+            f'image-rendering="pixelated" xlink:href={quoteattr(data)}/></svg>')
 
 
 def data_uri(path):
@@ -121,7 +124,8 @@ def data_uri(path):
 
 
 def text(x, y, content, color, size):
-    return f'<text x="{x}" y="{y}" fill="{color}" font-family="Inter, sans-serif" font-size="{size}">{escape(content)}</text>'
+    return (f'<text x="{x}" y="{y}" fill="{color}" font-family="Inter, sans-serif" font-size="{size}">'
+            f'{escape(content)}</text>')
 
 
 if __name__ == "__main__":

@@ -6,6 +6,8 @@ import re
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
+from noise import read_recipe
+
 MANIFEST = "Assets.json"
 SCALES = (1, 2, 3)
 COLOR = re.compile(r"#[0-9a-fA-F]{6}([0-9a-fA-F]{2})?\Z")
@@ -27,7 +29,7 @@ class AssetError(Exception):
 @dataclasses.dataclass(frozen=True)
 class Image:
     name: str
-    source: Path  # of the drawing, absolute or relative to the working directory
+    source: Path  # of the drawing or recipe, absolute or relative to the working directory
     size: tuple  # width, height in points
     entry: dict  # as in the manifest
 
@@ -134,8 +136,11 @@ def _inset_errors(insets, size):
 
 
 def _drawing_errors(folder, source, size):
-    if not isinstance(source, str) or not source.startswith("Images/") or not source.endswith(".svg"):
-        yield "source must be a drawing Images/<name>.svg"
+    if not isinstance(source, str) or not re.fullmatch(r"Images/[^/]+\.(svg|noise)", source):
+        yield "source must be a drawing Images/<name>.svg or a recipe Images/<name>.noise"
+        return
+    if source.endswith(".noise"):
+        yield from _recipe_errors(folder / source, size)
         return
     try:
         root = ElementTree.parse(folder / source).getroot()
@@ -146,6 +151,15 @@ def _drawing_errors(folder, source, size):
         yield f"{source}: not well-formed: {error}"
         return
     yield from (f"{source}: {error}" for error in _svg_errors(root, size))
+
+
+def _recipe_errors(path, size):
+    try:
+        read_recipe(path, size)
+    except OSError:
+        yield f"Images/{path.name}: no such file"
+    except ValueError as error:
+        yield f"Images/{path.name}: {error}"
 
 
 def _svg_errors(root, size):

@@ -57,6 +57,9 @@ feature kern {
   pos @v @a -12;
   pos @v @stop -66;
   pos @a @v -10;
+  pos f t -34;
+  pos f f -34;
+  pos t t -50;
   pos f @a -10;
   pos f @stop -40;
   pos k @a -18;

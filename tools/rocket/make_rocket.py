@@ -56,7 +56,8 @@ def build():
                       | {name: true_type(shape) for name, (shape, _) in drawings.items()})
     widths = {name: width for name, (_, width) in (blanks() | drawings).items()}
     outlines = builder.font["glyf"]
-    builder.setupHorizontalMetrics({name: (widths[name], getattr(outlines[name], "xMin", 0)) for name in order})
+    left_edges = {name: getattr(outlines[name], "xMin", 0) for name in order}
+    builder.setupHorizontalMetrics({name: (widths[name], left_edges[name]) for name in order})
     setup_metrics(builder)
     addOpenTypeFeaturesFromString(builder.font, FEATURES)
     return builder.font

@@ -53,7 +53,7 @@ def stroke(*points, closed=False):
     path = [(*point, 0)[:3] for point in points]
     if closed:
         return cut(_ring(path, 1), _ring(path, -1)) if _turns_left(path) else stroke(*path[::-1], closed=True)
-    return outline(_side(path, 1) + _side(path[::-1], 1))
+    return union(outline(_side(path, 1) + _side(path[::-1], 1)))  # a stroke may meet itself
 
 
 def bowl(left, bottom, right, top, radius):
