@@ -1,0 +1,169 @@
+#include "Platform/AudioUnits/AudioComponentValidation.h"
+#include "Platform/AudioUnits/AudioComponentManager.h"
+#include "Platform/AudioUnits/FourCharCode.h"
+#include "Platform/Core/CodeLocation.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
+using platform::AudioComponentValidationSettings;
+using Result = platform::AudioComponentValidationResult;
+
+namespace {
+
+struct Outcome {
+    Result result = Result::unknown;
+    QVariantMap results;
+
+    bool hasOutput() const { return results.contains(QStringLiteral("Output")); }
+
+    QStringList lines() const { return results.value(QStringLiteral("Output")).toStringList(); }
+};
+
+class AudioComponentValidationTest : public testing::Test {
+protected:
+    AudioComponentValidationTest() { qputenv("LV2_PATH", REFERENCE_PLUGINS ":" FAULTY_PLUGINS); }
+
+    ~AudioComponentValidationTest() override {
+        AudioComponentValidationSettings::shared() = m_settings;
+        qunsetenv("LV2_PATH");
+    }
+
+    static Outcome validate(QStringView subtype) {
+        const auto found = platform::AudioComponentManager::shared().components(
+            {.componentSubType = platform::fourCharCode(subtype)});
+        EXPECT_EQ(found.size(), 1) << subtype.toString().toStdString();
+        return found.isEmpty() ? Outcome() : validate(found.first());
+    }
+
+    static Outcome validate(const platform::AudioComponent& component) {
+        Outcome outcome;
+        QEventLoop loop;
+        platform::audioComponentValidateWithResults(component,
+                                                    {{platform::audioComponentValidationForceKey, true}},
+                                                    [&](Result result, const QVariantMap& results) {
+                                                        outcome = {result, results};
+                                                        loop.quit();
+                                                    });
+        loop.exec();
+        return outcome;
+    }
+
+    const AudioComponentValidationSettings m_settings = AudioComponentValidationSettings::shared();
+};
+
+class FaultTest : public AudioComponentValidationTest,
+                  public testing::WithParamInterface<std::pair<const char16_t*, const char16_t*>> {};
+
+} // namespace
+
+TEST_F(AudioComponentValidationTest, ReferencePluginPasses) {
+    const Outcome outcome = validate(u"mdfx");
+    EXPECT_EQ(outcome.result, Result::passed);
+    ASSERT_GT(outcome.lines().size(), 9);
+    EXPECT_TRUE(outcome.lines().contains(QStringLiteral("PASS instantiate")));
+    EXPECT_TRUE(outcome.lines().contains(QStringLiteral("Swept transpose")));
+    EXPECT_TRUE(outcome.lines().filter(QStringLiteral("FAIL")).isEmpty());
+}
+
+TEST_F(AudioComponentValidationTest, CrashFailsWithoutOutput) {
+    const Outcome outcome = validate(u"cras");
+    EXPECT_EQ(outcome.result, Result::failed);
+    EXPECT_FALSE(outcome.hasOutput());
+}
+
+TEST_F(AudioComponentValidationTest, EarlyExitFailsEvenWithStatusZero) {
+    const Outcome outcome = validate(u"exit");
+    EXPECT_EQ(outcome.result, Result::failed);
+    EXPECT_TRUE(outcome.lines().contains(QStringLiteral("PASS instantiate")));
+}
+
+TEST_F(AudioComponentValidationTest, SilenceTimesOut) {
+    AudioComponentValidationSettings::shared().silenceLimit = 300ms;
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(validate(u"hang").result, Result::timedOut);
+    EXPECT_GE(timer.elapsed(), 250) << "timers are allowed to be a little early";
+    EXPECT_LT(timer.elapsed(), 10'000);
+}
+
+TEST_F(AudioComponentValidationTest, TotalTimeIsLimited) {
+    AudioComponentValidationSettings::shared().totalLimit = 300ms;
+    EXPECT_EQ(validate(u"hang").result, Result::timedOut);
+}
+
+TEST_F(AudioComponentValidationTest, NoiseOfThePluginIsNoOutput) {
+    const Outcome outcome = validate(u"nois");
+    EXPECT_EQ(outcome.result, Result::passed);
+    EXPECT_TRUE(outcome.lines().filter(QStringLiteral("looks like")).isEmpty());
+}
+
+TEST_F(AudioComponentValidationTest, ProgramThatIsNotThereFails) {
+    AudioComponentValidationSettings::shared().program = QStringLiteral(FAULTY_PLUGINS "/nothing");
+    const Outcome outcome = validate(u"mdfx");
+    EXPECT_EQ(outcome.result, Result::failed);
+    EXPECT_FALSE(outcome.hasOutput());
+}
+
+TEST_F(AudioComponentValidationTest, ProgramThatSaysNothingFails) {
+    AudioComponentValidationSettings::shared().program = QStringLiteral("true");
+    const Outcome outcome = validate(u"mdfx");
+    EXPECT_EQ(outcome.result, Result::failed);
+    EXPECT_FALSE(outcome.hasOutput());
+}
+
+TEST_F(AudioComponentValidationTest, UnknownPluginFails) {
+    platform::AudioComponent component;
+    component.uri = QStringLiteral("http://quillfen.example/tests/none");
+    component.bundlePath = QStringLiteral(REFERENCE_PLUGINS "/noteloft.lv2/");
+    const Outcome outcome = validate(component);
+    EXPECT_EQ(outcome.result, Result::failed);
+    EXPECT_TRUE(outcome.lines().contains(QStringLiteral("FAIL load: the bundle does not have this plug-in")));
+}
+
+TEST_P(FaultTest, IsNamed) {
+    const Outcome outcome = validate(GetParam().first);
+    EXPECT_EQ(outcome.result, Result::failed);
+    const QString faults = outcome.lines().filter(QStringLiteral("FAIL")).join(u'\n');
+    EXPECT_EQ(faults.toStdString(), QStringView(GetParam().second).toString().toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Plugin, FaultTest,
+    testing::Values(
+        std::pair(u"orde", u"FAIL MIDI output: an event at frame 3 after one at frame 60"),
+        std::pair(u"late", u"FAIL MIDI output: an event at frame 64 of a block of 64"),
+        std::pair(u"stat", u"FAIL MIDI output: a MIDI message without a status"),
+        std::pair(u"nan_", u"FAIL numeric output: a value of port \"level\" that is not a finite number"),
+        std::pair(u"over", u"FAIL memory: port \"level\" was written beyond its end"),
+        std::pair(u"para", u"FAIL parameters: the plug-in changed \"amount\""),
+        std::pair(u"refu", u"FAIL instantiate: the plug-in refused a sample rate of 22050 Hz"),
+        std::pair(u"rese", u"FAIL activate again: the state is not what it was before"),
+        std::pair(u"feat",
+                  u"FAIL required features: http://quillfen.example/tests/faulty#wish is not offered"),
+        std::pair(u"defa", u"FAIL ports: the default of \"amount\" lies outside its range")));
+
+TEST_F(AudioComponentValidationTest, CommandLineToolTellsTheOutcome) {
+    const QString tool = QFileInfo(platform::programPath()).absolutePath() + u"/noteloft-validate";
+    const auto run = [&](const QStringList& arguments) {
+        QProcess process;
+        process.start(tool, arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return std::pair(process.exitCode(), process.readAllStandardOutput());
+    };
+    const auto [passed, output] =
+        run({QStringLiteral("aumi"), QStringLiteral("mdfx"), QStringLiteral("Quil")});
+    EXPECT_EQ(passed, 0);
+    EXPECT_TRUE(output.contains("PASS instantiate\n"));
+    EXPECT_EQ(run({QStringLiteral("tst1"), QStringLiteral("cras"), QStringLiteral("Test")}).first, 1);
+    EXPECT_EQ(run({QStringLiteral("tst1"), QStringLiteral("none"), QStringLiteral("Test")}).first, 1);
+    EXPECT_EQ(run({QStringLiteral("tst1"), QStringLiteral("five5"), QStringLiteral("Test")}).first, 2);
+    EXPECT_EQ(run({}).first, 2);
+}

@@ -1,0 +1,156 @@
+#include "Plugin/NoteloftPlugin.h"
+
+#include <lv2/atom/util.h>
+#include <lv2/midi/midi.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <new>
+#include <string>
+#include <vector>
+
+using noteloft::plugin::NoteloftPlugin;
+
+namespace {
+
+thread_local long allocations = 0;
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+namespace {
+
+constexpr std::uint32_t otherType = 99;
+
+LV2_URID mapUri(LV2_URID_Map_Handle, const char* uri) {
+    static std::map<std::string, LV2_URID> known;
+    return known.try_emplace(uri, static_cast<LV2_URID>(known.size() + 1)).first->second;
+}
+
+struct alignas(8) SequenceBuffer {
+    std::array<std::uint8_t, 1024> bytes{};
+
+    LV2_Atom_Sequence* sequence() { return reinterpret_cast<LV2_Atom_Sequence*>(bytes.data()); }
+};
+
+class NoteloftPluginTest : public testing::Test {
+protected:
+    NoteloftPluginTest() {
+        m_plugin.connect(0, m_input.sequence());
+        m_plugin.connect(1, m_output.sequence());
+        for (std::uint32_t i = 0; i < m_controls.size(); ++i)
+            m_plugin.connect(2 + i, &m_controls[i]);
+        m_plugin.activate();
+        clearInput();
+    }
+
+    void clearInput() {
+        lv2_atom_sequence_clear(m_input.sequence());
+        m_input.sequence()->atom.type = mapUri(nullptr, LV2_ATOM__Sequence);
+    }
+
+    void add(std::int64_t frame, const std::vector<std::uint8_t>& bytes,
+             LV2_URID type = mapUri(nullptr, LV2_MIDI__MidiEvent)) {
+        auto* sequence = m_input.sequence();
+        auto* event = lv2_atom_sequence_end(&sequence->body, sequence->atom.size);
+        event->time.frames = frame;
+        event->body = {static_cast<std::uint32_t>(bytes.size()), type};
+        std::memcpy(event + 1, bytes.data(), bytes.size());
+        sequence->atom.size += sizeof(LV2_Atom_Event) + lv2_atom_pad_size(event->body.size);
+    }
+
+    // A message is its frame and its bytes.
+    std::vector<std::vector<int>> run(std::uint32_t frames, std::uint32_t room = 512) {
+        m_output.sequence()->atom = {room, 0};
+        m_plugin.run(frames);
+        std::vector<std::vector<int>> messages;
+        LV2_ATOM_SEQUENCE_FOREACH(m_output.sequence(), event) {
+            const auto* bytes = reinterpret_cast<const std::uint8_t*>(event + 1);
+            messages.emplace_back(1, static_cast<int>(event->time.frames));
+            messages.back().insert(messages.back().end(), bytes, bytes + event->body.size);
+        }
+        clearInput();
+        return messages;
+    }
+
+    LV2_URID_Map m_map{nullptr, mapUri};
+    NoteloftPlugin m_plugin{m_map};
+    SequenceBuffer m_input;
+    SequenceBuffer m_output;
+    std::array<float, 5> m_controls = {0, 100, 100, 0, 1};
+};
+
+using Messages = std::vector<std::vector<int>>;
+
+} // namespace
+
+TEST_F(NoteloftPluginTest, ControlsHaveTheirUnits) {
+    m_controls = {11.6F, 50, 100, 0, 1};
+    add(5, {0x90, 60, 100});
+    EXPECT_EQ(run(64), (Messages{{5, 0x90, 72, 50}}));
+    m_controls = {1000, 100, -5, 0, 1};
+    add(6, {0x90, 61, 100});
+    add(7, {0x80, 60, 0});
+    EXPECT_EQ(run(64), (Messages{{7, 0x80, 72, 0}})) << "no chance is left";
+    m_controls[4] = 0;
+    add(8, {0x90, 60, 100});
+    EXPECT_EQ(run(64), (Messages{{8, 0x90, 60, 100}}));
+}
+
+TEST_F(NoteloftPluginTest, OtherAtomsAreNotPassedOn) {
+    add(0, {1, 2, 3, 4}, otherType);
+    add(63, {0xF8});
+    EXPECT_EQ(run(64), (Messages{{63, 0xF8}}));
+}
+
+TEST_F(NoteloftPluginTest, RespectsTheRoomInTheOutput) {
+    const std::uint32_t twoEvents = sizeof(LV2_Atom_Sequence_Body) + 2 * (sizeof(LV2_Atom_Event) + 8);
+    for (int i = 0; i < 3; ++i)
+        add(i, {0x90, static_cast<std::uint8_t>(60 + i), 100});
+    EXPECT_EQ(run(64, twoEvents), (Messages{{0, 0x90, 60, 100}, {1, 0x90, 61, 100}}));
+    add(0, {0x80, 60, 0});
+    m_output.sequence()->body = {};
+    EXPECT_TRUE(run(64, sizeof(LV2_Atom_Sequence_Body)).empty());
+    EXPECT_EQ(run(64), (Messages{{0, 0x80, 60, 64}}));
+}
+
+TEST_F(NoteloftPluginTest, EmptyBlockSendsNothingOfItsOwn) {
+    add(0, {0x90, 60, 100});
+    run(64);
+    m_plugin.activate();
+    EXPECT_TRUE(run(0).empty());
+    EXPECT_EQ(run(1), (Messages{{0, 0x80, 60, 64}}));
+}
+
+TEST_F(NoteloftPluginTest, RunDoesNotAllocate) {
+    for (int i = 0; i < 20; ++i)
+        add(i, {0x90, static_cast<std::uint8_t>(40 + i), 100});
+    m_controls = {3, 150, 50, 1, 1};
+    m_output.sequence()->atom = {512, 0};
+    const long before = allocations;
+    m_plugin.run(64);
+    m_controls[3] = 0;
+    m_output.sequence()->atom = {512, 0};
+    m_plugin.run(64);
+    EXPECT_EQ(allocations, before);
+    ::operator delete(::operator new(1));
+    EXPECT_EQ(allocations, before + 1) << "allocations are counted";
+}
