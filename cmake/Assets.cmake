@@ -1,4 +1,7 @@
 # Compiles resource folders into bundle directories, in the build tree where an installation has them.
+# Debian's own Python, which has the font tools, before any other on the path.
+set(Python3_ROOT_DIR /usr)
+set(Python3_FIND_STRATEGY LOCATION)
 find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 find_program(GLSLANG glslangValidator REQUIRED)
@@ -35,4 +38,19 @@ function(noteloft_display_font)
     VERBATIM)
   add_custom_target(RocketFont DEPENDS "${font}")
   add_dependencies(Resources RocketFont)
+endfunction()
+
+# The icon that windows and the About panel show; desktops take the drawing itself.
+function(noteloft_application_icon)
+  set(icon "${NOTELOFT_RESOURCES}/Icons/noteloft.png")
+  set(drawing "${PROJECT_SOURCE_DIR}/packaging/icons/noteloft.svg")
+  add_custom_command(
+    OUTPUT "${icon}"
+    COMMAND ${CMAKE_COMMAND} -E make_directory "${NOTELOFT_RESOURCES}/Icons"
+    COMMAND ${RSVG_CONVERT} --width 256 --height 256 --output "${icon}" "${drawing}"
+    DEPENDS "${drawing}"
+    COMMENT "Rendering the application's icon"
+    VERBATIM)
+  add_custom_target(ApplicationIcon DEPENDS "${icon}")
+  add_dependencies(Resources ApplicationIcon)
 endfunction()

@@ -1,5 +1,5 @@
-# noteloft_module(<name> NAMESPACE <ns> SOURCES <...> LINKS <...>): a library target with the project's habits.
-function(noteloft_module name)
+# noteloft_library(<name> SOURCES <...> LINKS <...> PRIVATE_LINKS <...>): a library with the project's habits.
+function(noteloft_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;PRIVATE_LINKS")
   add_library(${name} STATIC ${arg_SOURCES})
   add_library(Noteloft::${name} ALIAS ${name})
@@ -9,6 +9,11 @@ function(noteloft_module name)
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
   noteloft_precompile(${name})
+endfunction()
+
+# noteloft_module(<name> ...): a library that other projects use, too.
+function(noteloft_module name)
+  noteloft_library(${name} ${ARGN})
   install(TARGETS ${name} EXPORT NoteloftTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
   install(DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/noteloft/${name}
     FILES_MATCHING PATTERN "*.h")

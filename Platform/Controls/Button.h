@@ -19,6 +19,7 @@ public:
     void setLabelWidth(qreal width);
 
     QSize sizeHint() const override;
+
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:

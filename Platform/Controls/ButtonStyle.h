@@ -30,7 +30,8 @@ public:
     /// The size of the button around a label of `label` points.
     virtual QSizeF size(QSizeF label) const = 0;
 
-    /// How far the background reaches beyond the button's place in a layout, on its left and right side, in points.
+    /// How far the background reaches beyond the button's place in a layout, on its left and right side, in
+    /// points.
     virtual qreal overhang() const { return 0; }
 
     virtual void paint(QPainter& painter, const ButtonConfiguration& configuration) const = 0;

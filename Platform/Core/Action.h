@@ -15,8 +15,9 @@ void setApplicationDelegate(QObject* delegate);
 /// True if `object` has the slot that `selector` names.
 bool respondsTo(const QObject* object, Selector selector);
 
-/// `target` if it responds; without a target the first that does of: the widget with the keyboard focus and its
-/// ancestors, up to and with their window, then the active window, then the application's delegate. Null if none does.
+/// `target` if it responds; without a target the first that does of: the widget with the keyboard focus and
+/// its ancestors, up to and with their window, then the active window, then the application's delegate. Null
+/// if none does.
 QObject* targetForAction(Selector selector, QObject* target = nullptr);
 
 /// Invokes the slot on the action's target. False if nobody responds. Main thread.

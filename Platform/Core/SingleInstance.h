@@ -9,22 +9,23 @@
 
 namespace platform {
 
-/// Lets one process of a program run for each user. The first one listens on a socket that only its user can open; a
-/// later one hands over what it was started with and ends. Main thread.
+/// Lets one process of a program run for each user. The first one listens on a socket that only its user can
+/// open; a later one hands over what it was started with and ends. Main thread.
 class SingleInstance {
 public:
-    /// `name` tells programs apart; a second object of the same name in one process is a later instance as well.
+    /// `name` tells programs apart; a second object of the same name in one process is a later instance as
+    /// well.
     explicit SingleInstance(const QString& name);
     ~SingleInstance();
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    /// Sends `arguments` to the instance that runs. False if none does, or it does not answer within two seconds:
-    /// then this one is to run.
+    /// Sends `arguments` to the instance that runs. False if none does, or it does not answer within two
+    /// seconds: then this one is to run.
     bool handOver(const QStringList& arguments) const;
 
-    /// Becomes the instance that runs: `received` gets the arguments of later ones, on the main thread. False if there
-    /// is no directory for the socket; the program then runs alone, which is no error.
+    /// Becomes the instance that runs: `received` gets the arguments of later ones, on the main thread. False
+    /// if there is no directory for the socket; the program then runs alone, which is no error.
     bool listen(std::function<void(const QStringList&)> received);
 
 private:

@@ -20,11 +20,13 @@ QFont font(const QStringList& families, qreal size, QFont::Weight weight) {
 
 QFont systemFont(qreal size, QFont::Weight weight, FontDesign design) {
     static const QString standard = QStringLiteral("Inter");
-    static const QString rounded = QStringLiteral("Quicksand");
     const QString general = QFont().family();
-    return font(design == FontDesign::rounded ? QStringList{rounded, standard, general}
-                                              : QStringList{standard, general},
-                size, weight);
+    if (design == FontDesign::standard)
+        return font({standard, general}, size, weight);
+    // Debian's medium is a family of its own.
+    const QString rounded =
+        weight == QFont::Medium ? QStringLiteral("Quicksand Medium") : QStringLiteral("Quicksand");
+    return font({rounded, standard, general}, size, weight);
 }
 
 QFont customFont(const QString& family, qreal size, QFont::Weight weight) {

@@ -29,10 +29,13 @@ constexpr char acknowledgement = '+';
 /// A directory that belongs to this user alone; empty if there is none.
 QString privateDirectory() {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    const QString directory = !runtime.isEmpty() ? runtime : QString(u"/tmp/noteloft-" + QString::number(getuid()));
+    const QString directory =
+        !runtime.isEmpty() ? runtime : QString(u"/tmp/noteloft-" + QString::number(getuid()));
     const QByteArray path = QFile::encodeName(directory);
     mkdir(path.constData(), S_IRWXU);
+
     struct stat status {};
+
     const bool isPrivate = lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
                            status.st_uid == getuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
     return isPrivate ? directory : QString();
@@ -46,12 +49,15 @@ public:
         setsockopt(number, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
         setsockopt(number, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
     }
+
     ~Descriptor() {
         if (m_number >= 0)
             close(m_number);
     }
+
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
+
     int number() const { return m_number; }
 
 private:
@@ -123,8 +129,8 @@ bool SingleInstance::handOver(const QStringList& arguments) const {
     const QByteArray message =
         QJsonDocument(QJsonArray::fromStringList(arguments)).toJson(QJsonDocument::Compact);
     char answer = 0;
-    return send(socket.number(), message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) ==
-               message.size() &&
+    return send(socket.number(), message.constData(), static_cast<std::size_t>(message.size()),
+                MSG_NOSIGNAL) == message.size() &&
            recv(socket.number(), &answer, 1, 0) == 1 && answer == acknowledgement;
 }
 
@@ -139,8 +145,7 @@ bool SingleInstance::listen(std::function<void(const QStringList&)> received) {
         ::listen(listener->socket.number(), 8) != 0)
         return false;
     listener->received = std::move(received);
-    listener->notifier =
-        std::make_unique<QSocketNotifier>(listener->socket.number(), QSocketNotifier::Read);
+    listener->notifier = std::make_unique<QSocketNotifier>(listener->socket.number(), QSocketNotifier::Read);
     QObject::connect(listener->notifier.get(), &QSocketNotifier::activated, listener->notifier.get(),
                      [raw = listener.get()] { raw->accept(); });
     m_listener = std::move(listener);

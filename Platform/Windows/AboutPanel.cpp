@@ -40,10 +40,11 @@ QDialog* makePanel(const QStringList& libraries) {
     icon->setAlignment(Qt::AlignCenter);
     column->addWidget(icon);
     addLine(*column, bundle.information(QStringLiteral("name")), systemFont(20, QFont::Bold));
-    addLine(*column,
-            QDialog::tr("Version %1 (%2)")
-                .arg(bundle.information(QStringLiteral("version")), bundle.information(QStringLiteral("build"))),
-            systemFont(12));
+    addLine(
+        *column,
+        QDialog::tr("Version %1 (%2)")
+            .arg(bundle.information(QStringLiteral("version")), bundle.information(QStringLiteral("build"))),
+        systemFont(12));
     column->addSpacing(4);
     addLine(*column, libraries.join(u'\n'), systemFont(11));
     column->addSpacing(4);

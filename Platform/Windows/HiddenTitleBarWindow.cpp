@@ -25,11 +25,16 @@ constexpr int fadeMilliseconds = 140;
 } // namespace
 
 HiddenTitleBarWindow::HiddenTitleBarWindow(const QString& title, QWidget* content, QMenu* menu)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), m_menu(menu), m_buttonBar(new QWidget(this)),
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
+      m_menu(menu),
+      m_buttonBar(new QWidget(this)),
       m_fade(new QVariantAnimation(this)) {
     setWindowTitle(title);
     setAttribute(Qt::WA_TranslucentBackground, isCompositing());
     setFixedSize(content->size());
+    // Until somebody uses the keyboard no control is marked.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
     content->setParent(this);
     content->move(0, 0);
     m_buttonBar->raise();
@@ -110,7 +115,8 @@ void HiddenTitleBarWindow::mousePressEvent(QMouseEvent* event) {
 
 void HiddenTitleBarWindow::mouseMoveEvent(QMouseEvent* event) {
     const QPoint moved = event->position().toPoint() - m_pressPosition;
-    if ((event->buttons() & Qt::LeftButton) != 0 && moved.manhattanLength() >= QApplication::startDragDistance())
+    if ((event->buttons() & Qt::LeftButton) != 0 &&
+        moved.manhattanLength() >= QApplication::startDragDistance())
         windowHandle()->startSystemMove();
 }
 

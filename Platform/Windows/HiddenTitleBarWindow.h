@@ -10,10 +10,10 @@ namespace platform {
 
 class WindowButton;
 
-/// A window of one fixed size without a frame of its own: it moves by its background, and small buttons for its menu,
-/// minimising and closing appear with the pointer. Its corners are round where a compositor runs. Ctrl+W closes it,
-/// Ctrl+M minimises it, F10 opens the menu; a click with the other button opens the window manager's menu at the
-/// upper edge and the window's menu elsewhere.
+/// A window of one fixed size without a frame of its own: it moves by its background, and small buttons for
+/// its menu, minimising and closing appear with the pointer. Its corners are round where a compositor runs.
+/// Ctrl+W closes it, Ctrl+M minimises it, F10 opens the menu; a click with the other button opens the window
+/// manager's menu at the upper edge and the window's menu elsewhere.
 class HiddenTitleBarWindow : public QWidget {
     Q_OBJECT
 

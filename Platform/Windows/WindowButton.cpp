@@ -52,7 +52,8 @@ void WindowButton::paintGlyph(QPainter& painter) const {
     switch (m_kind) {
     case Kind::menu:
         for (const qreal dy : {-3.5, 0.0, 3.5})
-            painter.drawLine(QPointF(middle - reach - 0.5, middle + dy), QPointF(middle + reach + 0.5, middle + dy));
+            painter.drawLine(QPointF(middle - reach - 0.5, middle + dy),
+                             QPointF(middle + reach + 0.5, middle + dy));
         break;
     case Kind::minimize:
         painter.drawLine(QPointF(middle - reach, middle + 0.5), QPointF(middle + reach, middle + 0.5));

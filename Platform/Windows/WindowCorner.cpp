@@ -21,8 +21,8 @@ bool isBottom(Qt::Corner corner) {
 
 WindowCorner::WindowCorner(Qt::Corner corner, QWidget* window) : QWidget(window), m_corner(corner) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setGeometry(isRight(corner) ? window->width() - radius : 0, isBottom(corner) ? window->height() - radius : 0,
-                radius, radius);
+    setGeometry(isRight(corner) ? window->width() - radius : 0,
+                isBottom(corner) ? window->height() - radius : 0, radius, radius);
     raise();
 }
 
@@ -30,7 +30,8 @@ void WindowCorner::paintEvent(QPaintEvent*) {
     QPainterPath outside;
     outside.addRect(rect());
     QPainterPath circle;
-    circle.addEllipse(QPointF(isRight(m_corner) ? 0 : radius, isBottom(m_corner) ? 0 : radius), radius, radius);
+    circle.addEllipse(QPointF(isRight(m_corner) ? 0 : radius, isBottom(m_corner) ? 0 : radius), radius,
+                      radius);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);

@@ -26,10 +26,11 @@ void main() {
     float y = p.y - 0.5;
     float s = float(seed & 0xffffu) * (1.0 / 65536.0);
 
-    // The ground: the window's own indigo at the lower edge, so that the header has no seam, lit from the middle.
-    float centre = max(0.0, 1.0 - 2.0 * abs(y));
-    centre *= centre;
-    vec3 light = vec3(0.0033, 0.0027, 0.0103) + vec3(0.0050, 0.0018, 0.0290) * centre;
+    // The ground: the window's own indigo at the upper and lower edge, so that the header has no seam, lit from the
+    // middle.
+    float centre = max(0.0, 1.0 - 4.0 * y * y);
+    float lit = centre * centre * centre;
+    vec3 light = vec3(0.00478, 0.00402, 0.01444) + vec3(0.0040, 0.0012, 0.0250) * lit;
 
     // One breath for the whole bundle, and a window that lets it run out towards the sides.
     float breath = 0.80 + 0.20 * wave(0.11 * time + s).x;
@@ -47,7 +48,7 @@ void main() {
 
     // Strands are dimmer at the sides, where they run together, and behind the middle, where a title stands.
     float middle = max(0.0, 1.0 - 4.0 * edge * edge) * max(0.0, 1.0 - 64.0 * y * y);
-    float strength = (0.25 + 0.75 * window) * (1.0 - 0.45 * middle);
+    float strength = (0.25 + 0.75 * window) * (1.0 - 0.45 * middle) * centre;
 
     for (int i = 0; i < 6; ++i) {
         Strand strand = strands[i];

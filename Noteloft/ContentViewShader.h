@@ -1,0 +1,31 @@
+#pragma once
+
+#include "VantorShaders/MetalShaderViewController.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace noteloft {
+
+/// The animated waveform behind the title of the welcome window.
+class ContentViewShader : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ContentViewShader(QWidget* parent = nullptr);
+    ~ContentViewShader() override;
+
+    /// Begins loading what the waveform needs on another thread.
+    static void prepare();
+
+    /// Draws the waveform anew, also while its clock stands.
+    void updateController();
+
+    vantor::MetalShaderViewController& controller() { return *m_controller; }
+
+private:
+    std::unique_ptr<vantor::MetalShaderViewController> m_controller;
+};
+
+} // namespace noteloft

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Noteloft/AppDelegate.h"
+#include "Noteloft/LaunchOptions.h"
+#include "Noteloft/SparkleHelper.h"
+
+#include <memory>
+
+class QMenu;
+
+namespace platform {
+class HiddenTitleBarWindow;
+}
+
+namespace noteloft {
+
+class ContentView;
+
+/// The application: its delegate, its updater, its one window and the menu of that. Made once, after the
+/// `QApplication`. Main thread.
+class NoteloftApp {
+public:
+    explicit NoteloftApp(const LaunchOptions& options);
+    ~NoteloftApp();
+    NoteloftApp(const NoteloftApp&) = delete;
+    NoteloftApp& operator=(const NoteloftApp&) = delete;
+
+    /// Delivers the launch notification and shows the window.
+    void finishLaunching();
+
+    /// What a later start of the program hands over: shows the window and opens the URLs.
+    void reopen(const QStringList& urls);
+
+    AppDelegate& delegate() { return m_appDelegate; }
+
+    platform::HiddenTitleBarWindow& window() { return *m_window; }
+
+    ContentView& contentView() { return *m_contentView; }
+
+private:
+    void makeMenu();
+    void makeScene(bool debugMode);
+
+    AppDelegate m_appDelegate;
+    SparkleHelper m_sparkleHelper;
+    std::unique_ptr<QMenu> m_menu;
+    ContentView* m_contentView = nullptr;
+    std::unique_ptr<platform::HiddenTitleBarWindow> m_window;
+};
+
+} // namespace noteloft

@@ -1,0 +1,88 @@
+#include "Noteloft/ContentViewShader.h"
+#include "Noteloft/LaunchOptions.h"
+#include "Noteloft/NoteloftApp.h"
+#include "Noteloft/ResourceBundle.h"
+#include "Platform/Core/SingleInstance.h"
+#include "Platform/Windows/HiddenTitleBarWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
+#include <QIcon>
+#include <QTimer>
+
+#include <cstdio>
+
+using noteloft::LaunchOptions;
+using noteloft::NoteloftApp;
+
+namespace {
+
+void registerFonts() {
+    const QDir fonts(noteloft::resourceBundle().path(QStringLiteral("Fonts")));
+    const auto files = fonts.entryList(QDir::Files);
+    for (const QString& file : files)
+        QFontDatabase::addApplicationFont(fonts.filePath(file));
+}
+
+void nameApplication(QApplication& application) {
+    application.setApplicationName(QStringLiteral("noteloft"));
+    application.setApplicationDisplayName(QStringLiteral("Noteloft"));
+    application.setOrganizationName(QStringLiteral("Quillfen"));
+    application.setOrganizationDomain(QStringLiteral("quillfen.example"));
+    application.setDesktopFileName(QStringLiteral("example.quillfen.Noteloft"));
+    // Closing the window leaves the application running.
+    application.setQuitOnLastWindowClosed(false);
+}
+
+/// Decoding the icon can wait until people see the window.
+void setIconLater(const QApplication& application) {
+    QTimer::singleShot(0, &application, [] {
+        QApplication::setWindowIcon(
+            QIcon(noteloft::resourceBundle().path(QStringLiteral("Icons/noteloft.png"))));
+    });
+}
+
+void takeScreenshotLater(NoteloftApp& application, const QString& file) {
+    constexpr int settling = 1500;
+    QTimer::singleShot(settling, &application.window(), [&application, file] {
+        const bool saved = application.window().grab().save(file);
+        if (!saved)
+            std::fprintf(stderr, "noteloft: cannot write %s\n", qPrintable(file));
+        QCoreApplication::exit(saved ? 0 : 1);
+    });
+}
+
+QStringList argumentsOf(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto options = LaunchOptions::parse(argumentsOf(argc, argv));
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(options.error));
+        return 2;
+    }
+    platform::SingleInstance instance(QStringLiteral("noteloft"));
+    const bool isAlone = !options.screenshot.isEmpty();
+    if (!isAlone && instance.handOver(options.urls))
+        return 0;
+    noteloft::ContentViewShader::prepare();
+    QApplication application(argc, argv);
+    nameApplication(application);
+    registerFonts();
+    NoteloftApp app(options);
+    if (isAlone)
+        takeScreenshotLater(app, options.screenshot);
+    else
+        instance.listen([&app](const QStringList& urls) { app.reopen(urls); });
+    app.finishLaunching();
+    app.delegate().applicationOpen(options.urls);
+    setIconLater(application);
+    return QApplication::exec();
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Platform/Graphics/DropShadow.h"
+
+#include <QLabel>
+
+#include <vector>
+
+namespace platform {
+
+/// A line of text with drop shadows, each under all that comes before it. The text is drawn once for each
+/// scale.
+class ShadowedLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    /// `margin` is the room for the shadows on each side, in points.
+    ShadowedLabel(const QString& text, QColor color, std::vector<DropShadow> shadows, int margin,
+                  QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QImage render(qreal scale) const;
+
+    QColor m_color;
+    std::vector<DropShadow> m_shadows;
+    int m_margin;
+    QImage m_rendered;
+};
+
+} // namespace platform
