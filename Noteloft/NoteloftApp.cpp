@@ -2,6 +2,7 @@
 
 #include "Noteloft/ContentView.h"
 #include "Noteloft/ContentViewModel.h"
+#include "Platform/AudioUnits/AudioComponentManager.h"
 #include "Platform/Core/Action.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 
@@ -49,6 +50,8 @@ void NoteloftApp::makeMenu() {
 }
 
 void NoteloftApp::makeScene(bool debugMode) {
+    if (debugMode)
+        platform::AudioComponentManager::shared().addCarriedComponents();
     constexpr qreal buttonWidth = 180;
     m_contentView = new ContentView(new ContentViewModel, debugMode, buttonWidth);
     m_window =

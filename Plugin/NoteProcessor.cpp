@@ -101,8 +101,8 @@ void NoteProcessor::noteOn(std::uint32_t frame, const std::uint8_t* bytes, MidiS
     if (!sink.write(frame, message, sizeof message))
         return;
     channel.voices[pitch] = Voice::sounding;
-    channel.pitchOfKey[key] = static_cast<std::int8_t>(pitch);
-    channel.keyOfPitch[pitch] = static_cast<std::int8_t>(key);
+    channel.pitchOfKey[key] = static_cast<std::int16_t>(pitch);
+    channel.keyOfPitch[pitch] = static_cast<std::int16_t>(key);
 }
 
 void NoteProcessor::noteOff(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {
@@ -131,7 +131,7 @@ void NoteProcessor::keyPressure(std::uint32_t frame, const std::uint8_t* bytes, 
 
 bool NoteProcessor::end(std::uint32_t frame, int index, int pitch, std::uint8_t velocity, MidiSink& sink) {
     Channel& channel = m_channels[index];
-    std::int8_t& pitchOfKey = channel.pitchOfKey[channel.keyOfPitch[pitch]];
+    std::int16_t& pitchOfKey = channel.pitchOfKey[channel.keyOfPitch[pitch]];
     if (pitchOfKey == pitch)
         pitchOfKey = noPitch;
     const std::uint8_t message[] = {static_cast<std::uint8_t>(noteOffStatus | index),

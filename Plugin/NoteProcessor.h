@@ -31,7 +31,7 @@ public:
 private:
     static constexpr int channelCount = 16;
     static constexpr int noteCount = 128;
-    static constexpr std::int8_t noPitch = -1;
+    static constexpr std::int16_t noPitch = -1;
 
     enum class Voice : std::uint8_t {
         silent,
@@ -42,8 +42,8 @@ private:
 
     struct Channel {
         std::array<Voice, noteCount> voices{};
-        std::array<std::int8_t, noteCount> pitchOfKey{};
-        std::array<std::int8_t, noteCount> keyOfPitch{};
+        std::array<std::int16_t, noteCount> pitchOfKey{};
+        std::array<std::int16_t, noteCount> keyOfPitch{};
     };
 
     void noteOn(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink);

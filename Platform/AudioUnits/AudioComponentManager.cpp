@@ -37,7 +37,7 @@ bool isComplete(const AudioComponentDescription& codes) {
 
 QString bundlePath(const LilvPlugin& plugin) {
     char* path = lilv_file_uri_parse(lilv_node_as_uri(lilv_plugin_get_bundle_uri(&plugin)), nullptr);
-    const QString result = QFile::decodeName(path);
+    QString result = QFile::decodeName(path);
     lilv_free(path);
     return result;
 }

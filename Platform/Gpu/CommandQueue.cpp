@@ -29,7 +29,8 @@ void RenderCommandEncoder::setViewport(const Viewport& viewport) {
 void RenderCommandEncoder::setVertexBuffer(const GpuBuffer& buffer, std::size_t offset, unsigned index) {
     glBindBuffer(GL_ARRAY_BUFFER, buffer.name());
     glEnableVertexAttribArray(index);
-    glVertexAttribPointer(index, 2, GL_FLOAT, GL_FALSE, 0, reinterpret_cast<const void*>(offset));
+    const auto* const start = static_cast<const char*>(nullptr) + offset; // OpenGL's way to say an offset
+    glVertexAttribPointer(index, 2, GL_FLOAT, GL_FALSE, 0, start);
 }
 
 void RenderCommandEncoder::setFragmentBytes(std::array<float, 2> value, std::size_t index) {

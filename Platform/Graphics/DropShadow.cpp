@@ -33,7 +33,7 @@ QImage blurredAndTransposed(const QImage& alpha, const std::vector<float>& weigh
         for (int x = 0; x < alpha.width(); ++x) {
             float sum = 0;
             for (int i = std::max(-reach, -x); i <= std::min(reach, alpha.width() - 1 - x); ++i)
-                sum += weights[static_cast<std::size_t>(std::abs(i))] * row[x + i];
+                sum += weights[static_cast<std::size_t>(std::abs(i))] * static_cast<float>(row[x + i]);
             result.scanLine(x)[y] = static_cast<uchar>(std::lround(sum));
         }
     }

@@ -104,7 +104,7 @@ QImage Image::bitmap(QSizeF size, qreal scale) const {
         return *known;
     auto* const drawn = new QImage(m_data->render(pixels, scale, m_tint));
     drawn->setDevicePixelRatio(scale);
-    const QImage result = *drawn;
+    QImage result = *drawn;
     m_data->drawn.insert(key, drawn);
     return result;
 }

@@ -16,8 +16,8 @@ struct Part {
 using Parts = std::array<Part, 3>;
 
 Parts split(int length, int first, int last) {
-    if (first + last > length) {
-        first = length * first / (first + last);
+    if (const int both = first + last; both > 0 && both > length) {
+        first = length * first / both;
         last = length - first;
     }
     return {{{0, first}, {first, length - first - last}, {length - last, last}}};

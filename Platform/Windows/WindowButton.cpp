@@ -18,7 +18,7 @@ WindowButton::WindowButton(Kind kind, const QString& name, QWidget* parent)
     setAccessibleName(name);
     setToolTip(name);
     setFocusPolicy(Qt::TabFocus);
-    setFixedSize(sizeHint());
+    setFixedSize(diameter, diameter);
 }
 
 void WindowButton::setPresence(qreal presence) {

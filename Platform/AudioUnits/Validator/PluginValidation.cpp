@@ -26,7 +26,8 @@ std::vector<TimedMidi> performance(std::uint32_t frameCount) {
         return result;
     for (std::uint32_t i = 0; i < std::size(messages); ++i)
         result.push_back(
-            {static_cast<std::uint32_t>(i * (frameCount - 1) / (std::size(messages) - 1)), messages[i]});
+            {static_cast<std::uint32_t>(std::uint64_t{i} * (frameCount - 1) / (std::size(messages) - 1)),
+             messages[i]});
     return result;
 }
 
