@@ -1,3 +1,5 @@
+#include "Platform/Core/Bundle.h"
+
 #include <QApplication>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -16,5 +18,8 @@ int main(int argc, char** argv) {
         qputenv("XDG_RUNTIME_DIR", runtimeDirectory.path().toUtf8());
     const QApplication application(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
+#ifdef NOTELOFT_MAIN_BUNDLE
+    platform::Bundle::setMainDirectory(QStringLiteral(NOTELOFT_MAIN_BUNDLE));
+#endif
     return RUN_ALL_TESTS();
 }

@@ -18,6 +18,7 @@ int main(int argc, char** argv) {
     label.show();
     const bool complete = tidepool::TPColors::grey85.color().isValid() &&
                           !tidepool::TPImages::button.image().bitmap({60, 24}, 2).isNull() &&
-                          chorale::EditorAssets::background.color().isValid() && effect.metalKitView() != nullptr;
+                          chorale::EditorAssets::background.color().isValid() &&
+                          effect.metalKitView() != nullptr;
     return complete ? 0 : 1;
 }

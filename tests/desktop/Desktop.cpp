@@ -1,0 +1,106 @@
+#include "tests/desktop/Desktop.h"
+
+#include <QDeadlineTimer>
+#include <QTest>
+
+#include <xcb/xtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+namespace {
+
+template <typename T>
+using Reply = std::unique_ptr<T, decltype(&std::free)>;
+
+} // namespace
+
+Desktop::Desktop() : m_connection(xcb_connect(nullptr, nullptr)) {
+    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    waitUntil([this] { return !property(m_root, atom("_NET_SUPPORTING_WM_CHECK")).isEmpty(); });
+}
+
+Desktop::~Desktop() {
+    xcb_disconnect(m_connection);
+}
+
+void Desktop::send(std::uint8_t type, std::uint8_t detail, QPoint position) {
+    xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, m_root,
+                        static_cast<int16_t>(position.x()), static_cast<int16_t>(position.y()), 0);
+    xcb_flush(m_connection);
+    wait(15);
+}
+
+void Desktop::press(Key key) {
+    send(XCB_KEY_PRESS, static_cast<std::uint8_t>(key));
+    send(XCB_KEY_RELEASE, static_cast<std::uint8_t>(key));
+}
+
+void Desktop::press(Key modifier, Key key) {
+    send(XCB_KEY_PRESS, static_cast<std::uint8_t>(modifier));
+    press(key);
+    send(XCB_KEY_RELEASE, static_cast<std::uint8_t>(modifier));
+}
+
+void Desktop::movePointer(QPoint position) {
+    send(XCB_MOTION_NOTIFY, 0, position);
+}
+
+void Desktop::click(QPoint position) {
+    movePointer(position);
+    send(XCB_BUTTON_PRESS, 1);
+    send(XCB_BUTTON_RELEASE, 1);
+}
+
+void Desktop::drag(QPoint from, QPoint to) {
+    constexpr int steps = 10;
+    movePointer(from);
+    send(XCB_BUTTON_PRESS, 1);
+    for (int i = 1; i <= steps; ++i)
+        movePointer(from + (to - from) * i / steps);
+    send(XCB_BUTTON_RELEASE, 1);
+}
+
+std::uint32_t Desktop::atom(const char* name) {
+    const auto cookie = xcb_intern_atom(m_connection, 0, static_cast<uint16_t>(std::strlen(name)), name);
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr),
+                                               &std::free);
+    return reply->atom;
+}
+
+QByteArray Desktop::property(std::uint32_t window, std::uint32_t name) {
+    const auto cookie = xcb_get_property(m_connection, 0, window, name, XCB_ATOM_ANY, 0, 4096);
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, cookie, nullptr),
+                                                &std::free);
+    if (!reply)
+        return {};
+    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+            xcb_get_property_value_length(reply.get())};
+}
+
+QStringList Desktop::windowTitles() {
+    const QByteArray list = property(m_root, atom("_NET_CLIENT_LIST"));
+    std::vector<std::uint32_t> windows(static_cast<std::size_t>(list.size()) / sizeof(std::uint32_t));
+    std::memcpy(windows.data(), list.constData(), windows.size() * sizeof(std::uint32_t));
+    QStringList titles;
+    for (const std::uint32_t window : windows)
+        titles << QString::fromUtf8(property(window, atom("_NET_WM_NAME")));
+    return titles;
+}
+
+void Desktop::requestSize(std::uint32_t window, QSize size) {
+    const std::uint32_t values[] = {static_cast<std::uint32_t>(size.width()),
+                                    static_cast<std::uint32_t>(size.height())};
+    xcb_configure_window(m_connection, window, XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, values);
+    xcb_flush(m_connection);
+}
+
+bool Desktop::waitUntil(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 5000);
+}
+
+void Desktop::wait(int milliseconds) {
+    QTest::qWait(milliseconds);
+}

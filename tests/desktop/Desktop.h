@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <functional>
+
+/// Keys by their code on every Xvfb.
+enum class Key : std::uint8_t {
+    escape = 9,
+    tab = 23,
+    w = 25,
+    enter = 36,
+    control = 37,
+    m = 58,
+    space = 65,
+    f10 = 76,
+};
+
+/// The screen as a person has it: real keys and a real pointer, and the windows that the window manager
+/// lists.
+class Desktop {
+public:
+    /// Waits for the window manager.
+    Desktop();
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    void press(Key key);
+    void press(Key modifier, Key key);
+    void movePointer(QPoint position);
+    void click(QPoint position);
+    void drag(QPoint from, QPoint to);
+
+    QStringList windowTitles();
+
+    /// Asks the window manager to resize the window, as a person's tool would.
+    void requestSize(std::uint32_t window, QSize size);
+
+    /// Turns the event loop until `condition` holds; false after five seconds.
+    static bool waitUntil(const std::function<bool()>& condition);
+
+    /// Turns the event loop.
+    static void wait(int milliseconds);
+
+private:
+    void send(std::uint8_t type, std::uint8_t detail, QPoint position = {});
+    std::uint32_t atom(const char* name);
+    QByteArray property(std::uint32_t window, std::uint32_t name);
+
+    xcb_connection_t* m_connection;
+    std::uint32_t m_root;
+};
