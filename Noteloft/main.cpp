@@ -3,6 +3,7 @@
 #include "Noteloft/NoteloftApp.h"
 #include "Noteloft/ResourceBundle.h"
 #include "Platform/Core/SingleInstance.h"
+#include "Platform/Graphics/SystemFont.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 
 #include <QApplication>
@@ -76,6 +77,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     nameApplication(application);
     registerFonts();
+    QApplication::setFont(platform::systemFont(13));
     NoteloftApp app(options);
     if (isAlone)
         takeScreenshotLater(app, options.screenshot);

@@ -1,5 +1,7 @@
 #include "Tidepool/ConfirmationAlert.h"
 
+#include "Platform/Windows/Alert.h"
+
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -9,9 +11,7 @@ namespace tidepool {
 
 void showConfirmationAlert(QWidget* parent, const QString& message, const QString& informativeText,
                            const QString& confirmTitle, std::function<void()> action) {
-    auto* const alert = new QMessageBox(QMessageBox::Warning, {}, message, QMessageBox::NoButton, parent);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setInformativeText(informativeText);
+    auto* const alert = platform::makeAlert(message, informativeText, parent);
     const auto* const confirm = alert->addButton(confirmTitle, QMessageBox::AcceptRole);
     alert->setEscapeButton(alert->addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole));
     QObject::connect(confirm, &QPushButton::clicked, alert, std::move(action));

@@ -1,4 +1,4 @@
-#include "Platform/Windows/WindowSystem.h"
+#include "Platform/Core/WindowSystem.h"
 
 #include <QGuiApplication>
 #include <QPoint>

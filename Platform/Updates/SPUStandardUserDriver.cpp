@@ -2,6 +2,7 @@
 
 #include "Platform/Core/Bundle.h"
 #include "Platform/Updates/SPUStandardUserDriverDelegate.h"
+#include "Platform/Windows/Alert.h"
 
 #include <QDesktopServices>
 #include <QPushButton>
@@ -27,22 +28,23 @@ SPUStandardUserDriver::~SPUStandardUserDriver() {
     delete m_dialog;
 }
 
-QMessageBox& SPUStandardUserDriver::replaceDialog(QMessageBox::Icon icon, const QString& text,
-                                                  const QString& information) {
+QMessageBox& SPUStandardUserDriver::replaceDialog(const QString& text, const QString& information) {
     delete m_dialog;
-    m_dialog = new QMessageBox(icon, productName(), text);
-    m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_dialog = makeAlert(text, information);
     m_dialog->setAttribute(Qt::WA_ShowWithoutActivating);
     m_dialog->setWindowModality(Qt::NonModal);
-    // Much of the text comes from the network.
-    m_dialog->setTextFormat(Qt::PlainText);
-    m_dialog->setInformativeText(information);
     return *m_dialog;
 }
 
+void SPUStandardUserDriver::showMessage(const QString& text, const QString& information) {
+    QMessageBox& dialog = replaceDialog(text, information);
+    dialog.setEscapeButton(dialog.addButton(QMessageBox::tr("OK"), QMessageBox::AcceptRole));
+    dialog.show();
+}
+
 void SPUStandardUserDriver::showUserInitiatedUpdateCheck(std::function<void()> cancel) {
-    QMessageBox& dialog = replaceDialog(QMessageBox::NoIcon, QStringLiteral("Checking for updates…"), {});
-    dialog.setStandardButtons(QMessageBox::Cancel);
+    QMessageBox& dialog = replaceDialog(QStringLiteral("Checking for updates…"), {});
+    dialog.setEscapeButton(dialog.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole));
     connect(&dialog, &QDialog::finished, this, [cancel = std::move(cancel)] { cancel(); });
     dialog.show();
 }
@@ -53,8 +55,7 @@ void SPUStandardUserDriver::showUpdateFound(const AppcastItem& update) {
     const QString information =
         QStringLiteral("%1 %2 is now available; you have %3. Would you like to get it now?")
             .arg(productName(), update.displayVersion, productVersion());
-    replaceDialog(QMessageBox::Information,
-                  QStringLiteral("A new version of %1 is available!").arg(productName()), information);
+    replaceDialog(QStringLiteral("A new version of %1 is available!").arg(productName()), information);
     if (!update.isInformational)
         addLink(QStringLiteral("Download…"), QMessageBox::AcceptRole, update.downloadUrl);
     addLink(QStringLiteral("Learn More…"), QMessageBox::AcceptRole,
@@ -74,11 +75,11 @@ void SPUStandardUserDriver::addLink(const QString& title, QMessageBox::ButtonRol
 void SPUStandardUserDriver::showUpdateNotFound() {
     const QString information = QStringLiteral("%1 %2 is currently the newest version available.")
                                     .arg(productName(), productVersion());
-    replaceDialog(QMessageBox::Information, QStringLiteral("You're up to date!"), information).show();
+    showMessage(QStringLiteral("You're up to date!"), information);
 }
 
 void SPUStandardUserDriver::showUpdaterError(const UpdateError& error) {
-    replaceDialog(QMessageBox::Warning, error.message, error.advice).show();
+    showMessage(error.message, error.advice);
 }
 
 void SPUStandardUserDriver::showInFront() {

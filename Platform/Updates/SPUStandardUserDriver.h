@@ -33,7 +33,8 @@ public:
     void showInFront();
 
 private:
-    QMessageBox& replaceDialog(QMessageBox::Icon icon, const QString& text, const QString& information);
+    QMessageBox& replaceDialog(const QString& text, const QString& information);
+    void showMessage(const QString& text, const QString& information);
     void addLink(const QString& title, QMessageBox::ButtonRole role, const QUrl& url);
 
     SPUStandardUserDriverDelegate* m_delegate;

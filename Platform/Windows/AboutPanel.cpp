@@ -14,11 +14,12 @@ namespace platform {
 
 namespace {
 
-QLabel* addLine(QVBoxLayout& column, const QString& text, const QFont& font) {
+QLabel* addLine(QVBoxLayout& column, const QString& text, const QFont& font,
+                QPalette::ColorRole role = QPalette::WindowText) {
     auto* const label = new QLabel(text);
     label->setFont(font);
+    label->setForegroundRole(role);
     label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->setFocusPolicy(Qt::NoFocus);
     column.addWidget(label);
@@ -46,9 +47,10 @@ QDialog* makePanel(const QStringList& libraries) {
             .arg(bundle.information(QStringLiteral("version")), bundle.information(QStringLiteral("build"))),
         systemFont(12));
     column->addSpacing(4);
-    addLine(*column, libraries.join(u'\n'), systemFont(11));
+    addLine(*column, libraries.join(u'\n'), systemFont(11), QPalette::PlaceholderText);
     column->addSpacing(4);
-    addLine(*column, bundle.information(QStringLiteral("copyright")), systemFont(11));
+    addLine(*column, bundle.information(QStringLiteral("copyright")), systemFont(11),
+            QPalette::PlaceholderText);
     return panel;
 }
 

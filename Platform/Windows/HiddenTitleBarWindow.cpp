@@ -1,8 +1,9 @@
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 
+#include "Platform/Controls/MenuStyle.h"
+#include "Platform/Core/WindowSystem.h"
 #include "Platform/Windows/WindowButton.h"
 #include "Platform/Windows/WindowCorner.h"
-#include "Platform/Windows/WindowSystem.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -38,6 +39,7 @@ HiddenTitleBarWindow::HiddenTitleBarWindow(const QString& title, QWidget* conten
     content->setParent(this);
     content->move(0, 0);
     m_buttonBar->raise();
+    MenuStyle::apply(*menu);
     addButtons();
     if (testAttribute(Qt::WA_TranslucentBackground))
         addCorners();
@@ -57,6 +59,9 @@ void HiddenTitleBarWindow::addButtons() {
     bar->addWidget(minimize);
     bar->addWidget(close);
     connect(m_menuButton, &WindowButton::clicked, this, &HiddenTitleBarWindow::openMenu);
+    connect(m_menu, &QMenu::aboutToShow, this, [this] { setButtonsShown(true); });
+    connect(m_menu, &QMenu::aboutToHide, this,
+            [this] { setButtonsShown(underMouse() || isKeyboardOnButtons()); });
     connect(minimize, &WindowButton::clicked, this, &QWidget::showMinimized);
     connect(close, &WindowButton::clicked, this, &QWidget::close);
     for (WindowButton* button : {m_menuButton, minimize, close})
@@ -71,6 +76,8 @@ void HiddenTitleBarWindow::addButtons() {
 }
 
 void HiddenTitleBarWindow::addCorners() {
+    // Compositors that know windows only by their shape put the shadow behind the corners, too.
+    setMask(WindowCorner::shape(size()));
     for (const Qt::Corner corner :
          {Qt::TopLeftCorner, Qt::TopRightCorner, Qt::BottomLeftCorner, Qt::BottomRightCorner})
         new WindowCorner(corner, this);
@@ -125,14 +132,14 @@ void HiddenTitleBarWindow::enterEvent(QEnterEvent*) {
 }
 
 void HiddenTitleBarWindow::leaveEvent(QEvent*) {
-    setButtonsShown(isKeyboardOnButtons());
+    setButtonsShown(isKeyboardOnButtons() || m_menu->isVisible());
 }
 
 bool HiddenTitleBarWindow::eventFilter(QObject*, QEvent* event) {
     if (event->type() == QEvent::FocusIn)
         setButtonsShown(true);
     else if (event->type() == QEvent::FocusOut)
-        setButtonsShown(underMouse());
+        setButtonsShown(underMouse() || m_menu->isVisible());
     return false;
 }
 

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <cmath>
+
 namespace platform {
 
 namespace {
@@ -24,6 +26,18 @@ WindowCorner::WindowCorner(Qt::Corner corner, QWidget* window) : QWidget(window)
     setGeometry(isRight(corner) ? window->width() - radius : 0,
                 isBottom(corner) ? window->height() - radius : 0, radius, radius);
     raise();
+}
+
+QRegion WindowCorner::shape(QSize size) {
+    QRegion region(0, radius, size.width(), size.height() - 2 * radius);
+    for (int y = 0; y < radius; ++y) {
+        // The lower edge of the row is where the circle is widest in it.
+        const int rise = radius - (y + 1);
+        const int inset = static_cast<int>(radius - std::sqrt(radius * radius - rise * rise));
+        region += QRect(inset, y, size.width() - 2 * inset, 1);
+        region += QRect(inset, size.height() - 1 - y, size.width() - 2 * inset, 1);
+    }
+    return region;
 }
 
 void WindowCorner::paintEvent(QPaintEvent*) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRegion>
 #include <QWidget>
 
 namespace platform {
@@ -10,6 +11,9 @@ class WindowCorner : public QWidget {
 
 public:
     WindowCorner(Qt::Corner corner, QWidget* window);
+
+    /// All points of a window of `size` that its round corners do not leave wholly empty.
+    static QRegion shape(QSize size);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
