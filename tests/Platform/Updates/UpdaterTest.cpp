@@ -193,7 +193,7 @@ TEST_F(UpdaterTest, CancelledCheckShowsNothingMore) {
     m_server.ignore("/feed");
     m_controller.checkForUpdates(nullptr);
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_server.requestCount() == 1; }, 10'000));
-    shownDialog()->button(QMessageBox::Cancel)->click();
+    shownDialog()->escapeButton()->click();
     QTest::qWait(100);
     EXPECT_EQ(shownDialog(), nullptr);
     EXPECT_EQ(check(feed("11", enclosure)), available) << "the next check works";
@@ -211,7 +211,6 @@ TEST_F(UpdaterTest, MissingFeedIsAnError) {
     EXPECT_EQ(check(), "The update information was not found on the server.");
     EXPECT_EQ(shownDialog()->informativeText(),
               QStringLiteral("Please try again later, or get the latest version from the website."));
-    EXPECT_EQ(shownDialog()->icon(), QMessageBox::Warning);
 }
 
 TEST_F(UpdaterTest, ServerThatIsAwayIsAnError) {
