@@ -28,7 +28,8 @@ endfunction()
 # The display face is generated, too: it goes where the programs that ship it look for fonts.
 function(noteloft_display_font)
   set(font "${NOTELOFT_RESOURCES}/Fonts/Rocket.ttf")
-  file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/tools/rocket/*.py")
+  set(sources make_rocket.py glyphs.py kerning.py shapes.py)
+  list(TRANSFORM sources PREPEND "${PROJECT_SOURCE_DIR}/tools/rocket/")
   add_custom_command(
     OUTPUT "${font}"
     COMMAND ${CMAKE_COMMAND} -E make_directory "${NOTELOFT_RESOURCES}/Fonts"
