@@ -10,14 +10,15 @@
 
 namespace platform {
 
-RenderCommandEncoder::RenderCommandEncoder(const RenderPassDescriptor& descriptor) {
+RenderCommandEncoder::RenderCommandEncoder(const RenderPassDescriptor& descriptor)
+    : m_space(descriptor.drawable->colorSpace()) {
     glBindFramebuffer(GL_FRAMEBUFFER, descriptor.drawable->framebuffer());
     glClear(GL_COLOR_BUFFER_BIT);
 }
 
 void RenderCommandEncoder::setRenderPipelineState(const RenderPipelineState& state) {
-    m_pipeline = &state;
-    glUseProgram(state.program());
+    m_program = &state.program(m_space);
+    glUseProgram(m_program->name());
 }
 
 void RenderCommandEncoder::setViewport(const Viewport& viewport) {
@@ -34,15 +35,15 @@ void RenderCommandEncoder::setVertexBuffer(const GpuBuffer& buffer, std::size_t 
 }
 
 void RenderCommandEncoder::setFragmentBytes(std::array<float, 2> value, std::size_t index) {
-    glUniform2f(m_pipeline->fragmentLocation(index), value[0], value[1]);
+    glUniform2f(m_program->fragmentLocation(index), value[0], value[1]);
 }
 
 void RenderCommandEncoder::setFragmentBytes(std::uint32_t value, std::size_t index) {
-    glUniform1ui(m_pipeline->fragmentLocation(index), value);
+    glUniform1ui(m_program->fragmentLocation(index), value);
 }
 
 void RenderCommandEncoder::setFragmentBytes(float value, std::size_t index) {
-    glUniform1f(m_pipeline->fragmentLocation(index), value);
+    glUniform1f(m_program->fragmentLocation(index), value);
 }
 
 void RenderCommandEncoder::drawTriangleStrip(int vertexStart, int vertexCount) {
@@ -60,7 +61,7 @@ CommandBuffer::makeRenderCommandEncoder(const RenderPassDescriptor& descriptor) 
 
 void CommandBuffer::commit() {
     if (m_presented != nullptr)
-        m_presented->resolve();
+        m_presented->present();
 }
 
 CommandQueue::CommandQueue(std::shared_ptr<GpuDevice> device) : m_device(std::move(device)) {

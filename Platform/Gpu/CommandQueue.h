@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Gpu/GpuContext.h"
+#include "Platform/Gpu/ScreenEncoding.h"
 
 #include <QString>
 
@@ -15,6 +16,7 @@ class CommandBuffer;
 class GpuBuffer;
 class GpuDevice;
 class GpuDrawable;
+class GpuProgram;
 class RenderPipelineState;
 
 /// The part of a drawable that a pass draws to, in pixels, and the range of its depths.
@@ -53,7 +55,8 @@ public:
     void endEncoding();
 
 private:
-    const RenderPipelineState* m_pipeline = nullptr;
+    ColorSpace m_space;
+    const GpuProgram* m_program = nullptr;
 };
 
 /// The commands of one frame, in effect when committed. The device's context is current while it lives.

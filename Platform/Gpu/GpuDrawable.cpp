@@ -1,7 +1,6 @@
 #include "Platform/Gpu/GpuDrawable.h"
 
 #include "Platform/Gpu/GpuDevice.h"
-#include "Platform/Gpu/ResolveShader.h"
 
 #include <epoxy/gl.h>
 
@@ -13,13 +12,15 @@ namespace platform {
 GpuDrawable::GpuDrawable(std::shared_ptr<GpuDevice> device, QSize size, ColorSpace space, ReadBack readBack)
     : m_device(std::move(device)),
       m_space(space),
-      m_resolvePipeline(m_device->makeRenderPipelineState(resolvePipelineDescriptor(space))),
       m_late(readBack == ReadBack::oneFrameLate),
       m_image(size, QImage::Format_RGB32) {
     const GpuContext::Scope scope(m_device->context());
-    m_linear = makeTarget(size, GL_RGBA16F);
-    m_encoded = makeTarget(size, GL_RGBA8);
-    glGenVertexArrays(1, &m_vertexArray);
+    glGenRenderbuffers(1, &m_renderbuffer);
+    glBindRenderbuffer(GL_RENDERBUFFER, m_renderbuffer);
+    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, size.width(), size.height());
+    glGenFramebuffers(1, &m_framebuffer);
+    glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, m_renderbuffer);
     if (!m_late)
         return;
     glGenBuffers(static_cast<int>(m_pixelBuffers.size()), m_pixelBuffers.data());
@@ -32,44 +33,12 @@ GpuDrawable::GpuDrawable(std::shared_ptr<GpuDevice> device, QSize size, ColorSpa
 
 GpuDrawable::~GpuDrawable() {
     const GpuContext::Scope scope(m_device->context());
-    destroy(m_linear);
-    destroy(m_encoded);
-    glDeleteVertexArrays(1, &m_vertexArray);
+    glDeleteFramebuffers(1, &m_framebuffer);
+    glDeleteRenderbuffers(1, &m_renderbuffer);
     glDeleteBuffers(static_cast<int>(m_pixelBuffers.size()), m_pixelBuffers.data());
 }
 
-GpuDrawable::Target GpuDrawable::makeTarget(QSize size, unsigned format) {
-    Target target;
-    glGenTextures(1, &target.texture);
-    glBindTexture(GL_TEXTURE_2D, target.texture);
-    glTexImage2D(GL_TEXTURE_2D, 0, static_cast<int>(format), size.width(), size.height(), 0, GL_RGBA,
-                 GL_FLOAT, nullptr);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-    glGenFramebuffers(1, &target.framebuffer);
-    glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
-    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, target.texture, 0);
-    return target;
-}
-
-void GpuDrawable::destroy(const Target& target) {
-    glDeleteFramebuffers(1, &target.framebuffer);
-    glDeleteTextures(1, &target.texture);
-}
-
-void GpuDrawable::drawResolvePass() const {
-    glBindFramebuffer(GL_FRAMEBUFFER, m_encoded.framebuffer);
-    glViewport(0, 0, m_image.width(), m_image.height());
-    glUseProgram(m_resolvePipeline->program());
-    glUniform1i(m_resolvePipeline->fragmentLocation(0), m_image.height());
-    glBindTexture(GL_TEXTURE_2D, m_linear.texture);
-    glBindVertexArray(m_vertexArray);
-    glDrawArrays(GL_TRIANGLES, 0, 3);
-    glUseProgram(0);
-}
-
-void GpuDrawable::resolve() {
-    drawResolvePass();
+void GpuDrawable::present() {
     if (m_late) {
         readLate();
         return;

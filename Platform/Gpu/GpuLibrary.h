@@ -13,7 +13,8 @@ namespace platform {
 
 class Bundle;
 
-/// One shader function of a library.
+/// One shader function of a library: GLSL 3.30 with a first line "#version 330 core". A fragment function
+/// writes linear light to `out vec4 color`.
 struct GpuFunction {
     QString name;
     QByteArray source;

@@ -5,6 +5,7 @@
 #include <epoxy/gl.h>
 
 #include <array>
+#include <utility>
 
 namespace platform {
 
@@ -13,12 +14,10 @@ namespace {
 /// A shader object that lives while its program is linked.
 class Shader {
 public:
-    Shader(unsigned stage, const std::optional<GpuFunction>& function, const QString& label) {
-        if (!function)
-            throw GpuError(label.toStdString() + ": a function is not in the library");
+    Shader(unsigned stage, const GpuFunction& function, const QByteArray& source) {
         m_name = glCreateShader(stage);
-        const char* source = function->source.constData();
-        glShaderSource(m_name, 1, &source, nullptr);
+        const char* text = source.constData();
+        glShaderSource(m_name, 1, &text, nullptr);
         glCompileShader(m_name);
         int compiled = 0;
         glGetShaderiv(m_name, GL_COMPILE_STATUS, &compiled);
@@ -27,7 +26,7 @@ public:
         std::array<char, 2048> log{};
         glGetShaderInfoLog(m_name, log.size(), nullptr, log.data());
         glDeleteShader(m_name);
-        throw GpuError(function->name.toStdString() + ": " + log.data());
+        throw GpuError(function.name.toStdString() + ": " + log.data());
     }
 
     ~Shader() { glDeleteShader(m_name); }
@@ -50,34 +49,53 @@ std::string RenderPipelineDescriptor::key() const {
     return part(vertexFunction) + '\0' + part(fragmentFunction);
 }
 
-RenderPipelineState::RenderPipelineState(GpuContext& context, const RenderPipelineDescriptor& descriptor)
-    : m_context(context) {
-    const GpuContext::Scope scope(m_context);
-    const Shader vertex(GL_VERTEX_SHADER, descriptor.vertexFunction, descriptor.label);
-    const Shader fragment(GL_FRAGMENT_SHADER, descriptor.fragmentFunction, descriptor.label);
+GpuProgram::GpuProgram(const RenderPipelineDescriptor& descriptor, ColorSpace space) {
+    if (!descriptor.vertexFunction || !descriptor.fragmentFunction)
+        throw GpuError(descriptor.label.toStdString() + ": a function is not in the library");
+    const auto& vertexFunction = *descriptor.vertexFunction;
+    const auto& fragmentFunction = *descriptor.fragmentFunction;
+    const Shader vertex(GL_VERTEX_SHADER, vertexFunction, uprightVertexSource(vertexFunction.source));
+    const Shader fragment(GL_FRAGMENT_SHADER, fragmentFunction,
+                          encodedFragmentSource(fragmentFunction.source, space));
     link(vertex.name(), fragment.name(), descriptor.label);
-    for (const auto& name : descriptor.fragmentFunction->bytes)
-        m_locations.push_back(glGetUniformLocation(m_program, name.c_str()));
+    for (const auto& name : fragmentFunction.bytes)
+        m_locations.push_back(glGetUniformLocation(m_name, name.c_str()));
 }
 
-void RenderPipelineState::link(unsigned vertex, unsigned fragment, const QString& label) {
-    m_program = glCreateProgram();
-    glAttachShader(m_program, vertex);
-    glAttachShader(m_program, fragment);
-    glLinkProgram(m_program);
+GpuProgram::~GpuProgram() {
+    glDeleteProgram(m_name);
+}
+
+void GpuProgram::link(unsigned vertex, unsigned fragment, const QString& label) {
+    m_name = glCreateProgram();
+    glAttachShader(m_name, vertex);
+    glAttachShader(m_name, fragment);
+    glLinkProgram(m_name);
     int linked = 0;
-    glGetProgramiv(m_program, GL_LINK_STATUS, &linked);
+    glGetProgramiv(m_name, GL_LINK_STATUS, &linked);
     if (linked != 0)
         return;
     std::array<char, 2048> log{};
-    glGetProgramInfoLog(m_program, log.size(), nullptr, log.data());
-    glDeleteProgram(m_program);
+    glGetProgramInfoLog(m_name, log.size(), nullptr, log.data());
+    glDeleteProgram(m_name);
     throw GpuError(label.toStdString() + ": " + log.data());
+}
+
+RenderPipelineState::RenderPipelineState(GpuContext& context, RenderPipelineDescriptor descriptor)
+    : m_context(context), m_descriptor(std::move(descriptor)) {
+    const GpuContext::Scope scope(m_context);
+    program(ColorSpace::extendedLinearSRGB);
 }
 
 RenderPipelineState::~RenderPipelineState() {
     const GpuContext::Scope scope(m_context);
-    glDeleteProgram(m_program);
+    m_programs.clear();
+}
+
+const GpuProgram& RenderPipelineState::program(ColorSpace space) const {
+    const auto known = m_programs.find(space);
+    return known != m_programs.end() ? known->second
+                                     : m_programs.try_emplace(space, m_descriptor, space).first->second;
 }
 
 } // namespace platform
