@@ -15,7 +15,7 @@ const int marker = 0;
 
 class BundleTest : public testing::Test {
 protected:
-    ~BundleTest() override { Bundle::setMainDirectory(QFileInfo(platform::programPath()).absolutePath()); }
+    ~BundleTest() override { Bundle::setMainDirectory(m_mainDirectory); }
 
     QString make(const QString& relative) const {
         QDir(m_root.path()).mkpath(relative);
@@ -28,6 +28,7 @@ protected:
         file.write(content);
     }
 
+    const QString m_mainDirectory = Bundle::main().directory();
     QTemporaryDir m_root;
 };
 

@@ -1,0 +1,155 @@
+#include "Platform/Graphics/AssetCatalog.h"
+
+#include "Platform/Core/Bundle.h"
+#include "Platform/Graphics/DisplayP3.h"
+#include "tests/support/Pixels.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPalette>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using platform::Appearance;
+using platform::AssetCatalog;
+using platform::Bundle;
+
+namespace {
+
+class AssetCatalogTest : public testing::Test {
+protected:
+    AssetCatalogTest() { platform::setAppearance(Appearance::dark); }
+
+    ~AssetCatalogTest() override { platform::setAppearance(Appearance::dark); }
+
+    AssetCatalog read(const QByteArray& manifest) const {
+        QFile file(m_root.filePath(QStringLiteral("Assets.json")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(manifest);
+        file.close();
+        return AssetCatalog(Bundle(m_root.path()));
+    }
+
+    QTemporaryDir m_root;
+};
+
+struct BundleContent {
+    const char* directory;
+    int colors;
+    int images;
+};
+
+/// The bundles as the asset compiler makes them.
+class CompiledBundleTest : public testing::TestWithParam<BundleContent> {
+protected:
+    ~CompiledBundleTest() override { platform::setAppearance(Appearance::dark); }
+
+    const Bundle m_bundle{Bundle::main().path(QString::fromLatin1(GetParam().directory))};
+    const AssetCatalog& m_catalog = AssetCatalog::of(m_bundle);
+
+    QJsonArray entries(const char* kind) const {
+        QFile file(m_bundle.path(QStringLiteral("Assets.json")));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        return QJsonDocument::fromJson(file.readAll()).object()[QLatin1StringView(kind)].toArray();
+    }
+};
+
+} // namespace
+
+TEST_F(AssetCatalogTest, ColorsFollowTheAppearance) {
+    const auto catalog = read(R"({"colors": [
+        {"name": "text", "light": "#102030ff", "dark": "#fedcba80", "space": "srgb"},
+        {"name": "short", "light": "#000000", "dark": "#010203"},
+        {"name": "broken", "light": "#12345", "dark": "white"}]})");
+    EXPECT_EQ(catalog.color(QStringLiteral("text")).rgba(), 0x80fedcbaU);
+    EXPECT_EQ(catalog.color(QStringLiteral("short")).rgba(), 0xff010203U);
+    EXPECT_FALSE(catalog.color(QStringLiteral("broken")).isValid());
+    platform::setAppearance(Appearance::light);
+    EXPECT_EQ(catalog.color(QStringLiteral("text")).rgba(), 0xff102030U);
+    EXPECT_FALSE(catalog.color(QStringLiteral("broken")).isValid());
+}
+
+TEST_F(AssetCatalogTest, UnknownNamesAreEmpty) {
+    const auto catalog = read(R"({"colors": [{"name": "Text", "light": "#102030", "dark": "#102030"}]})");
+    EXPECT_FALSE(catalog.color(QStringLiteral("text")).isValid()) << "case counts";
+    EXPECT_TRUE(catalog.image(QStringLiteral("Text")).isNull());
+    EXPECT_EQ(&catalog.color(QStringLiteral("Text")), &catalog.color(QStringLiteral("Text")));
+    EXPECT_FALSE(read("no JSON").color(QStringLiteral("Text")).isValid());
+    EXPECT_TRUE(AssetCatalog(Bundle(QStringLiteral("nowhere"))).image(QStringLiteral("Text")).isNull());
+}
+
+TEST_F(AssetCatalogTest, CapsAreTopLeftBottomRight) {
+    const auto catalog = read(R"({"images": [{"name": "a", "size": [8, 9], "capInsets": [1, 2, 3, 4],
+        "resizing": "tile", "template": true, "files": {"1": "a.png"}}]})");
+    const auto& image = catalog.image(QStringLiteral("a"));
+    EXPECT_EQ(image.capInsets(), QMarginsF(2, 1, 4, 3)) << "left, top, right, bottom";
+    EXPECT_EQ(image.size(), QSizeF(8, 9));
+    EXPECT_TRUE(image.isTemplate());
+}
+
+// The expected value is that of the matrices in CSS Color 4.
+TEST_F(AssetCatalogTest, DisplayP3IsConverted) {
+    const auto catalog = read(R"({"colors": [
+        {"name": "p3", "light": "#ffffffff", "dark": "#8040c080", "space": "display-p3"}]})");
+    EXPECT_LE(difference(catalog.color(QStringLiteral("p3")).rgba(), qRgba(138, 59, 199, 128)), 1);
+    platform::setAppearance(Appearance::light);
+    EXPECT_EQ(catalog.color(QStringLiteral("p3")).rgba(), 0xffffffffU);
+    EXPECT_EQ(platform::displayP3(1, 0, 0).rgba(), qRgb(255, 0, 0)) << "outside sRGB";
+    EXPECT_EQ(platform::displayP3(0, 0, 0, 0.5F).alpha(), 128);
+    EXPECT_EQ(platform::displayP3(0.5F, 0.5F, 0.5F).rgba(), qRgb(128, 128, 128));
+}
+
+TEST_F(AssetCatalogTest, AppearanceReachesTheStandardDialogs) {
+    EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 60);
+    EXPECT_GT(QApplication::palette().color(QPalette::WindowText).lightness(), 200);
+    EXPECT_NE(QApplication::palette().color(QPalette::Disabled, QPalette::Text),
+              QApplication::palette().color(QPalette::Active, QPalette::Text));
+    platform::setAppearance(Appearance::light);
+    EXPECT_EQ(platform::currentAppearance(), Appearance::light);
+    EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 150);
+}
+
+TEST_P(CompiledBundleTest, EveryImageHasItsPixelsAtEveryScale) {
+    const auto images = entries("images");
+    EXPECT_EQ(images.size(), GetParam().images);
+    for (const auto& entry : images) {
+        const QString name = entry[u"name"].toString();
+        const auto& image = m_catalog.image(name);
+        ASSERT_FALSE(image.size().isEmpty()) << name.toStdString();
+        const auto caps = image.capInsets();
+        EXPECT_LT(caps.left() + caps.right(), image.size().width()) << name.toStdString();
+        EXPECT_LT(caps.top() + caps.bottom(), image.size().height()) << name.toStdString();
+        for (const int scale : {1, 2, 3}) {
+            const QString file = entry[u"files"][QString::number(scale)].toString();
+            EXPECT_EQ(QImage(m_bundle.path(file)).size(), (image.size() * scale).toSize())
+                << file.toStdString();
+            const QImage drawn = image.bitmap(image.size(), scale);
+            QImage nothing(drawn.size(), drawn.format());
+            nothing.fill(Qt::transparent);
+            EXPECT_GT(difference(drawn, nothing), 16) << file.toStdString() << " is invisible";
+        }
+    }
+}
+
+TEST_P(CompiledBundleTest, EveryColorHasBothAppearances) {
+    const auto colors = entries("colors");
+    EXPECT_EQ(colors.size(), GetParam().colors);
+    for (const auto& entry : colors) {
+        const QString name = entry[u"name"].toString();
+        platform::setAppearance(Appearance::light);
+        const QColor light = m_catalog.color(name);
+        platform::setAppearance(Appearance::dark);
+        EXPECT_TRUE(light.isValid() && m_catalog.color(name).isValid()) << name.toStdString();
+        EXPECT_NE(light, m_catalog.color(name)) << name.toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Modules, CompiledBundleTest,
+                         testing::Values(BundleContent{"", 3, 3},
+                                         BundleContent{"Chorale_Chorale.bundle", 5, 1},
+                                         BundleContent{"Tidepool_Tidepool.bundle", 21, 51},
+                                         BundleContent{"VantorShaders_VantorShaders.bundle", 0, 2}));

@@ -1,0 +1,135 @@
+#include "Platform/Controls/Button.h"
+#include "tests/support/Pixels.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+using platform::Button;
+using platform::ButtonConfiguration;
+
+namespace {
+
+class PlainStyle : public platform::ButtonStyle {
+public:
+    explicit PlainStyle(ButtonConfiguration& painted) : m_painted(painted) {}
+
+    QFont font() const override { return QFont(QStringLiteral("Inter"), 20); }
+
+    QSizeF size(QSizeF label) const override { return {label.width() + 10.2, 24}; }
+
+    void paint(QPainter& painter, const ButtonConfiguration& configuration) const override {
+        m_painted = configuration;
+        painter.fillRect(configuration.frame, configuration.isPressed ? Qt::green : Qt::blue);
+        if (configuration.isFocused)
+            platform::paintFocusRing(painter, configuration.frame, 7);
+    }
+
+private:
+    ButtonConfiguration& m_painted;
+};
+
+class ButtonTest : public testing::Test {
+protected:
+    ButtonTest() : m_column(&m_window) {
+        m_column.addWidget(&m_other);
+        m_column.addWidget(&m_button);
+        m_other.setFocusPolicy(Qt::StrongFocus);
+        m_window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        m_other.setFocus();
+    }
+
+    ButtonConfiguration painted() {
+        picture(m_button);
+        return m_painted;
+    }
+
+    QPoint inside() const { return m_button.rect().center(); }
+
+    QPoint outside() const { return {m_button.width() + 30, 5}; }
+
+    ButtonConfiguration m_painted;
+    QWidget m_window;
+    QVBoxLayout m_column;
+    QWidget m_other;
+    Button m_button{QStringLiteral("Play"), std::make_unique<PlainStyle>(m_painted)};
+    QSignalSpy m_clicks{&m_button, &Button::clicked};
+};
+
+} // namespace
+
+TEST_F(ButtonTest, PointerClicksOnReleaseInside) {
+    QTest::mousePress(&m_button, Qt::LeftButton, {}, inside());
+    EXPECT_TRUE(painted().isPressed);
+    const QImage pressed = picture(m_button);
+    EXPECT_EQ(m_clicks.count(), 0);
+    QTest::mouseRelease(&m_button, Qt::LeftButton, {}, inside());
+    EXPECT_EQ(m_clicks.count(), 1);
+    EXPECT_FALSE(painted().isPressed);
+    EXPECT_GT(difference(pressed, picture(m_button)), 100);
+    QTest::mouseClick(&m_button, Qt::RightButton, {}, inside());
+    EXPECT_EQ(m_clicks.count(), 1);
+}
+
+TEST_F(ButtonTest, ReleaseOutsideIsNoClick) {
+    QTest::mousePress(&m_button, Qt::LeftButton, {}, inside());
+    QMouseEvent away(QEvent::MouseMove, outside(), m_button.mapToGlobal(outside()), Qt::NoButton,
+                     Qt::LeftButton, {});
+    QApplication::sendEvent(&m_button, &away);
+    EXPECT_FALSE(painted().isPressed) << "the look follows the pointer";
+    QTest::mouseRelease(&m_button, Qt::LeftButton, {}, outside());
+    EXPECT_EQ(m_clicks.count(), 0);
+}
+
+TEST_F(ButtonTest, TabReachesItAndKeysPressIt) {
+    QTest::mouseClick(&m_button, Qt::LeftButton, {}, inside());
+    EXPECT_FALSE(m_button.hasFocus()) << "the pointer leaves the keyboard where it is";
+    m_clicks.clear();
+    const QImage unfocused = picture(m_button);
+    QTest::keyClick(&m_window, Qt::Key_Tab);
+    ASSERT_TRUE(m_button.hasFocus());
+    EXPECT_TRUE(painted().isFocused);
+    EXPECT_GT(difference(unfocused, picture(m_button)), 30) << "a ring shows the focus";
+
+    QTest::keyPress(&m_button, Qt::Key_Space);
+    EXPECT_TRUE(painted().isPressed);
+    EXPECT_EQ(m_clicks.count(), 0);
+    QTest::keyRelease(&m_button, Qt::Key_Space);
+    EXPECT_EQ(m_clicks.count(), 1);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        m_clicks.clear();
+        QTest::keyClick(&m_button, key);
+        EXPECT_TRUE(painted().isPressed) << "the press is seen";
+        EXPECT_TRUE(m_clicks.wait(1000));
+        EXPECT_EQ(m_clicks.count(), 1);
+        EXPECT_FALSE(painted().isPressed);
+    }
+}
+
+TEST_F(ButtonTest, DisabledIgnoresEverything) {
+    m_button.setEnabled(false);
+    EXPECT_FALSE(painted().isEnabled);
+    QTest::mouseClick(&m_button, Qt::LeftButton, {}, inside());
+    QTest::keyClick(&m_button, Qt::Key_Space);
+    QTest::keyClick(&m_button, Qt::Key_Return);
+    QTest::qWait(150);
+    EXPECT_EQ(m_clicks.count(), 0);
+    QTest::keyClick(&m_window, Qt::Key_Tab);
+    EXPECT_FALSE(m_button.hasFocus());
+}
+
+TEST_F(ButtonTest, IsAsWideAsItsLabel) {
+    const qreal natural = QFontMetricsF(m_button.font()).horizontalAdvance(QStringLiteral("Play"));
+    EXPECT_EQ(m_button.sizeHint(), QSize(static_cast<int>(std::ceil(natural + 10.2)), 24));
+    m_button.setLabelWidth(180);
+    EXPECT_EQ(m_button.sizeHint(), QSize(191, 24));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_button.width(), 191) << "the layout follows";
+    EXPECT_EQ(painted().frame, QRectF(0, 0, 191, 24));
+    EXPECT_EQ(painted().label, QStringLiteral("Play"));
+}
