@@ -35,9 +35,10 @@ QImage ShadowedLabel::render(qreal scale) const {
 }
 
 void ShadowedLabel::paintEvent(QPaintEvent*) {
-    const qreal scale = devicePixelRatioF();
-    if (m_rendered.isNull() || m_rendered.devicePixelRatio() != scale)
-        m_rendered = render(scale);
+    if (auto look = std::tuple(text(), font(), size(), devicePixelRatioF()); look != m_renderedLook) {
+        m_renderedLook = std::move(look);
+        m_rendered = render(devicePixelRatioF());
+    }
     QPainter(this).drawImage(QPointF(), m_rendered);
 }
 

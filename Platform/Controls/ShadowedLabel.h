@@ -4,12 +4,13 @@
 
 #include <QLabel>
 
+#include <tuple>
 #include <vector>
 
 namespace platform {
 
-/// A line of text with drop shadows, each under all that comes before it. The text is drawn once for each
-/// scale.
+/// A line of text with drop shadows, each under all that comes before it. It is drawn once and then kept
+/// until its text, font, size or scale changes.
 class ShadowedLabel : public QLabel {
     Q_OBJECT
 
@@ -29,6 +30,7 @@ private:
     QColor m_color;
     std::vector<DropShadow> m_shadows;
     int m_margin;
+    std::tuple<QString, QFont, QSize, qreal> m_renderedLook;
     QImage m_rendered;
 };
 
