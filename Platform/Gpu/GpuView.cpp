@@ -21,6 +21,12 @@ void GpuView::setDevice(std::shared_ptr<GpuDevice> device) {
     m_drawable.reset();
     m_device = std::move(device);
     setNeedsDisplay();
+    updateTimer();
+}
+
+void GpuView::setDelegate(GpuViewDelegate* delegate) {
+    m_delegate = delegate;
+    updateTimer();
 }
 
 void GpuView::setPaused(bool paused) {
@@ -104,7 +110,8 @@ void GpuView::hideEvent(QHideEvent*) {
 }
 
 void GpuView::updateTimer() {
-    if (m_paused || !isVisible() || m_framesPerSecond <= 0)
+    const bool canDraw = m_device != nullptr && m_delegate != nullptr && m_framesPerSecond > 0;
+    if (m_paused || !isVisible() || !canDraw)
         m_timer.stop();
     else
         m_timer.start(1000 / m_framesPerSecond, Qt::PreciseTimer, this);

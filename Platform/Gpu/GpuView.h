@@ -41,10 +41,10 @@ public:
     void setDevice(std::shared_ptr<GpuDevice> device);
 
     /// Not owned; null for none.
-    void setDelegate(GpuViewDelegate* delegate) { m_delegate = delegate; }
+    void setDelegate(GpuViewDelegate* delegate);
 
-    /// A view starts paused. While it is paused it has no timer and draws only what `setNeedsDisplay` asks
-    /// for.
+    /// A view starts paused. While it is paused, and while it cannot draw, it has no timer; paused it draws
+    /// only what `setNeedsDisplay` asks for.
     bool isPaused() const { return m_paused; }
 
     void setPaused(bool paused);
