@@ -20,8 +20,8 @@ public:
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    /// Sends `arguments` to the instance that runs. False if none does, or it does not answer within two
-    /// seconds: then this one is to run.
+    /// Sends `arguments` to the instance that runs, or none if they are longer than 64 KiB in all. False if
+    /// no instance runs, or it does not answer within two seconds: then this one is to run.
     bool handOver(const QStringList& arguments) const;
 
     /// Becomes the instance that runs: `received` gets the arguments of later ones, on the main thread. False

@@ -126,8 +126,9 @@ bool SingleInstance::handOver(const QStringList& arguments) const {
         connect(socket.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         !isSameUser(socket.number()))
         return false;
-    const QByteArray message =
-        QJsonDocument(QJsonArray::fromStringList(arguments)).toJson(QJsonDocument::Compact);
+    QByteArray message = QJsonDocument(QJsonArray::fromStringList(arguments)).toJson(QJsonDocument::Compact);
+    if (message.size() > maximumMessage)
+        message = "[]";
     char answer = 0;
     return send(socket.number(), message.constData(), static_cast<std::size_t>(message.size()),
                 MSG_NOSIGNAL) == message.size() &&
