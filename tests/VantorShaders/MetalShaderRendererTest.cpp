@@ -1,0 +1,163 @@
+#include "VantorShaders/MetalShaderRenderer.h"
+
+#include "VantorShaders/PipelineBuilder.h"
+#include "VantorShaders/resource_bundle_accessor.h"
+#include "tests/support/GpuPicture.h"
+
+#include <QTest>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+using namespace std::chrono_literals;
+using platform::GpuDevice;
+using platform::GpuView;
+using vantor::MetalShaderRenderer;
+using vantor::RendererError;
+
+namespace {
+
+const QString vertexShader = QStringLiteral("audioWaveformVertexShader");
+const QString fragmentShader = QStringLiteral("audioWaveformFragmentShader");
+
+class MetalShaderRendererTest : public testing::Test {
+protected:
+    void SetUp() override {
+        NOTELOFT_REQUIRE_GPU();
+        m_view.resize(80, 60);
+        m_view.setDevice(GpuDevice::systemDefault());
+    }
+
+    MetalShaderRenderer makeRenderer() {
+        return {m_view, QStringLiteral("Main"), vertexShader, fragmentShader};
+    }
+
+    GpuView m_view;
+};
+
+class French : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char*, const char* key, const char*, int) const override {
+        return qstrcmp(key, "MetalRenderer.Error.description") == 0 ? QStringLiteral("Aucun appareil")
+                                                                    : QString();
+    }
+};
+
+} // namespace
+
+TEST_F(MetalShaderRendererTest, ClockLeavesOutEveryPause) {
+    auto renderer = makeRenderer();
+    EXPECT_LT(renderer.time(), 0.5F);
+    EXPECT_GE(renderer.time(), 0.0F);
+    const float start = renderer.time();
+    std::this_thread::sleep_for(30ms);
+    EXPECT_GE(renderer.time() - start, 0.03F) << "seconds";
+
+    for (const auto pause : {10s, 25s}) {
+        const float before = renderer.time();
+        renderer.pauseTime = MetalShaderRenderer::Clock::now() - pause;
+        renderer.resumeClock();
+        EXPECT_FALSE(renderer.pauseTime.has_value());
+        EXPECT_NEAR(before - renderer.time(), static_cast<float>(pause.count()), 0.5);
+    }
+    const float before = renderer.time();
+    renderer.resumeClock();
+    EXPECT_NEAR(renderer.time(), before, 0.5) << "no pause, nothing to leave out";
+}
+
+TEST_F(MetalShaderRendererTest, RenderersDifferInTheirSeed) {
+    const auto first = makeRenderer();
+    const auto second = makeRenderer();
+    const auto third = makeRenderer();
+    EXPECT_FALSE(first.seed() == second.seed() && second.seed() == third.seed());
+    EXPECT_EQ(first.name(), QStringLiteral("Main"));
+}
+
+TEST_F(MetalShaderRendererTest, ViewportFollowsTheDrawable) {
+    auto renderer = makeRenderer();
+    const auto size = m_view.drawableSize();
+    EXPECT_EQ(renderer.viewportSize(), (std::array{float(size.width()), float(size.height())}));
+    renderer.drawableSizeWillChange(m_view, {123, 45});
+    EXPECT_EQ(renderer.viewportSize(), (std::array{123.0F, 45.0F}));
+    renderer.setViewportSize({7, 8});
+    EXPECT_EQ(renderer.viewportSize(), (std::array{7.0F, 8.0F}));
+}
+
+TEST_F(MetalShaderRendererTest, DrawsInTheView) {
+    auto renderer = makeRenderer();
+    renderer.draw(m_view);
+    EXPECT_TRUE(m_view.image().isNull()) << "without a drawable the frame is skipped";
+    m_view.setDelegate(&renderer);
+    m_view.show();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_view.image().isNull(); }));
+    const QImage image = m_view.image();
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            colors.insert(image.pixel(x, y));
+    EXPECT_GT(colors.size(), 100);
+    m_view.setDelegate(nullptr);
+}
+
+TEST_F(MetalShaderRendererTest, ErrorsArePassedOn) {
+    const auto make = [this](const QString& vertex, const QString& fragment) {
+        const MetalShaderRenderer renderer(m_view, QStringLiteral("Main"), vertex, fragment);
+    };
+    EXPECT_THROW(make(QStringLiteral("none"), fragmentShader), platform::GpuError);
+    EXPECT_THROW(make(vertexShader, QStringLiteral("none")), platform::GpuError);
+    EXPECT_THROW(make(fragmentShader, fragmentShader), platform::GpuError);
+    EXPECT_NO_THROW(make(vertexShader, fragmentShader));
+    EXPECT_EQ(vantor::makePipelineState(*m_view.device(), vertexShader, fragmentShader),
+              vantor::makePipelineState(*m_view.device(), vertexShader, fragmentShader));
+}
+
+TEST_F(MetalShaderRendererTest, DrawsOnTheMainThreadOnly) {
+    auto renderer = makeRenderer();
+    EXPECT_DEATH(std::thread([&] { renderer.draw(m_view); }).join(), "must run on the main thread");
+    EXPECT_DEATH(std::thread([&] { renderer.drawableSizeWillChange(m_view, {}); }).join(),
+                 "must run on the main thread");
+}
+
+TEST(RendererError, SaysThatThereIsNoDevice) {
+    GpuView view;
+    try {
+        const MetalShaderRenderer renderer(view, QStringLiteral("Main"), vertexShader, fragmentShader);
+        FAIL() << "a view without a device cannot have a renderer";
+    } catch (const RendererError& error) {
+        EXPECT_EQ(error.code(), RendererError::noValidDevice);
+        EXPECT_EQ(error.localizedDescription(), QStringLiteral("No valid metal device"));
+        French french;
+        QCoreApplication::installTranslator(&french);
+        EXPECT_EQ(error.localizedDescription(), QStringLiteral("Aucun appareil"));
+        QCoreApplication::removeTranslator(&french);
+    }
+}
+
+TEST(GpuDevicePreparation, IsFinishedBeforeTheDeviceIsUsed) {
+    MetalShaderRenderer::prepare(vertexShader, fragmentShader);
+    MetalShaderRenderer::prepare(vertexShader, fragmentShader);
+    const auto device = GpuDevice::systemDefault();
+    EXPECT_EQ(GpuDevice::systemDefault(), device);
+    if (!device)
+        GTEST_SKIP() << "this machine can make no OpenGL context";
+    EXPECT_NO_THROW(vantor::makePipelineState(*device, vertexShader, fragmentShader));
+}
+
+TEST(GpuDevicePreparation, LeavesErrorsToTheRenderer) {
+    MetalShaderRenderer::prepare(QStringLiteral("none"), fragmentShader);
+    NOTELOFT_REQUIRE_GPU();
+    EXPECT_NO_THROW(vantor::makePipelineState(*GpuDevice::systemDefault(), vertexShader, fragmentShader));
+}
+
+TEST(VantorShadersBundle, IsRequired) {
+    EXPECT_DEATH(
+        {
+            platform::Bundle::setMainDirectory(QStringLiteral("/nowhere"));
+            vantor::resourceBundle();
+        },
+        "^unable to find bundle named VantorShaders_VantorShaders\n$");
+}

@@ -1,0 +1,191 @@
+#include "VantorShaders/MetalShaderViewController.h"
+
+#include "Platform/Gpu/GpuDevice.h"
+#include "Platform/Windows/WindowNotifications.h"
+#include "VantorShaders/MetalShaderRenderer.h"
+#include "tests/support/GpuPicture.h"
+#include "tests/support/Pixels.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using vantor::MetalShaderRenderer;
+using vantor::MetalShaderViewController;
+
+namespace {
+
+struct Effect {
+    explicit Effect(const char* fragment = "audioWaveformFragmentShader")
+        : view(new QWidget(&window)),
+          controller(view, QStringLiteral("Main"), QStringLiteral("audioWaveformVertexShader"),
+                     QString::fromLatin1(fragment)) {
+        window.resize(200, 150);
+        view->setGeometry(20, 10, 120, 90);
+    }
+
+    void activate() {
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    QWidget window;
+    QWidget* view;
+    MetalShaderViewController controller;
+};
+
+class MetalShaderViewControllerTest : public testing::Test {
+protected:
+    void SetUp() override { NOTELOFT_REQUIRE_GPU(); }
+};
+
+/// Ends the process with success if a machine without graphics shows an empty view that works.
+[[noreturn]] void runWithoutGraphics() {
+    qputenv("__EGL_VENDOR_LIBRARY_FILENAMES", "/dev/null");
+    MetalShaderRenderer::prepare(QStringLiteral("audioWaveformVertexShader"),
+                                 QStringLiteral("audioWaveformFragmentShader"));
+    EXPECT_EQ(platform::GpuDevice::systemDefault(), nullptr);
+    Effect effect;
+    QWidget other;
+    const QImage before = picture(effect.window);
+    for (int appearance = 0; appearance < 2; ++appearance) {
+        effect.activate();
+        QTest::qWait(50);
+        EXPECT_NE(effect.controller.metalKitView(), nullptr);
+        EXPECT_EQ(effect.controller.renderer(), nullptr);
+        EXPECT_EQ(difference(picture(effect.window), before), 0);
+        effect.controller.metalKitView()->setNeedsDisplay();
+        effect.controller.handleDidResignKey(&effect.window);
+        effect.controller.handleDidBecomeKey(&effect.window);
+        effect.window.resize(210, 160);
+        effect.window.resize(200, 150);
+        effect.window.hide();
+    }
+    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+}
+
+} // namespace
+
+TEST_F(MetalShaderViewControllerTest, ViewLivesWhileItAppears) {
+    Effect effect;
+    EXPECT_EQ(effect.controller.metalKitView(), nullptr);
+    EXPECT_EQ(effect.controller.renderer(), nullptr);
+    effect.activate();
+    auto* const gpuView = effect.controller.metalKitView();
+    ASSERT_NE(gpuView, nullptr);
+    EXPECT_EQ(gpuView->geometry(), effect.view->rect());
+    EXPECT_EQ(gpuView->colorSpace(), platform::ColorSpace::extendedLinearSRGB);
+    EXPECT_FALSE(gpuView->isPaused());
+    EXPECT_EQ(effect.controller.renderer()->name(), QStringLiteral("Main"));
+    effect.view->resize(150, 70);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(gpuView->geometry(), QRect(0, 0, 150, 70)) << "it follows by its edges";
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const auto size = gpuView->drawableSize();
+        return effect.controller.renderer()->viewportSize() ==
+               std::array{float(size.width()), float(size.height())};
+    }));
+    effect.window.hide();
+    EXPECT_EQ(effect.controller.metalKitView(), nullptr);
+    EXPECT_EQ(effect.controller.renderer(), nullptr);
+    EXPECT_TRUE(effect.view->findChildren<QWidget*>().isEmpty());
+}
+
+TEST_F(MetalShaderViewControllerTest, EachAppearanceBeginsAnew) {
+    Effect effect;
+    QSet<std::uint32_t> seeds;
+    for (int appearance = 0; appearance < 3; ++appearance) {
+        effect.activate();
+        EXPECT_LT(effect.controller.renderer()->time(), 1.0F);
+        seeds << effect.controller.renderer()->seed();
+        effect.controller.renderer()->pauseTime =
+            MetalShaderRenderer::Clock::now() + std::chrono::seconds(100);
+        effect.window.hide();
+    }
+    EXPECT_GT(seeds.size(), 1);
+}
+
+TEST_F(MetalShaderViewControllerTest, StandsStillWhileAnotherWindowIsKey) {
+    Effect effect;
+    for (int appearance = 0; appearance < 3;
+         ++appearance) { // which registers for the notifications each time
+        effect.window.hide();
+        effect.activate();
+    }
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    ASSERT_NE(effect.controller.renderer(), nullptr);
+    EXPECT_TRUE(effect.controller.metalKitView()->isPaused());
+    ASSERT_TRUE(effect.controller.renderer()->pauseTime.has_value());
+
+    const float before = effect.controller.renderer()->time();
+    *effect.controller.renderer()->pauseTime -= std::chrono::seconds(10);
+    effect.activate();
+    EXPECT_FALSE(effect.controller.metalKitView()->isPaused());
+    EXPECT_FALSE(effect.controller.renderer()->pauseTime.has_value());
+    EXPECT_NEAR(before - effect.controller.renderer()->time(), 10, 1) << "the ten seconds count once";
+}
+
+TEST_F(MetalShaderViewControllerTest, MindsOnlyItsOwnWindow) {
+    Effect effect;
+    effect.activate();
+    QWidget other;
+    effect.controller.handleDidResignKey(&other);
+    effect.controller.handleDidResignKey(nullptr);
+    effect.controller.handleDidResignKey(effect.view);
+    EXPECT_FALSE(effect.controller.metalKitView()->isPaused());
+    EXPECT_FALSE(effect.controller.renderer()->pauseTime.has_value());
+    effect.controller.handleDidResignKey(&effect.window);
+    effect.controller.handleDidBecomeKey(&other);
+    EXPECT_TRUE(effect.controller.metalKitView()->isPaused());
+    effect.window.hide();
+    effect.controller.handleDidBecomeKey(&effect.window);
+    effect.controller.handleDidResignKey(&effect.window);
+    EXPECT_EQ(effect.controller.metalKitView(), nullptr);
+}
+
+TEST_F(MetalShaderViewControllerTest, UnknownFunctionsGiveAnEmptyView) {
+    Effect effect("noSuchShader");
+    const QImage before = picture(effect.window);
+    effect.activate();
+    QTest::qWait(50);
+    EXPECT_NE(effect.controller.metalKitView(), nullptr);
+    EXPECT_EQ(effect.controller.renderer(), nullptr);
+    EXPECT_EQ(difference(picture(effect.window), before), 0);
+    effect.controller.handleDidResignKey(&effect.window);
+    effect.controller.handleDidBecomeKey(&effect.window);
+}
+
+TEST_F(MetalShaderViewControllerTest, ViewMayGoFirst) {
+    Effect effect;
+    effect.activate();
+    delete effect.view;
+    EXPECT_EQ(effect.controller.view(), nullptr);
+    EXPECT_EQ(effect.controller.metalKitView(), nullptr);
+    effect.controller.handleDidResignKey(&effect.window);
+    QTest::qWait(30);
+}
+
+TEST_F(MetalShaderViewControllerTest, ControllerMayGoFirst) {
+    QWidget window;
+    {
+        auto controller = std::make_unique<MetalShaderViewController>(
+            &window, QStringLiteral("Main"), QStringLiteral("audioWaveformVertexShader"),
+            QStringLiteral("audioWaveformFragmentShader"));
+        window.show();
+        ASSERT_NE(controller->renderer(), nullptr);
+    }
+    EXPECT_TRUE(window.findChildren<QWidget*>().isEmpty());
+    window.hide();
+    window.show();
+    QTest::qWait(30);
+}
+
+TEST(MetalShaderViewControllerWithoutGraphics, ShowsAnEmptyView) {
+    EXPECT_EXIT(runWithoutGraphics(), testing::ExitedWithCode(0), "");
+}
