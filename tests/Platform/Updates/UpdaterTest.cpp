@@ -12,6 +12,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QNetworkProxy>
 #include <QSslConfiguration>
@@ -143,6 +144,14 @@ TEST_F(UpdaterTest, NewerVersionIsOfferedWithItsLinks) {
     EXPECT_THAT(m_browser.opened,
                 testing::ElementsAre(QUrl(QStringLiteral("https://www.example/noteloft.tar.gz"))));
     EXPECT_EQ(shownDialog(), nullptr);
+}
+
+TEST_F(UpdaterTest, FeedCannotFormatTheDialog) {
+    check(feed("11&lt;h1&gt;!&lt;/h1&gt;", enclosure));
+    EXPECT_TRUE(shownDialog()->informativeText().contains(QStringLiteral("<h1>")));
+    const auto labels = shownDialog()->findChildren<QLabel*>();
+    for (const QLabel* label : labels)
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
 }
 
 TEST_F(UpdaterTest, InformationalUpdateHasNoDownload) {
