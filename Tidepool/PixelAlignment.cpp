@@ -11,12 +11,13 @@ double truncated(double points, double scale) {
     return std::trunc(scale * points) / scale;
 }
 
-/// The smallest rectangle on whole pixels around `rect`.
+/// The smallest rectangle on whole pixels around `rect`. What floating-point numbers are off by is no pixel.
 QRectF integral(const QRectF& rect, double scale) {
-    const double left = std::floor(rect.left() * scale);
-    const double top = std::floor(rect.top() * scale);
-    const double right = std::ceil(rect.right() * scale);
-    const double bottom = std::ceil(rect.bottom() * scale);
+    constexpr double tolerance = 1e-6;
+    const double left = std::floor(rect.left() * scale + tolerance);
+    const double top = std::floor(rect.top() * scale + tolerance);
+    const double right = std::ceil(rect.right() * scale - tolerance);
+    const double bottom = std::ceil(rect.bottom() * scale - tolerance);
     return {left / scale, top / scale, (right - left) / scale, (bottom - top) / scale};
 }
 
