@@ -102,7 +102,7 @@ TEST(ShadowedLabel, CastsItsShadowsBelowItsText) {
 }
 
 TEST(ShadowedLabel, FollowsItsTextFontAndSize) {
-    ShadowedLabel label(QStringLiteral("one"), Qt::white, {}, 4);
+    ShadowedLabel label(QStringLiteral("one"), Qt::red, {}, 4);
     label.resize(80, 40);
     const QImage one = picture(label);
     label.setText(QStringLiteral("two"));

@@ -1,0 +1,299 @@
+#include "Noteloft/ContentView.h"
+
+#include "Noteloft/ContentViewModel.h"
+#include "Noteloft/ContentViewShader.h"
+#include "Noteloft/ResourceBundle.h"
+#include "Platform/Controls/Button.h"
+#include "Platform/Controls/ImageView.h"
+#include "Platform/Core/Bundle.h"
+#include "Platform/Gpu/GpuDevice.h"
+#include "Platform/Gpu/GpuView.h"
+#include "VantorShaders/resource_bundle_accessor.h"
+#include "tests/support/Pixels.h"
+
+#include <QAccessible>
+#include <QDesktopServices>
+#include <QFile>
+#include <QFontInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using noteloft::Assets;
+using noteloft::ContentView;
+using noteloft::ContentViewModel;
+using platform::Bundle;
+using platform::Button;
+
+namespace {
+
+const QString notFound = QStringLiteral(
+    "Dev Only Debugging: Failed to find component with type: aumi, subtype: mdfx, manufacturer: Quil)");
+
+class Browser : public QObject {
+    Q_OBJECT
+
+public:
+    QStringList opened;
+
+public Q_SLOTS:
+
+    void open(const QUrl& url) { opened << url.toString(); }
+};
+
+class ContentViewTest : public testing::Test {
+protected:
+    ContentViewTest() {
+        qputenv("LV2_PATH", "");
+        // Found for good before a test changes the main bundle.
+        noteloft::resourceBundle();
+        vantor::resourceBundle();
+        QDesktopServices::setUrlHandler(QStringLiteral("https"), &m_browser, "open");
+    }
+
+    ~ContentViewTest() override {
+        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+        Bundle::setMainDirectory(m_mainDirectory);
+        qunsetenv("LV2_PATH");
+    }
+
+    ContentView& show(bool debugMode = false, qreal buttonWidth = 180) {
+        m_model = new ContentViewModel;
+        m_view = std::make_unique<ContentView>(m_model, debugMode, buttonWidth);
+        m_view->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(m_view.get()));
+        return *m_view;
+    }
+
+    /// The texts from top to bottom, with the title first.
+    QStringList texts() const {
+        QMultiMap<int, QString> texts;
+        const auto labels = m_view->findChildren<QLabel*>();
+        for (const QLabel* label : labels)
+            if (!label->text().isEmpty())
+                texts.insert(label->mapTo(m_view.get(), QPoint()).y(), label->text());
+        return texts.values();
+    }
+
+    QLabel* label(const QString& text) const {
+        const auto labels = m_view->findChildren<QLabel*>();
+        for (QLabel* each : labels)
+            if (each->text() == text)
+                return each;
+        return nullptr;
+    }
+
+    QRect place(const QWidget* widget) const {
+        return {widget->mapTo(m_view.get(), QPoint()), widget->size()};
+    }
+
+    Button* button(const QString& text) const {
+        const auto buttons = m_view->findChildren<Button*>();
+        for (Button* each : buttons)
+            if (each->text() == text)
+                return each;
+        return nullptr;
+    }
+
+    void useInformation(const QByteArray& information) {
+        QFile file(m_root.filePath(QStringLiteral("Info.json")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(information);
+        file.close();
+        QFile::link(Bundle::main().resourceDirectory(), m_root.filePath(QStringLiteral("Resources")));
+        Bundle::setMainDirectory(m_root.path());
+    }
+
+    const QString m_mainDirectory = Bundle::main().directory();
+    QTemporaryDir m_root;
+    Browser m_browser;
+    ContentViewModel* m_model = nullptr;
+    std::unique_ptr<ContentView> m_view;
+};
+
+} // namespace
+
+TEST_F(ContentViewTest, SaysWhatItHasToSay) {
+    useInformation(R"({"version": "1.2", "build": "45"})");
+    show();
+    EXPECT_EQ(texts(), (QStringList{QStringLiteral("Noteloft"),
+                                    QStringLiteral("Noteloft is now available as an Audio Unit."),
+                                    QStringLiteral("Keep this app in your applications folder."),
+                                    QStringLiteral("To use Noteloft, insert it as"),
+                                    QStringLiteral("a MIDI plugin on an instrument track."),
+                                    QStringLiteral("1.2 (45)")}));
+    EXPECT_NE(button(QStringLiteral("Help")), nullptr);
+    EXPECT_NE(button(QStringLiteral("Quillfen Website")), nullptr);
+    EXPECT_EQ(m_view->findChildren<QAbstractButton*>().size(), 2);
+}
+
+TEST_F(ContentViewTest, MissingInformationIsEmpty) {
+    useInformation(R"({"version": "1.0"})");
+    show();
+    EXPECT_TRUE(texts().contains(QStringLiteral("1.0 ()")));
+    useInformation("{}");
+    show();
+    EXPECT_TRUE(texts().contains(QStringLiteral(" ()")));
+}
+
+TEST_F(ContentViewTest, FontsAndColorsAreThoseOfEachGroup) {
+    useInformation(R"({"version": "1.2", "build": "45"})");
+    show(true);
+
+    struct Text {
+        const char16_t* text;
+        int size;
+        QFont::Weight weight;
+    };
+
+    for (const auto& [text, size, weight] :
+         {Text{u"Noteloft is now available as an Audio Unit.", 15, QFont::Bold},
+          Text{u"Keep this app in your applications folder.", 15, QFont::Bold},
+          Text{u"To use Noteloft, insert it as", 12, QFont::Medium},
+          Text{u"a MIDI plugin on an instrument track.", 12, QFont::Medium},
+          Text{u"1.2 (45)", 12, QFont::Medium}}) {
+        const auto* const each = label(QString::fromUtf16(text));
+        ASSERT_NE(each, nullptr);
+        EXPECT_EQ(each->font().pixelSize(), size);
+        EXPECT_EQ(each->font().weight(), weight);
+        EXPECT_EQ(each->palette().color(QPalette::WindowText), Assets::buttonText.color());
+        EXPECT_LE(each->sizeHint().width(), 400) << "fits in the window";
+    }
+    EXPECT_EQ(label(QStringLiteral("Noteloft"))->font().families().constFirst(), QStringLiteral("Rocket"));
+    EXPECT_EQ(label(QStringLiteral("Noteloft"))->font().pixelSize(), 36);
+    EXPECT_EQ(label(notFound)->font().weight(), QFont::Bold);
+}
+
+TEST_F(ContentViewTest, LayoutIsToThePoint) {
+    useInformation(R"({"version": "1.2", "build": "45"})");
+    auto& view = show();
+    EXPECT_EQ(view.size(), QSize(400, 572));
+    EXPECT_EQ(view.minimumSize(), view.maximumSize());
+    EXPECT_EQ(place(&view.waveform()), QRect(0, 0, 400, 300));
+    EXPECT_LE((place(label(QStringLiteral("Noteloft"))).center() - QPoint(199, 149)).manhattanLength(), 2);
+
+    // Each is laid out 176 wide, with 16 between, and drawn 2 wider on each side.
+    EXPECT_EQ(place(button(QStringLiteral("Help"))), QRect(14, 534, 180, 24));
+    EXPECT_EQ(place(button(QStringLiteral("Quillfen Website"))), QRect(206, 534, 180, 24));
+
+    const auto bottom = [this](const char16_t* text) {
+        return place(label(QString::fromUtf16(text))).bottom() + 1;
+    };
+    const auto top = [this](const char16_t* text) { return place(label(QString::fromUtf16(text))).top(); };
+    EXPECT_EQ(top(u"Keep this app in your applications folder."),
+              bottom(u"Noteloft is now available as an Audio Unit.") + 1);
+    EXPECT_EQ(top(u"a MIDI plugin on an instrument track."), bottom(u"To use Noteloft, insert it as") + 1);
+    EXPECT_EQ(top(u"To use Noteloft, insert it as"),
+              bottom(u"Keep this app in your applications folder.") + 16);
+    EXPECT_EQ(top(u"1.2 (45)"), bottom(u"a MIDI plugin on an instrument track.") + 16);
+
+    const QRect logo = place(view.findChild<platform::ImageView*>());
+    EXPECT_EQ(logo.size(), QSize(116, 32));
+    EXPECT_EQ(logo.left(), 142);
+    EXPECT_EQ(logo.top(), bottom(u"1.2 (45)") + 16);
+    const int above = top(u"Noteloft is now available as an Audio Unit.") - 16 - 300;
+    const int below = 534 - (logo.bottom() + 1);
+    EXPECT_GE(above, 0);
+    EXPECT_LE(std::abs(above - below), 1) << "both spacers share what is left";
+}
+
+TEST_F(ContentViewTest, ButtonWidthIsThatOfTheLabels) {
+    show(false, 120);
+    EXPECT_EQ(place(button(QStringLiteral("Help"))), QRect(74, 534, 120, 24));
+    EXPECT_EQ(place(button(QStringLiteral("Quillfen Website"))).left(), 206);
+}
+
+TEST_F(ContentViewTest, DrawsItsBackgroundAndItsLogo) {
+    auto& view = show();
+    const QImage image = picture(view);
+    const qreal scale = image.devicePixelRatio();
+    const auto at = [&](QPoint point) { return image.pixel((QPointF(point) * scale).toPoint()); };
+    for (const QPoint point :
+         {QPoint(2, 302), QPoint(397, 320), QPoint(2, 569), QPoint(397, 569), QPoint(200, 546)})
+        EXPECT_LE(difference(at(point), Assets::background.color().rgba()), 1)
+            << point.x() << ", " << point.y();
+    const QRect logo = place(view.findChild<platform::ImageView*>());
+    int ink = 0;
+    for (int y = logo.top(); y <= logo.bottom(); ++y)
+        for (int x = logo.left(); x <= logo.right(); ++x)
+            ink += difference(at({x, y}), Assets::buttonText.color().rgba()) < 8 ? 1 : 0;
+    EXPECT_GT(ink, 50) << "the logo has the colour of the text";
+}
+
+TEST_F(ContentViewTest, ButtonsOpenTheirPages) {
+    show();
+    QTest::mouseClick(button(QStringLiteral("Help")), Qt::LeftButton);
+    QTest::mouseClick(button(QStringLiteral("Quillfen Website")), Qt::LeftButton);
+    EXPECT_EQ(m_browser.opened,
+              (QStringList{QStringLiteral("https://" NOTELOFT_HELP_HOST "/help/noteloft/welcome/"),
+                           QStringLiteral(NOTELOFT_WEBSITE_URL)}));
+    EXPECT_EQ(&ContentView::helpURL(), &ContentView::helpURL());
+}
+
+TEST_F(ContentViewTest, ButtonLooksPressedWhilePressed) {
+    show();
+    auto& help = *button(QStringLiteral("Help"));
+    const QImage released = picture(help);
+    QTest::mousePress(&help, Qt::LeftButton);
+    EXPECT_GT(difference(released, picture(help)), 8);
+    QTest::mouseRelease(&help, Qt::LeftButton, {}, {-20, -20});
+    EXPECT_EQ(difference(released, picture(help)), 0);
+    EXPECT_TRUE(m_browser.opened.isEmpty());
+}
+
+TEST_F(ContentViewTest, ValidatesOnlyInDebugMode) {
+    show();
+    QTest::qWait(50);
+    EXPECT_EQ(m_model->statusText(), QStringLiteral("Validating...")) << "no component was looked up";
+    EXPECT_FALSE(texts().join(u'\n').contains(QStringLiteral("Debugging")));
+}
+
+TEST_F(ContentViewTest, StatusLineFollowsTheModelInDebugMode) {
+    m_model = new ContentViewModel;
+    m_view = std::make_unique<ContentView>(m_model, true, 180);
+    EXPECT_TRUE(texts().contains(QStringLiteral("Dev Only Debugging: Validating..."))) << "before it appears";
+    m_view->show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return texts().constLast() == notFound; }));
+    EXPECT_EQ(place(button(QStringLiteral("Help"))).bottom() + 1 + 14, place(label(notFound)).top());
+}
+
+TEST_F(ContentViewTest, AnotherStatusDrawsTheWaveformAnew) {
+    if (!platform::GpuDevice::systemDefault())
+        GTEST_SKIP() << "this machine can make no OpenGL context";
+    auto& view = show(true);
+    auto* const header = view.waveform().controller().metalKitView();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !header->image().isNull(); }));
+    header->setPaused(true);
+    QTest::qWait(60);
+    const auto shown = header->image().cacheKey();
+    QTest::qWait(60);
+    ASSERT_EQ(header->image().cacheKey(), shown);
+    Q_EMIT m_model->statusTextChanged();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return header->image().cacheKey() != shown; }, 1000));
+}
+
+TEST_F(ContentViewTest, EveryPartSpeaksToAssistiveTechnology) {
+    useInformation(R"({"version": "1.2", "build": "45"})");
+    show();
+    const auto describe = [](QWidget* widget) {
+        const auto* const accessible = QAccessible::queryAccessibleInterface(widget);
+        return std::pair(accessible->role(), accessible->text(QAccessible::Name).toStdString());
+    };
+    const auto all = texts();
+    for (const QString& text : all)
+        EXPECT_EQ(describe(label(text)), std::pair(QAccessible::StaticText, text.toStdString()));
+    EXPECT_EQ(describe(m_view->findChild<platform::ImageView*>()),
+              std::pair(QAccessible::Graphic, std::string("Quillfen")));
+    for (const auto* name : {"Help", "Quillfen Website"}) {
+        auto* const each = button(QString::fromLatin1(name));
+        EXPECT_EQ(describe(each), std::pair(QAccessible::Button, std::string(name)));
+        auto* const actions = QAccessible::queryAccessibleInterface(each)->actionInterface();
+        ASSERT_NE(actions, nullptr);
+        actions->doAction(QAccessibleActionInterface::pressAction());
+    }
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_browser.opened.size() == 2; })) << "they can be pressed";
+}
+
+#include "ContentViewTest.moc"
