@@ -70,7 +70,6 @@ TEST_F(RenderPipelineTest, IsCompiledOnceAndShared) {
     writeLibrary();
     const auto pipeline = m_device->makeRenderPipelineState(descriptor("white"));
     EXPECT_EQ(m_device->makeRenderPipelineState(descriptor("white")), pipeline);
-    EXPECT_EQ(pipeline->fragmentLocation(0), -1);
 }
 
 TEST_F(RenderPipelineTest, ErrorsSayWhatIsWrong) {
