@@ -5,12 +5,12 @@ namespace platform {
 namespace {
 
 constexpr auto sameGamut = R"(
-vec3 toSRGB(vec3 linear) { return linear; }
+vec3 platformToSRGB(vec3 linear) { return linear; }
 )";
 
 // CSS Color 4, section 10.9: linear Display P3 to linear sRGB, both D65.
 constexpr auto displayP3 = R"(
-vec3 toSRGB(vec3 linear) {
+vec3 platformToSRGB(vec3 linear) {
     return mat3(1.2249402, -0.0420569, -0.0196376,
                -0.2249402, 1.0420569, -0.0786361,
                 0.0, 0.0, 1.0982737) * linear;
@@ -23,8 +23,8 @@ vec3 toSRGB(vec3 linear) {
 // lie in memory.
 constexpr auto fragmentMain = R"(
 void main() {
-    drawLinear();
-    vec3 linear = clamp(toSRGB(color.rgb), 0.0, 1.0);
+    platformDrawLinear();
+    vec3 linear = clamp(platformToSRGB(color.rgb), 0.0, 1.0);
     vec3 root = sqrt(linear);
     vec3 root4 = sqrt(root);
     vec3 root8 = sqrt(root4);
@@ -37,7 +37,7 @@ void main() {
 
 constexpr auto vertexMain = R"(
 void main() {
-    place();
+    platformPlace();
     gl_Position.y = -gl_Position.y;
 }
 )";
@@ -53,13 +53,13 @@ QByteArray wrapped(const QByteArray& source, const QByteArray& head, const QByte
 } // namespace
 
 QByteArray uprightVertexSource(const QByteArray& source) {
-    return wrapped(source, {}, "place") + vertexMain;
+    return wrapped(source, {}, "platformPlace") + vertexMain;
 }
 
 QByteArray encodedFragmentSource(const QByteArray& source, ColorSpace space) {
     const char* gamut = space == ColorSpace::extendedLinearDisplayP3 ? displayP3 : sameGamut;
-    return wrapped(source, "layout(origin_upper_left) in vec4 gl_FragCoord;\n", "drawLinear") + gamut +
-           fragmentMain;
+    return wrapped(source, "layout(origin_upper_left) in vec4 gl_FragCoord;\n", "platformDrawLinear") +
+           gamut + fragmentMain;
 }
 
 } // namespace platform
