@@ -82,8 +82,8 @@ QByteArray Desktop::property(std::uint32_t window, std::uint32_t name) {
 
 QStringList Desktop::windowTitles() {
     const QByteArray list = property(m_root, atom("_NET_CLIENT_LIST"));
-    std::vector<std::uint32_t> windows(static_cast<std::size_t>(list.size()) / sizeof(std::uint32_t));
-    std::memcpy(windows.data(), list.constData(), windows.size() * sizeof(std::uint32_t));
+    const auto* const first = reinterpret_cast<const std::uint32_t*>(list.constData());
+    const std::vector windows(first, first + list.size() / static_cast<int>(sizeof *first));
     QStringList titles;
     for (const std::uint32_t window : windows)
         titles << QString::fromUtf8(property(window, atom("_NET_WM_NAME")));
