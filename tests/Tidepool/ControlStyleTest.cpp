@@ -89,12 +89,13 @@ TEST(ControlStyle, SubclassesStartFromTheirParents) {
 
 TEST(ControlStyle, EveryImageOfEveryStyleExists) {
     for (const auto& images :
-         {ButtonCellStyle().bezelImages(), PopUpButtonCellStyle().bezelImages(), ComboBoxStyle().bezelImages(),
-          StyledPopDownButtonCellStyle().bezelImages(), ToolPopUpButtonCellStyle().bezelImages(),
-          ToolButtonCellStyle().bezelImages(), CheckBoxCellStyle().buttonImages(),
-          FavouriteCheckBoxCellStyle().buttonImages(), SegmentedCellStyle().bezelImages(),
-          SliderCellStyle().barImages(), SliderCellStyle().knobImages(), TextFieldCellStyle().bezelImages(),
-          HeaderTextFieldStyle().bezelImages(), SearchFieldCellStyle().bezelImages()}) {
+         {ButtonCellStyle().bezelImages(), PopUpButtonCellStyle().bezelImages(),
+          ComboBoxStyle().bezelImages(), StyledPopDownButtonCellStyle().bezelImages(),
+          ToolPopUpButtonCellStyle().bezelImages(), ToolButtonCellStyle().bezelImages(),
+          CheckBoxCellStyle().buttonImages(), FavouriteCheckBoxCellStyle().buttonImages(),
+          SegmentedCellStyle().bezelImages(), SliderCellStyle().barImages(), SliderCellStyle().knobImages(),
+          TextFieldCellStyle().bezelImages(), HeaderTextFieldStyle().bezelImages(),
+          SearchFieldCellStyle().bezelImages()}) {
         EXPECT_FALSE(images.entries().empty());
         EXPECT_TRUE(areComplete(images));
     }

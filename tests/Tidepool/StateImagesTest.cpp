@@ -1,10 +1,11 @@
-#include "Tidepool/CheckBoxCellStyle.h"
 #include "Tidepool/StateImages.h"
+#include "Tidepool/CheckBoxCellStyle.h"
 #include "Tidepool/TextFieldCellStyle.h"
 #include "tests/support/AllocationCounter.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <random>
 
@@ -16,7 +17,9 @@ namespace {
 
 /// An image that can be told from others by its width.
 Image numbered(int number) {
-    return Image({.size = QSizeF(number, 1)});
+    Image::Description description;
+    description.size = QSizeF(number, 1);
+    return Image(description);
 }
 
 int numberOf(const Image* image) {
@@ -56,7 +59,8 @@ TEST(StyledControlState, MembersBeginWithDefault) {
     EXPECT_EQ(State{}.members(), std::vector<State>{State::defaultState});
     EXPECT_EQ((State::mixed | State::selected).members(),
               (std::vector<State>{State::defaultState, State::selected, State::mixed}));
-    EXPECT_EQ((State::defaultState | State::on).members(), (std::vector<State>{State::defaultState, State::on}));
+    EXPECT_EQ((State::defaultState | State::on).members(),
+              (std::vector<State>{State::defaultState, State::on}));
 }
 
 TEST(StateImages, FindTheBestSubsetInOrderOfInsertion) {
@@ -66,7 +70,8 @@ TEST(StateImages, FindTheBestSubsetInOrderOfInsertion) {
         std::vector<std::pair<State, int>> map;
         for (int number = 1; number <= round % 9; ++number) {
             const State key{static_cast<std::int64_t>(random() % 256 & random())};
-            const auto same = std::find_if(map.begin(), map.end(), [&](const auto& e) { return e.first == key; });
+            const auto same =
+                std::find_if(map.begin(), map.end(), [&](const auto& e) { return e.first == key; });
             images.set(key, numbered(number));
             if (same == map.end())
                 map.emplace_back(key, number);
@@ -74,7 +79,8 @@ TEST(StateImages, FindTheBestSubsetInOrderOfInsertion) {
                 same->second = number;
         }
         for (std::int64_t raw = 0; raw < 256; ++raw)
-            ASSERT_EQ(numberOf(images.image({raw})), expected(map, {raw})) << "round " << round << ", state " << raw;
+            ASSERT_EQ(numberOf(images.image({raw})), expected(map, {raw}))
+                << "round " << round << ", state " << raw;
     }
 }
 
