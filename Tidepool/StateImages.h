@@ -22,6 +22,8 @@ public:
     StateImages(const StateImages& other) : m_entries(other.m_entries) {}
 
     StateImages& operator=(const StateImages& other);
+    StateImages(StateImages&&) noexcept = default;
+    StateImages& operator=(StateImages&&) noexcept = default;
 
     /// Adds the image, or replaces that of the same state, which keeps its place in the order.
     void set(StyledControlState state, platform::Image image);
