@@ -1,5 +1,7 @@
 #include "Platform/Gpu/ScreenEncoding.h"
 
+#include <QStringBuilder>
+
 namespace platform {
 
 namespace {

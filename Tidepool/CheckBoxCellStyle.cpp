@@ -1,0 +1,29 @@
+#include "Tidepool/CheckBoxCellStyle.h"
+
+#include "Tidepool/ControlAssets.h"
+#include "Tidepool/StyleValues.h"
+#include "Tidepool/Styles.h"
+#include "Tidepool/TPImages.h"
+
+namespace tidepool {
+
+CheckBoxCellStyle::CheckBoxCellStyle() {
+    setHighlightedTextColor(textColor());
+    setHighlightedBackgroundColor(textBackgroundColor());
+    setSelectedBackgroundColor(textBackgroundColor());
+    setButtonImages({{normal, TPImages::checkbox},
+                     {on, TPImages::checkboxOn},
+                     {mixed, CheckBoxImages::mixed},
+                     {highlighted, TPImages::checkboxDown},
+                     {on | highlighted, TPImages::checkboxOnDown},
+                     {mixed | highlighted, CheckBoxImages::mixedDown},
+                     {selected, TPImages::checkboxDown},
+                     {selected | on, TPImages::checkboxOnDown},
+                     {selected | mixed, CheckBoxImages::mixedDown}});
+}
+
+FavouriteCheckBoxCellStyle::FavouriteCheckBoxCellStyle() {
+    setButtonImages({{normal, OrganiserImages::iconStarEmpty}, {on, OrganiserImages::iconStar}});
+}
+
+} // namespace tidepool

@@ -1,0 +1,20 @@
+#include "Tidepool/ToolButtonCellStyles.h"
+
+#include "Tidepool/ControlAssets.h"
+#include "Tidepool/StyleValues.h"
+#include "Tidepool/Styles.h"
+
+namespace tidepool {
+
+ToolButtonCellStyle::ToolButtonCellStyle() {
+    setImageEdgeInsets(insets(-1, 0, 1, 0));
+    setBezelImages({{normal, CornerToolImages::background},
+                    {on, CornerToolImages::backgroundSelected},
+                    {highlighted, CornerToolImages::backgroundDown}});
+}
+
+CornerButtonCellStyle::CornerButtonCellStyle() {
+    setEdgeInsets(insets(2, 4, 2, 4));
+}
+
+} // namespace tidepool

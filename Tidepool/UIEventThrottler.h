@@ -1,0 +1,31 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+namespace tidepool {
+
+/// Runs the last of a burst of closures when the burst is over, on a background thread, and then again after
+/// each interval until it is told otherwise: a closure that wants to run once cancels. All calls on one
+/// thread, except that the closure may cancel or release the throttler.
+class UIEventThrottler {
+public:
+    explicit UIEventThrottler(std::chrono::duration<double> interval);
+    ~UIEventThrottler();
+    UIEventThrottler(const UIEventThrottler&) = delete;
+    UIEventThrottler& operator=(const UIEventThrottler&) = delete;
+
+    /// Forgets what was given before and waits anew.
+    void throttle(std::function<void()> work);
+
+    /// No closure begins after this, though one that runs already goes on.
+    void cancel();
+
+private:
+    struct Timer;
+
+    std::shared_ptr<Timer> m_timer;
+};
+
+} // namespace tidepool

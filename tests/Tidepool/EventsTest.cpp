@@ -1,0 +1,111 @@
+#include "Platform/Core/MainThread.h"
+#include "Platform/Publishing/PassthroughSubject.h"
+#include "Tidepool/DateUtil.h"
+#include "Tidepool/DegreeUtil.h"
+#include "Tidepool/ReceiveOnMainThread.h"
+#include "Tidepool/UIEventThrottler.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <mutex>
+#include <numbers>
+#include <thread>
+
+using namespace std::chrono_literals;
+using namespace tidepool;
+using platform::PassthroughSubject;
+
+TEST(ReceiveOnMainThread, DeliversAtOnceThereAndLaterFromElsewhere) {
+    const auto subject = std::make_shared<PassthroughSubject<int>>();
+    std::vector<int> received;
+    const auto token = receiveOnMainThread<int>(subject)->sink([&](int value) {
+        EXPECT_TRUE(platform::isMainThread());
+        received.push_back(value);
+    });
+    std::thread([&] {
+        for (int i = 1; i <= 100; ++i)
+            subject->send(i);
+    }).join();
+    EXPECT_TRUE(received.empty());
+    subject->send(0);
+    EXPECT_EQ(received, std::vector{0}) << "before the send returns";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return received.size() == 101; }));
+    EXPECT_TRUE(std::is_sorted(received.begin(), received.end()));
+}
+
+TEST(ReceiveOnMainThread, CancelDropsWhatIsOnItsWay) {
+    const auto subject = std::make_shared<PassthroughSubject<int>>();
+    int received = 0;
+    bool ended = false;
+    auto token =
+        receiveOnMainThread<int>(subject)->sink([&](int) { ++received; }, [&](auto&) { ended = true; });
+    std::thread([&] { subject->send(1); }).join();
+    token.cancel();
+    std::thread([&] { subject->send(platform::Completion{}); }).join();
+    QTest::qWait(20);
+    EXPECT_EQ(received, 0);
+    EXPECT_FALSE(ended);
+}
+
+TEST(UIEventThrottler, RunsTheLastOfABurstAndGoesOnUntilCancelled) {
+    std::atomic<int> first = 0;
+    std::atomic<int> last = 0;
+    std::atomic<bool> inBackground = true;
+    UIEventThrottler throttler(30ms);
+    throttler.throttle([&] { ++first; });
+    throttler.throttle([&] { ++first; });
+    throttler.throttle([&] {
+        inBackground = inBackground && !platform::isMainThread();
+        ++last;
+    });
+    EXPECT_EQ(last, 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return last >= 3; })) << "it repeats";
+    throttler.cancel();
+    QTest::qWait(10);
+    const int atCancel = last;
+    QTest::qWait(100);
+    EXPECT_EQ(last, atCancel);
+    EXPECT_EQ(first, 0);
+    EXPECT_TRUE(inBackground);
+}
+
+TEST(UIEventThrottler, ClosureMayCancelOrRelease) {
+    std::atomic<int> runs = 0;
+    UIEventThrottler once(5ms);
+    once.throttle([&] {
+        ++runs;
+        once.cancel();
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return runs == 1; }));
+
+    auto released = std::make_unique<UIEventThrottler>(5ms);
+    released->throttle([&] {
+        released.reset();
+        ++runs;
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return runs == 2; }));
+    QTest::qWait(50);
+    EXPECT_EQ(runs, 2);
+}
+
+TEST(DateUtil, CountsTheDistanceInEitherDirection) {
+    const auto now = QDateTime::currentDateTimeUtc();
+    for (const int seconds : {-10, 10}) {
+        EXPECT_TRUE(DateUtil::isOlder(now.addSecs(seconds), 5s, false));
+        EXPECT_FALSE(DateUtil::isOlder(now.addSecs(seconds), 15s, true));
+        EXPECT_TRUE(DateUtil::isRecent(now.addSecs(seconds), 15s, false));
+        EXPECT_FALSE(DateUtil::isRecent(now.addSecs(seconds), 5s, true));
+    }
+    EXPECT_TRUE(DateUtil::isRecent(std::nullopt, 5s, true));
+    EXPECT_FALSE(DateUtil::isOlder(std::nullopt, 5s, false));
+}
+
+TEST(DegreeUtil, NormalizesToOneTurn) {
+    for (const auto& [degrees, expected] : std::vector<std::pair<double, double>>{
+             {180, 180}, {-180, 180}, {540, 180}, {190, -170}, {-190, 170}, {720, 0}, {-0.5, -0.5}})
+        EXPECT_DOUBLE_EQ(DegreeUtil::normalizedDegrees(degrees), expected) << degrees;
+    EXPECT_DOUBLE_EQ(DegreeUtil::radians(180), std::numbers::pi);
+}
