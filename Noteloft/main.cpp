@@ -3,6 +3,7 @@
 #include "Noteloft/NoteloftApp.h"
 #include "Noteloft/ResourceBundle.h"
 #include "Platform/Core/SingleInstance.h"
+#include "Platform/Graphics/Bitmap.h"
 #include "Platform/Graphics/SystemFont.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 
@@ -12,6 +13,7 @@
 #include <QIcon>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdio>
 
 using noteloft::LaunchOptions;
@@ -36,11 +38,12 @@ void nameApplication(QApplication& application) {
     application.setQuitOnLastWindowClosed(false);
 }
 
-/// Decoding the icon can wait until people see the window.
+/// The icon can wait until people see the window.
 void setIconLater(const QApplication& application) {
-    QTimer::singleShot(0, &application, [] {
-        QApplication::setWindowIcon(
-            QIcon(noteloft::resourceBundle().path(QStringLiteral("Icons/noteloft.png"))));
+    constexpr auto firstFrames = std::chrono::milliseconds(250);
+    QTimer::singleShot(firstFrames, &application, [] {
+        const QString file = noteloft::resourceBundle().path(QStringLiteral("Icons/noteloft.png"));
+        QApplication::setWindowIcon(QPixmap::fromImage(platform::readBitmap(file)));
     });
 }
 

@@ -1,5 +1,6 @@
 #include "Platform/Graphics/Image.h"
 
+#include "Platform/Graphics/Bitmap.h"
 #include "Platform/Graphics/NineSlice.h"
 
 #include <QCache>
@@ -51,7 +52,7 @@ const QImage& Image::Data::representation(qreal scale) {
         --file;
     auto [bitmap, isNew] = bitmaps.try_emplace(file->first);
     if (isNew)
-        bitmap->second = QImage(file->second).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        bitmap->second = readBitmap(file->second);
     return bitmap->second;
 }
 
