@@ -31,14 +31,24 @@ void MetalShaderViewController::viewWillAppear() {
     if (m_metalKitView)
         return;
     m_metalKitView = new GpuView(view());
-    m_metalKitView->setDevice(platform::GpuDevice::systemDefault());
     m_metalKitView->setColorSpace(platform::ColorSpace::extendedLinearSRGB);
     m_metalKitView->setPreferredFramesPerSecond(60);
     m_metalKitView->setGeometry(view()->rect());
     view()->layout()->addWidget(m_metalKitView);
-    m_renderer = makeRenderer();
-    m_metalKitView->setDelegate(m_renderer.get());
+    platform::GpuDevice::whenReady([this, appearance = m_metalKitView](const auto& device) {
+        if (appearance)
+            setDevice(device);
+    });
     m_metalKitView->show();
+}
+
+void MetalShaderViewController::setDevice(const std::shared_ptr<platform::GpuDevice>& device) {
+    m_metalKitView->setDevice(device);
+    m_renderer = makeRenderer();
+    // Only a view on the screen whose window is no longer the key window.
+    if (m_renderer && m_metalKitView->isVisible() && m_metalKitView->isPaused())
+        m_renderer->pauseTime = MetalShaderRenderer::Clock::now();
+    m_metalKitView->setDelegate(m_renderer.get());
 }
 
 std::unique_ptr<MetalShaderRenderer> MetalShaderViewController::makeRenderer() const {

@@ -27,7 +27,8 @@ public:
     /// Null while the view is not shown.
     platform::GpuView* metalKitView() const { return m_metalKitView; }
 
-    /// Null while the view is not shown, and where no effect can be made.
+    /// Null while the view is not shown, until a device that is being prepared is there, and where no effect
+    /// can be made.
     MetalShaderRenderer* renderer() const { return m_renderer.get(); }
 
     void viewWillAppear() override;
@@ -39,6 +40,7 @@ public:
 
 private:
     bool isMyWindow(const QWidget* window) const;
+    void setDevice(const std::shared_ptr<platform::GpuDevice>& device);
     std::unique_ptr<MetalShaderRenderer> makeRenderer() const;
 
     QPointer<platform::GpuView> m_metalKitView; // a child of the view, which may go first

@@ -1,5 +1,6 @@
 #include "Platform/Gpu/GpuDevice.h"
 
+#include "Platform/Core/MainQueue.h"
 #include "Platform/Gpu/CommandQueue.h"
 #include "Platform/Gpu/GpuLibrary.h"
 #include "Platform/Gpu/RenderPipeline.h"
@@ -7,7 +8,9 @@
 #include <epoxy/gl.h>
 
 #include <future>
+#include <mutex>
 #include <utility>
+#include <vector>
 
 namespace platform {
 
@@ -35,6 +38,26 @@ std::shared_future<SharedDevice>& systemDevice() {
     return device;
 }
 
+/// Who waits for a device that another thread is making.
+struct Preparation {
+    std::mutex mutex; // guards what follows, which both threads see
+    bool isUnderWay = false;
+    std::vector<std::function<void(const SharedDevice&)>> waiting;
+};
+
+Preparation& preparation() {
+    static auto& preparation = *new Preparation;
+    return preparation;
+}
+
+void endPreparation() {
+    const std::scoped_lock lock(preparation().mutex);
+    preparation().isUnderWay = false;
+    for (auto& use : preparation().waiting)
+        MainQueue::async([use = std::move(use)] { use(GpuDevice::systemDefault()); });
+    preparation().waiting.clear();
+}
+
 } // namespace
 
 SharedDevice GpuDevice::systemDefault() {
@@ -44,8 +67,25 @@ SharedDevice GpuDevice::systemDefault() {
 }
 
 void GpuDevice::prepare(std::function<void(GpuDevice&)> warmUp) {
-    if (!systemDevice().valid())
-        systemDevice() = std::async(std::launch::async, makeDevice, std::move(warmUp));
+    if (systemDevice().valid())
+        return;
+    preparation().isUnderWay = true;
+    systemDevice() = std::async(std::launch::async, [warmUp = std::move(warmUp)] {
+        auto device = makeDevice(warmUp);
+        endPreparation();
+        return device;
+    });
+}
+
+void GpuDevice::whenReady(std::function<void(const SharedDevice&)> use) {
+    {
+        const std::scoped_lock lock(preparation().mutex);
+        if (preparation().isUnderWay) {
+            preparation().waiting.push_back(std::move(use));
+            return;
+        }
+    }
+    use(systemDefault());
 }
 
 GpuDevice::GpuDevice(std::unique_ptr<GpuContext> context) : m_context(std::move(context)) {}

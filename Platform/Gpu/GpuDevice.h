@@ -30,6 +30,10 @@ public:
     /// process; waits for a `prepare` that is under way.
     static std::shared_ptr<GpuDevice> systemDefault();
 
+    /// Calls `use` with the machine's device, or null: at once, or, while a `prepare` is under way, in a turn
+    /// of the main thread after it.
+    static void whenReady(std::function<void(const std::shared_ptr<GpuDevice>&)> use);
+
     /// Starts making the machine's device on a thread of its own, so that the application can start
     /// meanwhile. `warmUp` then runs on that thread, if there is a device; errors that it throws are dropped.
     static void prepare(std::function<void(GpuDevice&)> warmUp);
