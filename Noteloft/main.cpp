@@ -77,6 +77,7 @@ int main(int argc, char** argv) {
     if (!isAlone && instance.handOver(options.urls))
         return 0;
     noteloft::ContentViewShader::prepare();
+    platform::prepareFonts();
     QApplication application(argc, argv);
     nameApplication(application);
     registerFonts();

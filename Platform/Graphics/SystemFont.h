@@ -6,6 +6,10 @@ namespace platform {
 
 enum class FontDesign { standard, rounded };
 
+/// Begins reading the machine's font configuration on another thread, so that the application can start
+/// meanwhile. May be called before the application is made.
+void prepareFonts();
+
 /// The interface font at `size` points, which are device-independent pixels. Where the machine lacks our
 /// first choice the next one stands in, last the desktop's own font.
 QFont systemFont(qreal size, QFont::Weight weight = QFont::Normal, FontDesign design = FontDesign::standard);
