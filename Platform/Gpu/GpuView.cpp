@@ -19,13 +19,16 @@ GpuView::~GpuView() = default;
 void GpuView::setDevice(std::shared_ptr<GpuDevice> device) {
     requireMainThread();
     m_drawable.reset();
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
     m_device = std::move(device);
     setNeedsDisplay();
     updateTimer();
 }
 
 void GpuView::setDelegate(GpuViewDelegate* delegate) {
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
     m_delegate = delegate;
+    setNeedsDisplay();
     updateTimer();
 }
 
@@ -88,7 +91,10 @@ void GpuView::paintEvent(QPaintEvent*) {
     // Parts of the view that are uncovered show the last frame; only a due frame costs drawing one.
     if (std::exchange(m_frameDue, false))
         m_delegate->draw(*this);
-    QPainter(this).drawImage(rect(), image());
+    const QImage picture = image();
+    QPainter(this).drawImage(rect(), picture);
+    // What lies below need not be painted any more.
+    setAttribute(Qt::WA_OpaquePaintEvent, !picture.isNull());
 }
 
 void GpuView::timerEvent(QTimerEvent* event) {
