@@ -19,19 +19,18 @@ vec3 platformToSRGB(vec3 linear) {
 }
 )";
 
-// IEC 61966-2-1 gives the encoding; its power is replaced by a sum of roots, a quarter of an 8-bit step off
-// at most and half as much work for a processor. Interleaved gradient noise (J. Jimenez, 2014) spreads the
-// rounding of dark gradients over their neighbours. Blue comes first because that is how the picture's words
-// lie in memory.
+// IEC 61966-2-1 gives the encoding; its power is replaced by a polynomial of the root, a fifth of an 8-bit
+// step off at most and exact at 1, which is much less work for a processor. Interleaved gradient noise (J.
+// Jimenez, 2014) spreads the rounding of dark gradients over their neighbours. Blue comes first because that
+// is how the picture's words lie in memory.
 constexpr auto fragmentMain = R"(
 void main() {
     platformDrawLinear();
     vec3 linear = clamp(platformToSRGB(color.rgb), 0.0, 1.0);
     vec3 root = sqrt(linear);
-    vec3 root4 = sqrt(root);
-    vec3 root8 = sqrt(root4);
-    vec3 power = 0.662002687 * root + 0.684122060 * root4 - 0.323583601 * root8 - 0.0225411470 * linear;
-    vec3 encoded = mix(12.92 * linear, power, vec3(greaterThan(linear, vec3(0.0031308))));
+    vec3 power =
+        ((-0.286377124 * root + 0.800982269) * root - 0.921064076) * linear + 1.443226353 * root - 0.036767421;
+    vec3 encoded = mix(12.92 * linear, power, greaterThan(linear, vec3(0.0031308)));
     float noise = fract(52.9829189 * fract(dot(gl_FragCoord.xy, vec2(0.06711056, 0.00583715))));
     color = vec4(encoded + (noise - 0.5) / 255.0, 1.0).bgra;
 }
