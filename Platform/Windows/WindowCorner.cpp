@@ -40,16 +40,28 @@ QRegion WindowCorner::shape(QSize size) {
     return region;
 }
 
-void WindowCorner::paintEvent(QPaintEvent*) {
+QImage WindowCorner::render(qreal scale) const {
+    QImage image((QSizeF(size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
     QPainterPath outside;
     outside.addRect(rect());
     QPainterPath circle;
     circle.addEllipse(QPointF(isRight(m_corner) ? 0 : radius, isBottom(m_corner) ? 0 : radius), radius,
                       radius);
-    QPainter painter(this);
+    QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
     painter.fillPath(outside - circle, Qt::black);
+    return image;
+}
+
+void WindowCorner::paintEvent(QPaintEvent*) {
+    const qreal scale = devicePixelRatioF();
+    if (m_outside.isNull() || m_outside.devicePixelRatio() != scale)
+        m_outside = render(scale);
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.drawImage(QPointF(), m_outside);
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QRegion>
 #include <QWidget>
 
@@ -19,7 +20,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QImage render(qreal scale) const;
+
     Qt::Corner m_corner;
+    QImage m_outside; // opaque where the corner is empty
 };
 
 } // namespace platform
