@@ -62,6 +62,7 @@ TEST(PassthroughSubject, SendsNoMoreThanIsWanted) {
     patient->subscription->request(Demand::max(1));
     subject->send(4);
     EXPECT_EQ(patient->values, (std::vector{1, 2, 4})) << "what nobody asked for is gone";
+    subject->send(Completion{}); // until then subscriber and subscription hold one another
 }
 
 TEST(PassthroughSubject, EndsOnceForEverybody) {
