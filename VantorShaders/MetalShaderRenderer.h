@@ -35,7 +35,7 @@ public:
     /// Adds the time since `pauseTime` to what the clock leaves out, and lets it run again.
     void resumeClock();
 
-    /// The clock stands while this is set.
+    /// When the clock was paused. What passes from then to `resumeClock` is left out.
     std::optional<Clock::time_point> pauseTime;
 
     /// Seconds since the renderer was made, less those spent paused before the last `resumeClock`.

@@ -18,9 +18,9 @@ QPointer<QObject>& delegate() {
 }
 
 QObject* responderAmongAncestors(QWidget* widget, Selector selector) {
-    for (QObject* object = widget; object != nullptr; object = object->parent())
-        if (respondsTo(object, selector))
-            return object;
+    for (; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget())
+        if (respondsTo(widget, selector))
+            return widget;
     return nullptr;
 }
 

@@ -22,7 +22,7 @@ public:
 
     /// Sends `arguments` to the instance that runs, or none if they are longer than 64 KiB in all. False if
     /// no instance runs, or it does not answer within two seconds: then this one is to run.
-    bool handOver(const QStringList& arguments) const;
+    bool handOver(const QStringList& arguments);
 
     /// Becomes the instance that runs: `received` gets the arguments of later ones, on the main thread. False
     /// if there is no directory for the socket; the program then runs alone, which is no error.
@@ -31,7 +31,12 @@ public:
 private:
     struct Listener;
 
+    bool lock();
+    bool send(const QStringList& arguments) const;
+
     QString m_path;
+    int m_lock =
+        -1; // held by the instance that runs, so that of two that start at once one waits for the other
     std::unique_ptr<Listener> m_listener;
 };
 

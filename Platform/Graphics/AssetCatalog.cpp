@@ -51,8 +51,9 @@ AssetCatalog::AssetCatalog(const Bundle& bundle) {
 
 void AssetCatalog::addColor(const QJsonObject& description) {
     const bool isDisplayP3 = description[u"space"].toString() == u"display-p3";
-    m_colors[description[u"name"].toString()] = {parseColor(description[u"light"].toString(), isDisplayP3),
-                                                 parseColor(description[u"dark"].toString(), isDisplayP3)};
+    m_colors[description[u"name"].toString().toStdString()] = {
+        parseColor(description[u"light"].toString(), isDisplayP3),
+        parseColor(description[u"dark"].toString(), isDisplayP3)};
 }
 
 void AssetCatalog::addImage(const QJsonObject& description, const Bundle& bundle) {
@@ -68,16 +69,16 @@ void AssetCatalog::addImage(const QJsonObject& description, const Bundle& bundle
     const auto files = description[u"files"].toObject();
     for (auto file = files.begin(); file != files.end(); ++file)
         image.files[file.key().toInt()] = bundle.path(file->toString());
-    m_images[description[u"name"].toString()] = Image(std::move(image));
+    m_images[description[u"name"].toString().toStdString()] = Image(std::move(image));
 }
 
-const QColor& AssetCatalog::color(const QString& name) const {
+const QColor& AssetCatalog::color(std::string_view name) const {
     static const QColor none;
     const auto found = m_colors.find(name);
     return found == m_colors.end() ? none : found->second[static_cast<std::size_t>(currentAppearance())];
 }
 
-const Image& AssetCatalog::image(const QString& name) const {
+const Image& AssetCatalog::image(std::string_view name) const {
     static const Image none;
     const auto found = m_images.find(name);
     return found == m_images.end() ? none : found->second;

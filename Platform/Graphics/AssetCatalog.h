@@ -4,10 +4,12 @@
 #include "Platform/Graphics/Image.h"
 
 #include <QColor>
-#include <QString>
 
 #include <array>
+#include <functional>
 #include <map>
+#include <string>
+#include <string_view>
 
 class QJsonObject;
 
@@ -24,18 +26,18 @@ public:
     explicit AssetCatalog(const Bundle& bundle);
 
     /// The colour in the current appearance; a colour that is not valid if there is none of that name.
-    const QColor& color(const QString& name) const;
+    const QColor& color(std::string_view name) const;
 
     /// The same shared image for every call; a null image if there is none of that name.
-    const Image& image(const QString& name) const;
+    const Image& image(std::string_view name) const;
 
 private:
     void addColor(const QJsonObject& description);
     void addImage(const QJsonObject& description, const Bundle& bundle);
 
-    // Ordered maps, since references into them are handed out.
-    std::map<QString, std::array<QColor, 2>> m_colors;
-    std::map<QString, Image> m_images;
+    // Ordered maps, since references into them are handed out; looked up without making a string.
+    std::map<std::string, std::array<QColor, 2>, std::less<>> m_colors;
+    std::map<std::string, Image, std::less<>> m_images;
 };
 
 } // namespace platform

@@ -5,11 +5,11 @@
 namespace platform {
 
 const QColor& ColorResource::color() const {
-    return AssetCatalog::of(bundle()).color(QString::fromUtf8(name));
+    return AssetCatalog::of(bundle()).color(name);
 }
 
 const Image& ImageResource::image() const {
-    return AssetCatalog::of(bundle()).image(QString::fromUtf8(name));
+    return AssetCatalog::of(bundle()).image(name);
 }
 
 } // namespace platform

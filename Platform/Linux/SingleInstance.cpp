@@ -1,5 +1,6 @@
 #include "Platform/Core/SingleInstance.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -7,19 +8,24 @@
 #include <QJsonDocument>
 #include <QSocketNotifier>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <array>
+#include <chrono>
 #include <cstring>
+#include <thread>
 #include <utility>
 
 // Plain sockets, since loading Qt's network library would take longer than all that happens here.
 
 namespace platform {
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -44,11 +50,7 @@ QString privateDirectory() {
 /// A file descriptor that is closed with its owner.
 class Descriptor {
 public:
-    explicit Descriptor(int number) : m_number(number) {
-        const timeval patience{2, 0};
-        setsockopt(number, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-        setsockopt(number, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
-    }
+    explicit Descriptor(int number) : m_number(number) {}
 
     ~Descriptor() {
         if (m_number >= 0)
@@ -77,6 +79,12 @@ int makeSocket() {
     return socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
 }
 
+void setPatience(const Descriptor& socket, std::chrono::milliseconds patience) {
+    const timeval limit{patience.count() / 1000, patience.count() % 1000 * 1000};
+    setsockopt(socket.number(), SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+    setsockopt(socket.number(), SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
+}
+
 bool isSameUser(int connection) {
     ucred peer{};
     socklen_t size = sizeof peer;
@@ -92,6 +100,7 @@ struct SingleInstance::Listener {
 
     void accept() const {
         const Descriptor connection(accept4(socket.number(), nullptr, nullptr, SOCK_CLOEXEC));
+        setPatience(connection, 200ms); // the main thread waits meanwhile
         QByteArray message(maximumMessage, Qt::Uninitialized);
         const auto size = isSameUser(connection.number())
                               ? recv(connection.number(), message.data(), maximumMessage, 0)
@@ -99,7 +108,7 @@ struct SingleInstance::Listener {
         if (size <= 0)
             return;
         message.truncate(size);
-        send(connection.number(), &acknowledgement, 1, MSG_NOSIGNAL);
+        ::send(connection.number(), &acknowledgement, 1, MSG_NOSIGNAL);
         QStringList arguments;
         const auto parts = QJsonDocument::fromJson(message).array();
         for (const auto& part : parts)
@@ -117,11 +126,38 @@ SingleInstance::SingleInstance(const QString& name) {
 SingleInstance::~SingleInstance() {
     if (m_listener)
         QFile::remove(m_path);
+    if (m_lock >= 0)
+        close(m_lock);
 }
 
-bool SingleInstance::handOver(const QStringList& arguments) const {
+bool SingleInstance::lock() {
+    if (m_path.isEmpty() || m_lock >= 0)
+        return true;
+    const QByteArray file = QFile::encodeName(m_path + u".lock");
+    const int lock = open(file.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    if (lock >= 0 && flock(lock, LOCK_EX | LOCK_NB) != 0) {
+        close(lock);
+        return false;
+    }
+    m_lock = lock;
+    return true;
+}
+
+bool SingleInstance::handOver(const QStringList& arguments) {
+    const QDeadlineTimer patience(2s);
+    // Whoever holds the lock without listening is starting.
+    while (!send(arguments)) {
+        if (lock() || patience.hasExpired())
+            return false;
+        std::this_thread::sleep_for(10ms);
+    }
+    return true;
+}
+
+bool SingleInstance::send(const QStringList& arguments) const {
     sockaddr_un address{};
     const Descriptor socket(makeSocket());
+    setPatience(socket, 2s);
     if (!setAddress(address, m_path) ||
         connect(socket.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         !isSameUser(socket.number()))
@@ -130,15 +166,15 @@ bool SingleInstance::handOver(const QStringList& arguments) const {
     if (message.size() > maximumMessage)
         message = "[]";
     char answer = 0;
-    return send(socket.number(), message.constData(), static_cast<std::size_t>(message.size()),
-                MSG_NOSIGNAL) == message.size() &&
+    return ::send(socket.number(), message.constData(), static_cast<std::size_t>(message.size()),
+                  MSG_NOSIGNAL) == message.size() &&
            recv(socket.number(), &answer, 1, 0) == 1 && answer == acknowledgement;
 }
 
 bool SingleInstance::listen(std::function<void(const QStringList&)> received) {
     auto listener = std::make_unique<Listener>();
     sockaddr_un address{};
-    if (!setAddress(address, m_path))
+    if (!setAddress(address, m_path) || !lock())
         return false;
     // Whoever listened there does not answer any more.
     QFile::remove(m_path);

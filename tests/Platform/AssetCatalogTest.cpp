@@ -65,27 +65,27 @@ TEST_F(AssetCatalogTest, ColorsFollowTheAppearance) {
         {"name": "text", "light": "#102030ff", "dark": "#fedcba80", "space": "srgb"},
         {"name": "short", "light": "#000000", "dark": "#010203"},
         {"name": "broken", "light": "#12345", "dark": "white"}]})");
-    EXPECT_EQ(catalog.color(QStringLiteral("text")).rgba(), 0x80fedcbaU);
-    EXPECT_EQ(catalog.color(QStringLiteral("short")).rgba(), 0xff010203U);
-    EXPECT_FALSE(catalog.color(QStringLiteral("broken")).isValid());
+    EXPECT_EQ(catalog.color("text").rgba(), 0x80fedcbaU);
+    EXPECT_EQ(catalog.color("short").rgba(), 0xff010203U);
+    EXPECT_FALSE(catalog.color("broken").isValid());
     platform::setAppearance(Appearance::light);
-    EXPECT_EQ(catalog.color(QStringLiteral("text")).rgba(), 0xff102030U);
-    EXPECT_FALSE(catalog.color(QStringLiteral("broken")).isValid());
+    EXPECT_EQ(catalog.color("text").rgba(), 0xff102030U);
+    EXPECT_FALSE(catalog.color("broken").isValid());
 }
 
 TEST_F(AssetCatalogTest, UnknownNamesAreEmpty) {
     const auto catalog = read(R"({"colors": [{"name": "Text", "light": "#102030", "dark": "#102030"}]})");
-    EXPECT_FALSE(catalog.color(QStringLiteral("text")).isValid()) << "case counts";
-    EXPECT_TRUE(catalog.image(QStringLiteral("Text")).isNull());
-    EXPECT_EQ(&catalog.color(QStringLiteral("Text")), &catalog.color(QStringLiteral("Text")));
-    EXPECT_FALSE(read("no JSON").color(QStringLiteral("Text")).isValid());
-    EXPECT_TRUE(AssetCatalog(Bundle(QStringLiteral("nowhere"))).image(QStringLiteral("Text")).isNull());
+    EXPECT_FALSE(catalog.color("text").isValid()) << "case counts";
+    EXPECT_TRUE(catalog.image("Text").isNull());
+    EXPECT_EQ(&catalog.color("Text"), &catalog.color("Text"));
+    EXPECT_FALSE(read("no JSON").color("Text").isValid());
+    EXPECT_TRUE(AssetCatalog(Bundle(QStringLiteral("nowhere"))).image("Text").isNull());
 }
 
 TEST_F(AssetCatalogTest, CapsAreTopLeftBottomRight) {
     const auto catalog = read(R"({"images": [{"name": "a", "size": [8, 9], "capInsets": [1, 2, 3, 4],
         "resizing": "tile", "template": true, "files": {"1": "a.png"}}]})");
-    const auto& image = catalog.image(QStringLiteral("a"));
+    const auto& image = catalog.image("a");
     EXPECT_EQ(image.capInsets(), QMarginsF(2, 1, 4, 3)) << "left, top, right, bottom";
     EXPECT_EQ(image.size(), QSizeF(8, 9));
     EXPECT_TRUE(image.isTemplate());
@@ -95,9 +95,9 @@ TEST_F(AssetCatalogTest, CapsAreTopLeftBottomRight) {
 TEST_F(AssetCatalogTest, DisplayP3IsConverted) {
     const auto catalog = read(R"({"colors": [
         {"name": "p3", "light": "#ffffffff", "dark": "#8040c080", "space": "display-p3"}]})");
-    EXPECT_LE(difference(catalog.color(QStringLiteral("p3")).rgba(), qRgba(138, 59, 199, 128)), 1);
+    EXPECT_LE(difference(catalog.color("p3").rgba(), qRgba(138, 59, 199, 128)), 1);
     platform::setAppearance(Appearance::light);
-    EXPECT_EQ(catalog.color(QStringLiteral("p3")).rgba(), 0xffffffffU);
+    EXPECT_EQ(catalog.color("p3").rgba(), 0xffffffffU);
     EXPECT_EQ(platform::displayP3(1, 0, 0).rgba(), qRgb(255, 0, 0)) << "outside sRGB";
     EXPECT_EQ(platform::displayP3(0, 0, 0, 0.5F).alpha(), 128);
     EXPECT_EQ(platform::displayP3(0.5F, 0.5F, 0.5F).rgba(), qRgb(128, 128, 128));
@@ -118,7 +118,7 @@ TEST_P(CompiledBundleTest, EveryImageHasItsPixelsAtEveryScale) {
     EXPECT_EQ(images.size(), GetParam().images);
     for (const auto& entry : images) {
         const QString name = entry[u"name"].toString();
-        const auto& image = m_catalog.image(name);
+        const auto& image = m_catalog.image(name.toStdString());
         ASSERT_FALSE(image.size().isEmpty()) << name.toStdString();
         const auto caps = image.capInsets();
         EXPECT_LT(caps.left() + caps.right(), image.size().width()) << name.toStdString();
@@ -141,10 +141,10 @@ TEST_P(CompiledBundleTest, EveryColorHasBothAppearances) {
     for (const auto& entry : colors) {
         const QString name = entry[u"name"].toString();
         platform::setAppearance(Appearance::light);
-        const QColor light = m_catalog.color(name);
+        const QColor light = m_catalog.color(name.toStdString());
         platform::setAppearance(Appearance::dark);
-        EXPECT_TRUE(light.isValid() && m_catalog.color(name).isValid()) << name.toStdString();
-        EXPECT_NE(light, m_catalog.color(name)) << name.toStdString();
+        EXPECT_TRUE(light.isValid() && m_catalog.color(name.toStdString()).isValid()) << name.toStdString();
+        EXPECT_NE(light, m_catalog.color(name.toStdString())) << name.toStdString();
     }
 }
 

@@ -102,6 +102,20 @@ TEST_F(SingleInstanceTest, OneThatDoesNotAnswerIsGivenUp) {
     EXPECT_LT(timer.elapsed(), 4000);
 }
 
+TEST_F(SingleInstanceTest, OneThatIsStartingIsWaitedFor) {
+    SingleInstance first(name);
+    ASSERT_FALSE(first.handOver({})) << "nobody runs, so it is to run";
+    std::atomic<int> handed = -1;
+    std::thread second([&] { handed = SingleInstance(name).handOver({QStringLiteral("b")}) ? 1 : 0; });
+    QTest::qWait(100);
+    EXPECT_EQ(handed, -1);
+    ASSERT_TRUE(listen(first));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return handed != -1; }));
+    second.join();
+    EXPECT_EQ(handed, 1);
+    EXPECT_EQ(m_received.size(), 1);
+}
+
 TEST_F(SingleInstanceTest, OnlyAPrivateDirectoryIsUsed) {
     const QByteArray directory = m_runtime.path().toUtf8();
     for (const mode_t mode : {0770U, 0701U, 0740U}) {
