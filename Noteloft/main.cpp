@@ -76,7 +76,9 @@ int main(int argc, char** argv) {
     const bool isAlone = !options.screenshot.isEmpty();
     if (!isAlone && instance.handOver(options.urls))
         return 0;
-    noteloft::ContentViewShader::prepare();
+    // A screenshot has the waveform in it however long the graphics device takes.
+    if (!isAlone)
+        noteloft::ContentViewShader::prepare();
     platform::prepareFonts();
     QApplication application(argc, argv);
     nameApplication(application);

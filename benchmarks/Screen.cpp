@@ -133,6 +133,14 @@ std::optional<steady_clock::time_point> Screen::waitFor(int width, int height,
     return std::nullopt;
 }
 
+bool Screen::waitUntilGone(int width, int height, std::chrono::seconds patience) const {
+    for (const auto end = steady_clock::now() + patience; steady_clock::now() < end;
+         std::this_thread::sleep_for(std::chrono::milliseconds(20)))
+        if (!findWindow(width, height))
+            return true;
+    return false;
+}
+
 long Screen::pixelsDrawn(int height, std::chrono::milliseconds duration) {
     while (const Reply<xcb_generic_event_t> old{xcb_poll_for_event(m_connection), &std::free})
         continue;

@@ -43,6 +43,9 @@ public:
     waitFor(int width, int height, const std::function<bool(const Picture&)>& isComplete,
             std::chrono::seconds patience);
 
+    /// Waits until no window of this size is left of the program that ran before.
+    bool waitUntilGone(int width, int height, std::chrono::seconds patience) const;
+
     /// Waits until the window manager has given the focus to a window of this size.
     bool waitForFocus(int width, int height, std::chrono::seconds patience);
 
