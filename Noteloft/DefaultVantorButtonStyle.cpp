@@ -1,11 +1,8 @@
 #include "Noteloft/DefaultVantorButtonStyle.h"
 
-#include "Noteloft/ButtonMetrics.h"
 #include "Platform/Graphics/SystemFont.h"
 #include "Tidepool/TPColors.h"
 #include "Tidepool/TPImages.h"
-
-#include <QPainter>
 
 namespace noteloft {
 
@@ -16,25 +13,15 @@ QFont DefaultVantorButtonStyle::font() const {
     return platform::systemFont(11);
 }
 
-QSizeF DefaultVantorButtonStyle::size(QSizeF label) const {
-    return {label.width(), ButtonMetrics::height};
+const platform::Image& DefaultVantorButtonStyle::bezel(bool isPressed) const {
+    return isPressed ? TPImages::buttonDown : TPImages::button;
 }
 
-qreal DefaultVantorButtonStyle::overhang() const {
-    return ButtonMetrics::overhang;
-}
-
-void DefaultVantorButtonStyle::paint(QPainter& painter,
-                                     const platform::ButtonConfiguration& configuration) const {
-    const auto& bezel = configuration.isPressed ? TPImages::buttonDown : TPImages::button;
-    bezel.image().draw(painter, configuration.frame);
+QColor DefaultVantorButtonStyle::labelColor(const platform::ButtonConfiguration& configuration) const {
     QColor color = configuration.isPressed ? TPColorsAK::grey50 : TPColorsAK::grey85;
     if (!configuration.isEnabled)
         color.setAlphaF(color.alphaF() * 0.5F);
-    painter.setPen(color);
-    painter.drawText(configuration.frame, Qt::AlignCenter, configuration.label);
-    if (configuration.isFocused)
-        platform::paintFocusRing(painter, configuration.frame, ButtonMetrics::focusRadius);
+    return color;
 }
 
 } // namespace noteloft

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "Platform/Controls/ButtonStyle.h"
+#include "Noteloft/BezelButtonStyle.h"
 
 namespace noteloft {
 
 /// A button in the look of the kit, for the application's other windows. Dimmed while disabled.
-class DefaultVantorButtonStyle : public platform::ButtonStyle {
+class DefaultVantorButtonStyle : public BezelButtonStyle {
 public:
     QFont font() const override;
-    QSizeF size(QSizeF label) const override;
-    qreal overhang() const override;
-    void paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const override;
+
+protected:
+    const platform::Image& bezel(bool isPressed) const override;
+    QColor labelColor(const platform::ButtonConfiguration& configuration) const override;
 };
 
 } // namespace noteloft

@@ -1,10 +1,7 @@
 #include "Noteloft/QuillfenButtonStyle.h"
 
-#include "Noteloft/ButtonMetrics.h"
 #include "Noteloft/ResourceBundle.h"
 #include "Platform/Graphics/SystemFont.h"
-
-#include <QPainter>
 
 namespace noteloft {
 
@@ -12,21 +9,12 @@ QFont QuillfenButtonStyle::font() const {
     return platform::systemFont(12, QFont::Bold, platform::FontDesign::rounded);
 }
 
-QSizeF QuillfenButtonStyle::size(QSizeF label) const {
-    return {label.width(), ButtonMetrics::height};
+const platform::Image& QuillfenButtonStyle::bezel(bool isPressed) const {
+    return isPressed ? Assets::buttonDown : Assets::button;
 }
 
-qreal QuillfenButtonStyle::overhang() const {
-    return ButtonMetrics::overhang;
-}
-
-void QuillfenButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
-    const auto& bezel = configuration.isPressed ? Assets::buttonDown : Assets::button;
-    bezel.image().draw(painter, configuration.frame);
-    painter.setPen(configuration.isPressed ? Assets::labels : Assets::buttonText);
-    painter.drawText(configuration.frame, Qt::AlignCenter, configuration.label);
-    if (configuration.isFocused)
-        platform::paintFocusRing(painter, configuration.frame, ButtonMetrics::focusRadius);
+QColor QuillfenButtonStyle::labelColor(const platform::ButtonConfiguration& configuration) const {
+    return configuration.isPressed ? Assets::labels : Assets::buttonText;
 }
 
 } // namespace noteloft

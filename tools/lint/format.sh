@@ -3,6 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 mapfile -t sources < <(git ls-files --cached --others --exclude-standard '*.h' '*.cpp')
+[ "${#sources[@]}" -gt 0 ] || { echo "git lists no sources here" >&2; exit 1; }
 if [ "${1:-}" = --fix ]; then
     clang-format-14 -i "${sources[@]}"
 else
