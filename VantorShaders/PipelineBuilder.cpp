@@ -14,7 +14,6 @@ std::shared_ptr<platform::RenderPipelineState> makePipelineState(platform::GpuDe
     descriptor.label = QStringLiteral("Shader Pipeline");
     descriptor.vertexFunction = library->function(vertexFunctionName);
     descriptor.fragmentFunction = library->function(fragmentFunctionName);
-    descriptor.colorPixelFormat = platform::PixelFormat::rgba16Float;
     return device.makeRenderPipelineState(descriptor);
 }
 

@@ -8,9 +8,8 @@
 
 namespace vantor {
 
-/// The pipeline "Shader Pipeline" of two functions of the module's shader library, for targets of 16-bit
-/// floats. Throws `platform::GpuError` if the library or a function is missing, or the functions do not
-/// compile.
+/// The pipeline "Shader Pipeline" of two functions of the module's shader library. Throws
+/// `platform::GpuError` if the library or a function is missing, or the functions do not compile.
 std::shared_ptr<platform::RenderPipelineState> makePipelineState(platform::GpuDevice& device,
                                                                  const QString& vertexFunctionName,
                                                                  const QString& fragmentFunctionName);

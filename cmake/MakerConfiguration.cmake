@@ -4,4 +4,3 @@ set(NOTELOFT_HELP_HOST "help.quillfen.example" CACHE STRING "Host of the help pa
 set(NOTELOFT_UPDATE_HOST "updates.quillfen.example" CACHE STRING "Host of the update feed")
 set(NOTELOFT_SOCIAL_URL "https://social.quillfen.example/@quillfen" CACHE STRING "The maker's profile")
 set(NOTELOFT_CONTACT_URL "https://www.quillfen.example/contact/" CACHE STRING "The maker's contact page")
-set(NOTELOFT_UPDATE_PUBLIC_KEY "" CACHE STRING "Ed25519 public key of the updates, base64")

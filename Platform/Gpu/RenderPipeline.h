@@ -11,15 +11,11 @@
 
 namespace platform {
 
-/// The layout of a drawable's pixels; the numbers are the platform's usual ones.
-enum class PixelFormat { bgra8Unorm = 80, rgba16Float = 115 };
-
 /// What a pipeline is made of.
 struct RenderPipelineDescriptor {
     QString label;
     std::optional<GpuFunction> vertexFunction;
     std::optional<GpuFunction> fragmentFunction;
-    PixelFormat colorPixelFormat = PixelFormat::bgra8Unorm;
 
     /// Equal for descriptors that make the same pipeline.
     std::string key() const;

@@ -19,6 +19,7 @@ enum class Key : std::uint8_t {
     control = 37,
     m = 58,
     space = 65,
+    f1 = 67,
     f10 = 76,
 };
 

@@ -115,6 +115,9 @@ TEST_F(WelcomeWindowTest, EverythingCanBeDoneByKeyboard) {
     m_desktop.press(Key::enter);
     EXPECT_TRUE(Desktop::waitUntil([this] { return m_browser.opened.size() == 2; }));
     EXPECT_EQ(m_browser.opened.value(0), noteloft::ContentView::helpURL().toString());
+    m_desktop.press(Key::f1);
+    EXPECT_TRUE(Desktop::waitUntil([this] { return m_browser.opened.size() == 3; }));
+    EXPECT_EQ(m_browser.opened.value(2), m_browser.opened.value(0));
 
     m_desktop.press(Key::f10);
     ASSERT_TRUE(Desktop::waitUntil([] { return QApplication::activePopupWidget() != nullptr; }));
