@@ -15,18 +15,18 @@ QRectF StyledButtonCell::focusRingMaskBounds(const QRectF& frame) const {
 }
 
 QRectF StyledButtonCell::drawingRect(const QRectF& bounds) const {
-    return isFramed() ? integral(bounds.marginsRemoved(style().edgeInsets())) : bounds;
+    return isFramed() ? integral(bounds.marginsRemoved(edgeInsets())) : bounds;
 }
 
 QRectF StyledButtonCell::imageRect(const QRectF& bounds) const {
-    const QRectF inner = bounds.marginsRemoved(style().imageEdgeInsets());
+    const QRectF inner = bounds.marginsRemoved(imageEdgeInsets());
     if (imagePosition() == platform::ImagePosition::imageOnly)
         return integral(inner);
     return integral(verticallyCentered(ButtonCell::imageRect(inner), inner));
 }
 
 QRectF StyledButtonCell::titleRect(const QRectF& bounds) const {
-    const QRectF inner = bounds.marginsRemoved(style().titleEdgeInsets());
+    const QRectF inner = bounds.marginsRemoved(titleEdgeInsets());
     const QRectF title = ButtonCell::titleRect(inner);
     return integral(m_verticallyCenterTitle ? verticallyCentered(title, inner) : title);
 }

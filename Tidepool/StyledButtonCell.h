@@ -27,6 +27,13 @@ public:
 
     void setVerticallyCenterTitle(bool centers) { m_verticallyCenterTitle = centers; }
 
+    /// What the style keeps free around the image, the title and the content of a framed cell.
+    virtual const QMarginsF& imageEdgeInsets() const { return style().imageEdgeInsets(); }
+
+    virtual const QMarginsF& titleEdgeInsets() const { return style().titleEdgeInsets(); }
+
+    virtual const QMarginsF& edgeInsets() const { return style().edgeInsets(); }
+
     /// What the keyboard focus is drawn around when the cell has `frame`.
     virtual QRectF focusRingMaskBounds(const QRectF& frame) const;
 

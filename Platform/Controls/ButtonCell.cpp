@@ -33,6 +33,8 @@ constexpr std::array<Masks, 8> masksOfTypes{{
 constexpr qreal sideMargin = 12;
 constexpr qreal leastSideMargin = 6;
 constexpr qreal framedHeight = 24;
+/// What one without a frame has, so that the focus can be drawn around it.
+constexpr qreal plainMargin = 3;
 constexpr qreal disabledOpacity = 0.5;
 
 } // namespace
@@ -75,8 +77,10 @@ CellContent ButtonCell::content() const {
 }
 
 QRectF ButtonCell::contentRect(const QRectF& bounds) const {
-    const bool keepsMargin = isFramed() && m_imagePosition != ImagePosition::imageOnly;
-    return keepsMargin ? bounds.adjusted(leastSideMargin, 0, -leastSideMargin, 0) : bounds;
+    if (m_imagePosition == ImagePosition::imageOnly)
+        return bounds;
+    const qreal margin = isFramed() ? leastSideMargin : plainMargin;
+    return bounds.adjusted(margin, 0, -margin, 0);
 }
 
 QRectF ButtonCell::titleRect(const QRectF& bounds) const {
@@ -90,7 +94,9 @@ QRectF ButtonCell::imageRect(const QRectF& bounds) const {
 QSizeF ButtonCell::cellSize() const {
     const QSizeF content = naturalSize(this->content());
     if (!isFramed())
-        return content;
+        return m_imagePosition == ImagePosition::imageOnly
+                   ? content
+                   : content + QSizeF(2 * plainMargin, 2 * plainMargin);
     const qreal margin = m_imagePosition == ImagePosition::imageOnly ? leastSideMargin : sideMargin;
     return {content.width() + 2 * margin, std::max(content.height() + 4, framedHeight)};
 }

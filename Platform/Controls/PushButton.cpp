@@ -28,7 +28,10 @@ PushButton::PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, Q
     connect(this, &QAbstractButton::clicked, this, [this] { Control::sendAction(); });
 }
 
-PushButton::~PushButton() = default;
+PushButton::~PushButton() {
+    // Once the members of subclasses have gone there is nothing to end.
+    m_tracking.reset();
+}
 
 ButtonCell& PushButton::cell() const {
     m_cell->setTitle(text());
@@ -114,7 +117,7 @@ bool PushButton::isTracking() const {
 }
 
 void PushButton::beginTracking(QMouseEvent&) {
-    m_tracking = std::make_unique<PointerTracking>(*this, [this](PointerTracking::End) { setDown(false); });
+    m_tracking = std::make_unique<PointerTracking>(*this, [this](PointerTracking::End) { endTracking(); });
     setDown(true);
     Q_EMIT pressed();
 }
@@ -175,10 +178,11 @@ void PushButton::keyPressEvent(QKeyEvent* event) {
 }
 
 void PushButton::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Keyboard && m_menu != nullptr)
-        popUp(*m_menu, rect().bottomLeft());
+    QMenu* const offered = offeredMenu();
+    if (event->reason() == QContextMenuEvent::Keyboard && offered != nullptr)
+        popUp(*offered, rect().bottomLeft());
     else
-        event->setAccepted(m_menu != nullptr);
+        event->setAccepted(offered != nullptr);
 }
 
 void PushButton::changeEvent(QEvent* event) {

@@ -59,6 +59,12 @@ public:
     /// The state as a number: 0, 1 or -1.
     double doubleValue() const override { return static_cast<double>(state()); }
 
+    /// Whether the button has a state that users are told of.
+    virtual bool showsState() const { return m_cell->showsStateBy() != ButtonCell::none; }
+
+    /// The menu that users can open from the button, or null.
+    virtual QMenu* offeredMenu() const { return menu(); }
+
     QWidget& view() override { return *this; }
 
     QSize sizeHint() const override;
@@ -73,6 +79,9 @@ protected:
 
     /// The pointer's press, single or the second of a double click.
     virtual void beginTracking(QMouseEvent& event);
+
+    /// The end of every press, exactly once for each begin.
+    virtual void endTracking() { setDown(false); }
 
     /// Ends the press without a click.
     void cancelTracking();

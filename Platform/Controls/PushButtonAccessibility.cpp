@@ -14,8 +14,8 @@ public:
     explicit PushButtonInterface(PushButton& button) : QAccessibleWidget(&button), m_button(button) {}
 
     QAccessible::Role role() const override {
-        if (!showsState())
-            return m_button.menu() != nullptr ? QAccessible::ButtonMenu : QAccessible::Button;
+        if (!m_button.showsState())
+            return m_button.offeredMenu() != nullptr ? QAccessible::ButtonMenu : QAccessible::Button;
         return m_button.cell().isFramed() ? QAccessible::Button : QAccessible::CheckBox;
     }
 
@@ -27,15 +27,15 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         state.pressed = m_button.isDown();
-        state.checkable = showsState();
-        state.checked = showsState() && m_button.state() == ControlState::on;
-        state.checkStateMixed = showsState() && m_button.state() == ControlState::mixed;
-        state.hasPopup = m_button.menu() != nullptr;
+        state.checkable = m_button.showsState();
+        state.checked = m_button.showsState() && m_button.state() == ControlState::on;
+        state.checkStateMixed = m_button.showsState() && m_button.state() == ControlState::mixed;
+        state.hasPopup = m_button.offeredMenu() != nullptr;
         return state;
     }
 
     QStringList actionNames() const override {
-        return m_button.isEnabled() ? QStringList{showsState() ? toggleAction() : pressAction()}
+        return m_button.isEnabled() ? QStringList{m_button.showsState() ? toggleAction() : pressAction()}
                                     : QStringList();
     }
 
@@ -47,8 +47,6 @@ public:
     }
 
 private:
-    bool showsState() const { return m_button.cell().showsStateBy() != ButtonCell::none; }
-
     PushButton& m_button;
 };
 
