@@ -11,6 +11,8 @@ namespace {
 
 /// The room of the arrow before the title, in points.
 constexpr qreal arrowWidth = 8;
+/// What the bezel keeps free above itself.
+constexpr qreal topMargin = 6;
 
 } // namespace
 
@@ -31,7 +33,7 @@ BackButtonCell::BackButtonCell() {
 }
 
 QRectF BackButtonCell::drawingRect(const QRectF& bounds) const {
-    const QRectF rect = StyledButtonCell::drawingRect(bounds);
+    const QRectF rect = StyledButtonCell::drawingRect(bounds).adjusted(0, topMargin, 0, 0);
     return layoutDirection() == Qt::RightToLeft ? rect.adjusted(0, 0, -arrowWidth, 0)
                                                 : rect.adjusted(arrowWidth, 0, 0, 0);
 }

@@ -39,7 +39,10 @@ void PreparedText::set(const QString& text, const QFont& font) {
     m_text = mnemonic.text;
     m_mnemonic = mnemonic.position;
     const QFontMetricsF metrics(font);
-    m_size = {std::ceil(metrics.horizontalAdvance(m_text)), std::ceil(metrics.height())};
+    // An even height has its middle on a whole point.
+    m_size = {std::ceil(metrics.horizontalAdvance(m_text)), 2 * std::ceil(metrics.height() / 2)};
+    m_ascent = metrics.ascent();
+    m_capHeight = metrics.capHeight();
     m_width = -1;
 }
 
@@ -64,7 +67,9 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, Qt::Alignment ali
         x += (rect.width() - m_shapedWidth) / 2;
     else if (alignment & Qt::AlignRight)
         x = rect.right() - m_shapedWidth;
-    const QPointF origin(std::round(x), std::round(rect.top() + (rect.height() - m_size.height()) / 2));
+    const qreal scale = painter.device()->devicePixelRatioF();
+    const qreal baseline = std::round((rect.center().y() + m_capHeight / 2) * scale) / scale;
+    const QPointF origin(std::round(x * scale) / scale, baseline - m_ascent);
     if (painter.font() != m_font)
         painter.setFont(m_font);
     painter.drawStaticText(origin, m_shaped);

@@ -20,8 +20,8 @@ public:
     /// In points; the height is the font's line height.
     QSizeF size() const { return m_size; }
 
-    /// Draws with the painter's pen, in the middle of the height of `rect`, aligned within its width. What is
-    /// too long ends with an ellipsis. The mnemonic is underlined if `showsMnemonic`.
+    /// Draws with the painter's pen, with the capitals in the middle of the height of `rect`, aligned within
+    /// its width. What is too long ends with an ellipsis. The mnemonic is underlined if `showsMnemonic`.
     void draw(QPainter& painter, const QRectF& rect, Qt::Alignment alignment,
               bool showsMnemonic = false) const;
 
@@ -33,6 +33,8 @@ private:
     QString m_text;
     QFont m_font;
     QSizeF m_size;
+    qreal m_ascent = 0;
+    qreal m_capHeight = 0;
     qsizetype m_mnemonic = -1;
     mutable QStaticText m_shaped;
     mutable qreal m_shapedWidth = 0;
