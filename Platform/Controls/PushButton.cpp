@@ -38,7 +38,7 @@ ButtonCell& PushButton::cell() const {
     m_cell->setFont(font());
     m_cell->setLayoutDirection(layoutDirection());
     m_cell->setEnabled(isEnabled());
-    m_cell->setHighlighted(isDown());
+    m_cell->setHighlighted(isDown() || m_showsMenu);
     return *m_cell;
 }
 
@@ -135,9 +135,13 @@ bool PushButton::popUpMenu(const QMouseEvent& press) {
 }
 
 void PushButton::popUp(QMenu& menu, QPoint position) {
-    setDown(true);
+    const auto show = [this](bool shows) {
+        m_showsMenu = shows;
+        update();
+    };
+    show(true);
     connect(
-        &menu, &QMenu::aboutToHide, this, [this] { setDown(false); }, Qt::SingleShotConnection);
+        &menu, &QMenu::aboutToHide, this, [show] { show(false); }, Qt::SingleShotConnection);
     menu.popup(mapToGlobal(position));
 }
 

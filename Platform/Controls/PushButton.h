@@ -106,6 +106,7 @@ protected:
 private:
     std::unique_ptr<ButtonCell> m_cell;
     QPointer<QMenu> m_menu;
+    bool m_showsMenu = false;
     qreal m_alphaValue = 1;
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
 };
