@@ -1,6 +1,7 @@
 #include "Platform/Graphics/Image.h"
 
 #include "Platform/Graphics/Bitmap.h"
+#include "Platform/Graphics/DevicePixels.h"
 #include "Platform/Graphics/NineSlice.h"
 
 #include <QCache>
@@ -111,11 +112,11 @@ QImage Image::bitmap(QSizeF size, qreal scale) const {
 }
 
 void Image::draw(QPainter& painter, const QRectF& target) const {
-    const qreal scale = painter.device()->devicePixelRatioF();
-    const auto aligned = [scale](qreal x) { return std::round(x * scale) / scale; };
-    const QPointF origin(aligned(target.left()), aligned(target.top()));
-    const QSizeF size(aligned(target.right()) - origin.x(), aligned(target.bottom()) - origin.y());
-    painter.drawImage(origin, bitmap(size, scale));
+    const qreal scale = pixelsPerPoint(painter);
+    const QPointF origin(onPixel(target.left(), scale), onPixel(target.top(), scale));
+    const QSizeF size(onPixel(target.right(), scale) - origin.x(), onPixel(target.bottom(), scale) - origin.y());
+    if (const QImage picture = bitmap(size, scale); !picture.isNull())
+        drawPixels(painter, origin, picture);
 }
 
 } // namespace platform
