@@ -58,6 +58,7 @@ void AssetCatalog::addColor(const QJsonObject& description) {
 
 void AssetCatalog::addImage(const QJsonObject& description, const Bundle& bundle) {
     Image::Description image;
+    image.name = description[u"name"].toString();
     const auto size = description[u"size"].toArray();
     image.size = QSizeF(size[0].toDouble(), size[1].toDouble());
     // The manifest's order is top, left, bottom, right.
@@ -69,13 +70,14 @@ void AssetCatalog::addImage(const QJsonObject& description, const Bundle& bundle
     const auto files = description[u"files"].toObject();
     for (auto file = files.begin(); file != files.end(); ++file)
         image.files[file.key().toInt()] = bundle.path(file->toString());
-    m_images[description[u"name"].toString().toStdString()] = Image(std::move(image));
+    const std::string name = image.name.toStdString();
+    m_images[name] = Image(std::move(image));
 }
 
-const QColor& AssetCatalog::color(std::string_view name) const {
+const QColor& AssetCatalog::color(std::string_view name, Appearance appearance) const {
     static const QColor none;
     const auto found = m_colors.find(name);
-    return found == m_colors.end() ? none : found->second[static_cast<std::size_t>(currentAppearance())];
+    return found == m_colors.end() ? none : found->second[static_cast<std::size_t>(appearance)];
 }
 
 const Image& AssetCatalog::image(std::string_view name) const {

@@ -25,8 +25,8 @@ public:
 
     explicit AssetCatalog(const Bundle& bundle);
 
-    /// The colour in the current appearance; a colour that is not valid if there is none of that name.
-    const QColor& color(std::string_view name) const;
+    /// A colour that is not valid if there is none of that name.
+    const QColor& color(std::string_view name, Appearance appearance = currentAppearance()) const;
 
     /// The same shared image for every call; a null image if there is none of that name.
     const Image& image(std::string_view name) const;

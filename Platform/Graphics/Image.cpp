@@ -4,6 +4,7 @@
 #include "Platform/Graphics/NineSlice.h"
 
 #include <QCache>
+#include <QPaintEngine>
 #include <QPainter>
 
 #include <cmath>
@@ -79,12 +80,20 @@ bool Image::isNull() const {
     return !m_data || m_data->description.files.empty();
 }
 
+QString Image::name() const {
+    return m_data ? m_data->description.name : QString();
+}
+
 QSizeF Image::size() const {
     return m_data ? m_data->description.size : QSizeF(0, 0);
 }
 
 QMarginsF Image::capInsets() const {
     return m_data ? m_data->description.capInsets : QMarginsF();
+}
+
+Image::ResizingMode Image::resizingMode() const {
+    return m_data ? m_data->description.resizingMode : ResizingMode::stretch;
 }
 
 Image Image::tinted(const QColor& color) const {
@@ -111,7 +120,8 @@ QImage Image::bitmap(QSizeF size, qreal scale) const {
 }
 
 void Image::draw(QPainter& painter, const QRectF& target) const {
-    const qreal scale = painter.device()->devicePixelRatioF();
+    // Of the pixels drawn into: a widget's own scale is another one while it is rendered into a picture.
+    const qreal scale = painter.paintEngine()->paintDevice()->devicePixelRatioF();
     const auto aligned = [scale](qreal x) { return std::round(x * scale) / scale; };
     const QPointF origin(aligned(target.left()), aligned(target.top()));
     const QSizeF size(aligned(target.right()) - origin.x(), aligned(target.bottom()) - origin.y());
