@@ -10,6 +10,24 @@ namespace gallery {
 using platform::systemFont;
 using tidepool::TPColorsAK;
 
+namespace {
+
+/// Lies at the side where its line begins. A plain label goes by the language of its text instead.
+class TextLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void changeEvent(QEvent* event) override {
+        if (event->type() == QEvent::LayoutDirectionChange)
+            setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                         Qt::AlignVCenter);
+        QLabel::changeEvent(event);
+    }
+};
+
+} // namespace
+
 QFont textFont(TextRole role) {
     switch (role) {
     case TextRole::title:
@@ -39,7 +57,7 @@ QColor textColor(TextRole role) {
 }
 
 QLabel* makeText(const QString& text, TextRole role) {
-    auto* const label = new QLabel(text);
+    auto* const label = new TextLabel(text);
     label->setTextFormat(Qt::PlainText);
     label->setFont(textFont(role));
     label->setWordWrap(role == TextRole::title || role == TextRole::body);

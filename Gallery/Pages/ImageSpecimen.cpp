@@ -4,8 +4,8 @@
 #include "Platform/Graphics/SystemFont.h"
 #include "Tidepool/TPColors.h"
 
-#include <QLabel>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -29,6 +29,37 @@ constexpr int stretchedWidth = specimenWidth - stretchedColumn;
 /// How much the pixels are enlarged: one of 2x is then one point.
 constexpr int enlargement = 2;
 
+/// A place in a row of `widget`, whose columns run from the right where lines do.
+QRectF mirrored(const QWidget& widget, QRectF place) {
+    if (widget.isRightToLeft())
+        place.moveLeft(widget.width() - place.right());
+    return place;
+}
+
+Qt::Alignment aligned(const QWidget& widget, Qt::Alignment alignment) {
+    return QStyle::visualAlignment(widget.layoutDirection(), alignment) | Qt::AlignVCenter;
+}
+
+/// The names of the columns.
+class Headings : public QWidget {
+public:
+    Headings() { setFixedSize(specimenWidth, 16); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setPen(textColor(TextRole::caption));
+        painter.setFont(textFont(TextRole::caption));
+        for (const auto& [x, title] : {std::pair{0, ImageSpecimen::tr("Name")},
+                                       {naturalColumn, ImageSpecimen::tr("Natural")},
+                                       {firstPixelsColumn, ImageSpecimen::tr("Pixels at 1×")},
+                                       {secondPixelsColumn, ImageSpecimen::tr("Pixels at 2×")},
+                                       {stretchedColumn, ImageSpecimen::tr("In use")}})
+            painter.drawText(mirrored(*this, QRectF(x, 0, 100, height())), aligned(*this, Qt::AlignLeft),
+                             title);
+    }
+};
+
 } // namespace
 
 ImageSpecimen::ImageSpecimen(KitAsset asset, QWidget* parent)
@@ -41,20 +72,7 @@ ImageSpecimen::ImageSpecimen(KitAsset asset, QWidget* parent)
 }
 
 QWidget* ImageSpecimen::makeHeadings() {
-    auto* const headings = new QWidget;
-    headings->setFixedSize(specimenWidth, 16);
-    const auto add = [&](int x, const QString& text) {
-        auto* const label = makeText(text, TextRole::caption);
-        label->setParent(headings);
-        label->adjustSize();
-        label->move(x, 0);
-    };
-    add(0, tr("Name"));
-    add(naturalColumn, tr("Natural"));
-    add(firstPixelsColumn, tr("Pixels at 1×"));
-    add(secondPixelsColumn, tr("Pixels at 2×"));
-    add(stretchedColumn, tr("In use"));
-    return headings;
+    return new Headings;
 }
 
 QString ImageSpecimen::facts() const {
@@ -71,39 +89,40 @@ QString ImageSpecimen::facts() const {
 }
 
 void ImageSpecimen::paintText(QPainter& painter) const {
-    const QFont nameFont = platform::systemFont(13, QFont::Medium);
     const QFont captionFont = textFont(TextRole::caption);
-    const QRect name(0, height() / 2 - 19, naturalColumn - 24, 18);
+    const QRectF name = mirrored(*this, {0, height() / 2.0 - 19, naturalColumn - 24, 18});
     painter.setPen(textColor(TextRole::heading));
-    painter.setFont(nameFont);
-    painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter, m_asset.name);
+    painter.setFont(platform::systemFont(13, QFont::Medium));
+    painter.drawText(name, aligned(*this, Qt::AlignLeft), m_asset.name);
     painter.setPen(textColor(TextRole::caption));
     painter.setFont(captionFont);
-    painter.drawText(name, Qt::AlignRight | Qt::AlignVCenter, facts());
-    painter.drawText(name.translated(0, 20), Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetrics(captionFont).elidedText(m_asset.comment, Qt::ElideRight, name.width()));
+    painter.drawText(name, aligned(*this, Qt::AlignRight), facts());
+    painter.drawText(name.translated(0, 20), aligned(*this, Qt::AlignLeft),
+                     QFontMetricsF(captionFont).elidedText(m_asset.comment, Qt::ElideRight, name.width()));
+}
+
+QRectF ImageSpecimen::place(qreal x, QSizeF size) const {
+    return mirrored(*this, {QPointF(x, (height() - size.height()) / 2), size});
 }
 
 void ImageSpecimen::paintPixels(QPainter& painter, int x, int scale) const {
     const QImage pixels = m_image.tinted(TPColorsAK::grey85).bitmap(m_image.size(), scale);
-    const QSizeF size = m_image.size() * enlargement;
-    painter.drawImage(QRectF(QPointF(x, (height() - size.height()) / 2), size), pixels, pixels.rect());
+    painter.drawImage(place(x, m_image.size() * enlargement), pixels, pixels.rect());
 }
 
-void ImageSpecimen::paintStretched(QPainter& painter) const {
+void ImageSpecimen::paintInUse(QPainter& painter) const {
     const QSizeF size = m_image.size();
-    const qreal top = (height() - size.height()) / 2;
     if (m_image.isTemplate()) {
         qreal x = stretchedColumn;
         for (const QColor& tint : {TPColorsAK::Vantor::lightBlue.color(), TPColorsAK::Vantor::aqua.color(),
                                    TPColorsAK::Vantor::orange.color(), TPColorsAK::Vantor::purple.color()}) {
-            m_image.tinted(tint).draw(painter, QRectF(QPointF(x, top), size));
+            m_image.tinted(tint).draw(painter, place(x, size));
             x += size.width() + 16;
         }
     } else if (m_image.resizingMode() == platform::Image::ResizingMode::tile) {
-        m_image.draw(painter, QRectF(stretchedColumn, padding, stretchedWidth, height() - 2 * padding));
+        m_image.draw(painter, place(stretchedColumn, {stretchedWidth, height() - 2.0 * padding}));
     } else if (!m_image.capInsets().isNull()) {
-        m_image.draw(painter, QRectF(stretchedColumn, top, stretchedWidth, size.height()));
+        m_image.draw(painter, place(stretchedColumn, {stretchedWidth, size.height()}));
     }
 }
 
@@ -111,11 +130,10 @@ void ImageSpecimen::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(0, 0, width(), 1, TPColorsAK::grey20);
     paintText(painter);
-    const qreal top = (height() - m_image.size().height()) / 2;
-    m_image.tinted(TPColorsAK::grey85).draw(painter, QRectF(QPointF(naturalColumn, top), m_image.size()));
+    m_image.tinted(TPColorsAK::grey85).draw(painter, place(naturalColumn, m_image.size()));
     paintPixels(painter, firstPixelsColumn, 1);
     paintPixels(painter, secondPixelsColumn, 2);
-    paintStretched(painter);
+    paintInUse(painter);
 }
 
 } // namespace gallery

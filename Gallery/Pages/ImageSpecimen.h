@@ -23,7 +23,8 @@ private:
     QString facts() const;
     void paintText(QPainter& painter) const;
     void paintPixels(QPainter& painter, int x, int scale) const;
-    void paintStretched(QPainter& painter) const;
+    void paintInUse(QPainter& painter) const;
+    QRectF place(qreal x, QSizeF size) const;
 
     KitAsset m_asset;
     platform::Image m_image;

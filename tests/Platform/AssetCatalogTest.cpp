@@ -68,6 +68,7 @@ TEST_F(AssetCatalogTest, ColorsFollowTheAppearance) {
     EXPECT_EQ(catalog.color("text").rgba(), 0x80fedcbaU);
     EXPECT_EQ(catalog.color("short").rgba(), 0xff010203U);
     EXPECT_FALSE(catalog.color("broken").isValid());
+    EXPECT_EQ(catalog.color("text", Appearance::light).rgba(), 0xff102030U);
     platform::setAppearance(Appearance::light);
     EXPECT_EQ(catalog.color("text").rgba(), 0xff102030U);
     EXPECT_FALSE(catalog.color("broken").isValid());
@@ -88,6 +89,8 @@ TEST_F(AssetCatalogTest, CapsAreTopLeftBottomRight) {
     const auto& image = catalog.image("a");
     EXPECT_EQ(image.capInsets(), QMarginsF(2, 1, 4, 3)) << "left, top, right, bottom";
     EXPECT_EQ(image.size(), QSizeF(8, 9));
+    EXPECT_EQ(image.resizingMode(), platform::Image::ResizingMode::tile);
+    EXPECT_EQ(image.name(), QStringLiteral("a"));
     EXPECT_TRUE(image.isTemplate());
 }
 
