@@ -8,7 +8,6 @@ namespace gallery {
 QImage pagePicture(const GalleryPage& page, const GallerySettings& settings) {
     useAppearance(settings.styleSet);
     PageView view(page, settings);
-    view.resize(PageView::pageWidth, view.pageHeight());
     QImage picture(view.size() * settings.scale, QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(settings.scale);
     picture.fill(Qt::transparent);

@@ -3,6 +3,7 @@
 #include "Gallery/Layout/Text.h"
 #include "Gallery/StyleSet.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -25,7 +26,14 @@ PageView::PageView(const GalleryPage& page, const GallerySettings& settings) {
     stack->addWidget(page.make(settings));
     stack->addStretch();
     setFixedWidth(pageWidth);
-    setMinimumHeight(pageHeight());
+    resize(pageWidth, pageHeight());
+}
+
+bool PageView::event(QEvent* event) {
+    const bool isDone = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        resize(pageWidth, pageHeight());
+    return isDone;
 }
 
 int PageView::pageHeight() const {

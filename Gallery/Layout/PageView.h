@@ -17,8 +17,11 @@ public:
 
     PageView(const GalleryPage& page, const GallerySettings& settings);
 
-    /// The page's own height, in points.
+    /// The page's own height, in points. The page has it, and takes another when its content changes.
     int pageHeight() const;
+
+protected:
+    bool event(QEvent* event) override;
 };
 
 } // namespace gallery

@@ -3,6 +3,7 @@
 #include "Platform/Graphics/SystemFont.h"
 #include "Tidepool/TPColors.h"
 
+#include <QEvent>
 #include <QLabel>
 
 namespace gallery {

@@ -4,6 +4,7 @@
 
 #include <QGraphicsProxyWidget>
 #include <QPainter>
+#include <QStyleOptionGraphicsItem>
 
 namespace gallery {
 
@@ -12,12 +13,13 @@ namespace {
 /// Draws its widget with the pixels of its scale, where the base class would enlarge those of 1x.
 class SharpProxy : public QGraphicsProxyWidget {
 public:
-    explicit SharpProxy(int scale) : m_scale(scale) { setScale(scale); }
+    explicit SharpProxy(int scale) : m_scale(scale) {
+        setScale(scale);
+        setFlag(ItemUsesExtendedStyleOption);
+    }
 
-    void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-        const QRect exposed = painter->clipBoundingRect().toAlignedRect() & widget()->rect();
-        if (exposed.isEmpty())
-            return;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*) override {
+        const QRect exposed = option->exposedRect.toAlignedRect() & widget()->rect();
         const qreal ratio = m_scale * painter->device()->devicePixelRatioF();
         QImage picture(exposed.size() * ratio, QImage::Format_ARGB32_Premultiplied);
         picture.setDevicePixelRatio(ratio);
@@ -35,10 +37,11 @@ private:
 MagnifiedPage::MagnifiedPage(PageView* page, int scale, QWidget* parent) : QGraphicsView(parent) {
     auto* const content = new QGraphicsScene(this);
     auto* const proxy = new SharpProxy(scale);
-    page->resize(PageView::pageWidth, page->pageHeight());
     proxy->setWidget(page);
     content->addItem(proxy);
-    content->setSceneRect(proxy->sceneBoundingRect());
+    const auto fit = [content, proxy] { content->setSceneRect(proxy->sceneBoundingRect()); };
+    connect(proxy, &QGraphicsProxyWidget::geometryChanged, content, fit);
+    fit();
     setScene(content);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setBackgroundBrush(page->palette().window());

@@ -40,7 +40,10 @@ void PagePreview::show(const GalleryPage& page, const GallerySettings& settings)
     m_area = makeArea(new PageView(page, settings), settings.scale);
     m_area->installEventFilter(this);
     layout()->addWidget(m_area);
+    // The scroll bars have their range once the page is shown in its place.
+    m_area->show();
     layout()->activate();
+    m_area->horizontalScrollBar()->setValue(m_area->horizontalScrollBar()->minimum());
     m_area->verticalScrollBar()->setValue(scrolled);
 }
 

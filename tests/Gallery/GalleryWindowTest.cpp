@@ -5,6 +5,7 @@
 #include "Gallery/Window/PageList.h"
 #include "Gallery/Window/SettingsBar.h"
 #include "Platform/Graphics/Appearance.h"
+#include "tests/support/PictureComparison.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -150,10 +151,13 @@ TEST_F(GalleryWindowTest, MagnifiedPagesStayAlive) {
     find<QComboBox>("Scale")->setCurrentIndex(1);
     auto* const view = m_window.findChild<QGraphicsView*>();
     ASSERT_NE(view, nullptr);
+    QApplication::processEvents();
+    const QImage shown = view->viewport()->grab().toImage();
+    const QImage page = gallery::pagePicture(m_pages.front(), {.scale = 2}).copy(shown.rect());
+    EXPECT_TRUE(PictureComparison(shown, page).isSame()) << "from its beginning, with the pixels of 2x";
     const auto* const proxy = qgraphicsitem_cast<QGraphicsProxyWidget*>(view->scene()->items().first());
     auto* const box = proxy->widget()->findChild<QCheckBox*>();
     const QPointF middle = box->mapTo(proxy->widget(), QPoint(8, 10));
-    QApplication::processEvents();
     const QPoint onScreen = view->mapFromScene(proxy->mapToScene(middle));
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, onScreen);
     EXPECT_EQ(m_toggled, 1);
