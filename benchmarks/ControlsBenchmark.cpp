@@ -27,7 +27,7 @@ namespace {
 constexpr int columns = 20;
 constexpr int rows = 50;
 constexpr QSize cellSize(90, 24);
-constexpr QSize pageSize(columns * cellSize.width(), rows * cellSize.height());
+constexpr QSize pageSize(columns* cellSize.width(), rows* cellSize.height());
 
 QImage makePage(qreal scale) {
     QImage image(pageSize * scale, QImage::Format_RGB32);
@@ -61,8 +61,8 @@ public:
         for (int index = 0; index < columns * rows; ++index) {
             QWidget* const button = make(index);
             button->setParent(&m_window);
-            button->setGeometry(QRect({index % columns * cellSize.width(), index / columns * cellSize.height()},
-                                      cellSize));
+            button->setGeometry(
+                QRect({index % columns * cellSize.width(), index / columns * cellSize.height()}, cellSize));
         }
         m_window.show();
         QCoreApplication::processEvents();
@@ -104,8 +104,8 @@ QString styleSheet(const QString& folder) {
                           "QPushButton:pressed { %2 color: #7d808c; }"
                           "QPushButton:checked { %3 color: #7d808c; }"
                           "QPushButton:disabled { color: #626570; }")
-        .arg(bezel("normal", StyledControlState::defaultState), bezel("down", StyledControlState::highlighted),
-             bezel("on", StyledControlState::on));
+        .arg(bezel("normal", StyledControlState::defaultState),
+             bezel("down", StyledControlState::highlighted), bezel("on", StyledControlState::on));
 }
 
 void paintChildren(benchmark::State& state, Page& page, qreal scale) {
@@ -194,8 +194,8 @@ public:
             printRatio("plain", scale, own, ">= 4", false);
             printRatio("copy", scale, own, "<= 5", true);
         }
-        std::printf("  the drawing alone, without widgets: %.2f (%.1f times the copy)\n", median("cells", "1x"),
-                    median("cells", "1x") / median("copy", "1x"));
+        std::printf("  the drawing alone, without widgets: %.2f (%.1f times the copy)\n",
+                    median("cells", "1x"), median("cells", "1x") / median("copy", "1x"));
         std::printf("state look-up: %.2f ns, %.0f allocations\n", median("look-up", "") * 1e6,
                     m_counters["allocations"]);
         std::printf("one state change: %.2f us, %.0f square points repainted\n", median("change", "") * 1e3,

@@ -20,8 +20,8 @@ qreal onPixel(qreal points, qreal scale) {
 void drawPixels(QPainter& painter, QPointF origin, const QImage& image) {
     const qreal scale = image.devicePixelRatio();
     const QTransform transform = painter.deviceTransform();
-    const bool isScaledOnly = transform.type() == QTransform::TxScale && transform.m11() == scale &&
-                              transform.m22() == scale;
+    const bool isScaledOnly =
+        transform.type() == QTransform::TxScale && transform.m11() == scale && transform.m22() == scale;
     if (!isScaledOnly) {
         painter.drawImage(origin, image);
         return;

@@ -80,12 +80,20 @@ bool Image::isNull() const {
     return !m_data || m_data->description.files.empty();
 }
 
+QString Image::name() const {
+    return m_data ? m_data->description.name : QString();
+}
+
 QSizeF Image::size() const {
     return m_data ? m_data->description.size : QSizeF(0, 0);
 }
 
 QMarginsF Image::capInsets() const {
     return m_data ? m_data->description.capInsets : QMarginsF();
+}
+
+Image::ResizingMode Image::resizingMode() const {
+    return m_data ? m_data->description.resizingMode : ResizingMode::stretch;
 }
 
 Image Image::tinted(const QColor& color) const {
@@ -114,7 +122,8 @@ QImage Image::bitmap(QSizeF size, qreal scale) const {
 void Image::draw(QPainter& painter, const QRectF& target) const {
     const qreal scale = pixelsPerPoint(painter);
     const QPointF origin(onPixel(target.left(), scale), onPixel(target.top(), scale));
-    const QSizeF size(onPixel(target.right(), scale) - origin.x(), onPixel(target.bottom(), scale) - origin.y());
+    const QSizeF size(onPixel(target.right(), scale) - origin.x(),
+                      onPixel(target.bottom(), scale) - origin.y());
     if (const QImage picture = bitmap(size, scale); !picture.isNull())
         drawPixels(painter, origin, picture);
 }

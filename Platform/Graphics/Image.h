@@ -22,6 +22,8 @@ public:
     enum class ResizingMode { tile, stretch };
 
     struct Description {
+        /// Of the asset; empty for an image that has none.
+        QString name{};
         QSizeF size;
         QMarginsF capInsets;
         ResizingMode resizingMode = ResizingMode::stretch;
@@ -38,9 +40,13 @@ public:
 
     bool isNull() const;
 
+    /// For messages and tools; tells nothing about the pixels.
+    QString name() const;
+
     /// In points.
     QSizeF size() const;
     QMarginsF capInsets() const;
+    ResizingMode resizingMode() const;
 
     /// A template is a shape without a colour of its own.
     bool isTemplate() const { return m_template; }
