@@ -11,12 +11,23 @@
 #include <QStyleFactory>
 #include <QStyleOptionMenuItem>
 
+#include <algorithm>
+#include <functional>
+
 namespace platform {
 
 namespace {
 
 constexpr int panelMargin = 5;
 constexpr qreal panelRadius = 9;
+
+/// A little nearer to the light than the window below.
+QColor panelColor(const QPalette& palette) {
+    const QColor window = palette.color(QPalette::Window);
+    const QColor button = palette.color(QPalette::Button);
+    return QColor::fromRgbF((window.redF() + button.redF()) / 2, (window.greenF() + button.greenF()) / 2,
+                            (window.blueF() + button.blueF()) / 2);
+}
 
 } // namespace
 
@@ -38,8 +49,12 @@ void MenuStyle::apply(QMenu& menu) {
     menu.setAttribute(Qt::WA_TranslucentBackground);
 }
 
-int MenuStyle::titleInset(bool hasMarks, bool hasIcons) {
-    return panelMargin + MenuItemPainter::titleInset(hasMarks, hasIcons);
+int MenuStyle::titleInset(const QMenu& menu) {
+    const auto items = menu.actions();
+    const bool hasMarks = std::any_of(items.begin(), items.end(), std::mem_fn(&QAction::isCheckable));
+    const bool hasIcons =
+        std::any_of(items.begin(), items.end(), [](const QAction* item) { return !item->icon().isNull(); });
+    return MenuItemPainter::titleInset(hasMarks, hasIcons);
 }
 
 void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -57,7 +72,7 @@ void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(edge);
-    painter->setBrush(option->palette.window());
+    painter->setBrush(panelColor(option->palette));
     painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter->restore();
 }
@@ -89,6 +104,8 @@ int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
                          QStyleHintReturn* result) const {
     switch (hint) {
     case SH_Menu_SupportsSections:
+    case SH_Menu_Scrollable:
+    case SH_Menu_SpaceActivatesItem:
         return 1;
     case SH_Menu_AllowActiveAndDisabled:
         return 0;

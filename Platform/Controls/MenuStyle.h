@@ -14,8 +14,8 @@ public:
     /// Gives `menu` this look.
     static void apply(QMenu& menu);
 
-    /// How far a title lies from the left edge of the menu's items, in points.
-    static int titleInset(bool hasMarks, bool hasIcons);
+    /// How far the titles lie from the left edge of the items, in points.
+    static int titleInset(const QMenu& menu);
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;

@@ -22,6 +22,7 @@ namespace {
 constexpr int buttonHeight = 24;
 constexpr int titleMargin = 10;
 constexpr int arrowsWidth = 20;
+constexpr int menuGap = 2;
 constexpr qreal radius = 5;
 
 bool isSelectable(const MenuItem* item) {
@@ -199,20 +200,20 @@ void PopUpButton::selectTyped(const QString& text) {
         items[index]->trigger();
 }
 
-QPoint PopUpButton::menuPosition() const {
-    if (m_pullsDown || m_selected == nullptr)
-        return {0, height() + 2};
-    const int row = m_menu->actionGeometry(m_selected).height();
-    return {titleMargin - MenuStyle::titleInset(true, false), (height() - row) / 2};
-}
-
 void PopUpButton::openMenu() {
     if (m_menu == nullptr)
         return;
-    m_menu->setMinimumWidth(width());
     setDown(true);
-    MenuItem* const item = m_pullsDown ? nullptr : itemArray().value(indexOfSelectedItem());
-    m_menu->popUp(item, menuPosition(), *this);
+    auto* const item = itemArray().value(indexOfSelectedItem());
+    if (m_pullsDown || item == nullptr) {
+        m_menu->setMinimumWidth(width());
+        m_menu->popUp(nullptr, QPoint(0, height() + menuGap), *this);
+        return;
+    }
+    // The item's title comes to lie over the button's.
+    const int left = titleMargin - MenuStyle::titleInset(*m_menu);
+    m_menu->setMinimumWidth(width() - 2 * left);
+    m_menu->popUp(item, QPoint(left, (height() - m_menu->actionGeometry(item).height()) / 2), *this);
 }
 
 void PopUpButton::keyPressEvent(QKeyEvent* event) {

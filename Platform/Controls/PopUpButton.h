@@ -93,7 +93,6 @@ private:
     void finishChoice(MenuItem* item);
     void step(int from, int by);
     void selectTyped(const QString& text);
-    QPoint menuPosition() const;
 
     const bool m_pullsDown;
     Menu* m_menu = nullptr;
