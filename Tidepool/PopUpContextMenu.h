@@ -1,11 +1,12 @@
 #pragma once
 
-class QAbstractButton;
+namespace platform {
+class PushButton;
+}
 
 namespace tidepool {
 
-/// Opens the menu of `button` below it: the pop-up button's own, else the one that `platform::setContextMenu`
-/// gave it. A button without a menu does nothing. Main thread.
-void popUpContextMenu(QAbstractButton& button);
+/// Opens the menu of `button` below it. A button without a menu does nothing. Main thread.
+void popUpContextMenu(platform::PushButton& button);
 
 } // namespace tidepool

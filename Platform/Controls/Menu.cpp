@@ -4,7 +4,6 @@
 
 #include <QKeyEvent>
 #include <QMetaMethod>
-#include <QMouseEvent>
 #include <QStyleOptionMenuItem>
 
 #include <utility>
@@ -80,14 +79,6 @@ void Menu::enableAllItems() {
             item->setEnabled(true);
 }
 
-void Menu::popUp(MenuItem* item, QPoint point, QWidget& view) {
-    m_poppingView = &view;
-    const int margin = style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, this);
-    popup(view.mapToGlobal(item != nullptr ? point - QPoint(margin, margin) : point), item);
-    if (item != nullptr)
-        setActiveAction(item);
-}
-
 Menu* Menu::supermenu() const {
     const auto* const item = qobject_cast<MenuItem*>(menuAction());
     return item != nullptr ? item->enclosingMenu() : nullptr;
@@ -113,15 +104,14 @@ void Menu::keyPressEvent(QKeyEvent* event) {
         setActiveAction(all[index]);
 }
 
-bool Menu::isOverPoppingView(QPoint globalPosition) const {
-    if (const Menu* const menu = supermenu())
-        return menu->isOverPoppingView(globalPosition);
-    return m_poppingView && m_poppingView->rect().contains(m_poppingView->mapFromGlobal(globalPosition));
-}
-
-void Menu::mousePressEvent(QMouseEvent* event) {
-    setAttribute(Qt::WA_NoMouseReplay, isOverPoppingView(event->globalPosition().toPoint()));
-    QMenu::mousePressEvent(event);
+void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {
+    const int margin = menu.style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, &menu);
+    menu.setNoReplayFor(&view);
+    if (item != nullptr)
+        point -= QPoint(menu.isRightToLeft() ? -margin : margin, margin);
+    menu.popup(view.mapToGlobal(point), item);
+    if (item != nullptr)
+        menu.setActiveAction(item);
 }
 
 QList<MenuItem*> flattenedItems(const Menu& menu) {

@@ -43,11 +43,6 @@ public:
     /// Does what precedes each showing: asks the delegate and enables the items.
     void updateItems();
 
-    /// Shows the menu with `item`, or without one its upper left corner, at `point` of `view`, in points, as
-    /// far as the screen allows, and returns at once. A press on `view` then closes the menu and is not
-    /// passed on.
-    void popUp(MenuItem* item, QPoint point, QWidget& view);
-
     /// The menu that has this as a submenu; null for none.
     Menu* supermenu() const;
 
@@ -59,17 +54,19 @@ Q_SIGNALS:
 protected:
     void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
     void keyPressEvent(QKeyEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
 
 private:
     void enableAllItems();
-    bool isOverPoppingView(QPoint globalPosition) const;
 
     QPointer<MenuDelegate> m_delegate;
     bool m_autoenablesItems = true;
-    QPointer<QWidget> m_poppingView;
     TypeAhead m_typeAhead;
 };
+
+/// Shows `menu` with `item`, or without one itself, with the corner above where lines begin at `point` of
+/// `view`, in points, as far as the screen allows, and returns at once. A press on `view` then closes the
+/// menu and is not passed on.
+void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view);
 
 /// All items of a menu and of its submenus, each item before those of its submenu.
 QList<MenuItem*> flattenedItems(const Menu& menu);

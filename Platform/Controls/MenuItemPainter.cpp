@@ -22,7 +22,6 @@ constexpr int arrowWidth = 16;
 constexpr int keyGap = 28;
 constexpr int longestText = 400;
 constexpr qreal selectionRadius = 5;
-constexpr int singleLine = Qt::AlignVCenter | Qt::TextSingleLine;
 
 QFont sectionHeaderFont() {
     return systemFont(11, QFont::DemiBold);
@@ -100,19 +99,30 @@ void MenuItemPainter::paint(QPainter& painter) const {
     }
 }
 
+/// A part of the item, `left` from where lines begin, over the item's whole height.
+QRect MenuItemPainter::place(int left, int width) const {
+    const QRect place(m_item.rect.left() + left, m_item.rect.top(), width, m_item.rect.height());
+    return QStyle::visualRect(m_item.direction, m_item.rect, place);
+}
+
+void MenuItemPainter::drawLine(QPainter& painter, const QRect& place, Qt::Alignment alignment,
+                               const QString& text) const {
+    alignment = QStyle::visualAlignment(m_item.direction, alignment | Qt::AlignVCenter);
+    painter.drawText(place, static_cast<int>(alignment) | Qt::TextSingleLine, text);
+}
+
 void MenuItemPainter::paintSeparator(QPainter& painter) const {
     QColor color = m_item.palette.color(QPalette::WindowText);
     color.setAlpha(32);
-    painter.fillRect(
-        QRectF(m_item.rect.left() + padding, m_item.rect.center().y(), m_item.rect.width() - 2 * padding, 1),
-        color);
+    const QRect line = m_item.rect.adjusted(padding, 0, -padding, 0);
+    painter.fillRect(QRect(line.left(), line.center().y(), line.width(), 1), color);
 }
 
 void MenuItemPainter::paintSectionHeader(QPainter& painter) const {
     painter.setFont(sectionHeaderFont());
     painter.setPen(m_item.palette.color(QPalette::PlaceholderText));
-    painter.drawText(m_item.rect.adjusted(padding, 2, -padding, 0), Qt::AlignLeft | singleLine,
-                     withoutMnemonics(m_item.text));
+    drawLine(painter, m_item.rect.adjusted(padding, 2, -padding, 0), Qt::AlignLeft,
+             withoutMnemonics(m_item.text));
 }
 
 void MenuItemPainter::paintSelection(QPainter& painter) const {
@@ -141,7 +151,7 @@ void MenuItemPainter::paintMark(QPainter& painter) const {
     const bool isMixed = (m_item.state & QStyle::State_NoChange) != 0;
     if (!isMixed && (m_item.checkType == QStyleOptionMenuItem::NotCheckable || !m_item.checked))
         return;
-    const QPointF center(m_item.rect.left() + padding + 4.5, m_item.rect.top() + m_item.rect.height() / 2.0);
+    const QPointF center = QRectF(place(padding, 9)).center();
     painter.setPen(roundPen(titleColor(), 1.6));
     painter.setBrush(Qt::NoBrush);
     if (isMixed)
@@ -152,33 +162,35 @@ void MenuItemPainter::paintMark(QPainter& painter) const {
 }
 
 void MenuItemPainter::paintIcon(QPainter& painter) const {
-    const int left = m_item.rect.left() + titleInset() - iconGap - iconSize;
-    const QRect place(left, m_item.rect.top() + (m_item.rect.height() - iconSize) / 2, iconSize, iconSize);
     const auto mode = !isEnabled() ? QIcon::Disabled : isSelected() ? QIcon::Selected : QIcon::Normal;
-    m_item.icon.paint(&painter, place, Qt::AlignCenter, mode);
+    const QRect column = place(titleInset() - iconGap - iconSize, iconSize);
+    const int top = column.top() + (column.height() - iconSize) / 2;
+    m_item.icon.paint(&painter, QRect(column.left(), top, iconSize, iconSize), Qt::AlignCenter, mode);
 }
 
 void MenuItemPainter::paintTexts(QPainter& painter) const {
     const bool hasArrow = m_item.menuItemType == QStyleOptionMenuItem::SubMenu;
-    const QRect line = m_item.rect.adjusted(titleInset(), 0, -padding - (hasArrow ? arrowWidth : 0), 0);
+    const int behind = padding + (hasArrow ? arrowWidth : 0);
+    const QRect line = place(titleInset(), m_item.rect.width() - titleInset() - behind);
     const QString keys = m_item.text.section(u'\t', 1);
+    const int keysWidth = keys.isEmpty() ? 0 : QFontMetrics(m_item.font).horizontalAdvance(keys) + keyGap;
+    const QString title = withoutMnemonics(m_item.text.section(u'\t', 0, 0));
     painter.setFont(m_item.font);
     painter.setPen(quietColor());
-    painter.drawText(line, Qt::AlignRight | singleLine, keys);
-    const int keysWidth = keys.isEmpty() ? 0 : QFontMetrics(m_item.font).horizontalAdvance(keys) + keyGap;
+    drawLine(painter, line, Qt::AlignRight, keys);
     painter.setPen(titleColor());
-    painter.drawText(
-        line, Qt::AlignLeft | singleLine,
-        elided(withoutMnemonics(m_item.text.section(u'\t', 0, 0)), line.width() - keysWidth, m_item.font));
+    drawLine(painter, line, Qt::AlignLeft, elided(title, line.width() - keysWidth, m_item.font));
 }
 
 void MenuItemPainter::paintArrow(QPainter& painter) const {
     if (m_item.menuItemType != QStyleOptionMenuItem::SubMenu)
         return;
-    const QPointF tip(m_item.rect.right() - padding + 1.5, m_item.rect.top() + m_item.rect.height() / 2.0);
+    const QPointF center = QRectF(place(m_item.rect.width() - padding - 4, 4)).center();
+    const qreal reach = m_item.direction == Qt::LeftToRight ? 1.75 : -1.75;
     painter.setPen(roundPen(quietColor(), 1.5));
     painter.setBrush(Qt::NoBrush);
-    painter.drawPolyline(QPolygonF{{tip + QPointF(-3.5, -3.5), tip, tip + QPointF(-3.5, 3.5)}});
+    painter.drawPolyline(QPolygonF{
+        {center + QPointF(-reach, -3.5), center + QPointF(reach, 0), center + QPointF(-reach, 3.5)}});
 }
 
 } // namespace platform

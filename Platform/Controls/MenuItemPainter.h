@@ -1,14 +1,17 @@
 #pragma once
 
 #include <QColor>
+#include <QRect>
 #include <QSize>
+#include <QString>
 
 class QPainter;
 class QStyleOptionMenuItem;
 
 namespace platform {
 
-/// The look of one item of a menu. From the left: mark, icon, title; from the right: arrow, keys.
+/// The look of one item of a menu: mark, icon and title from where lines begin, arrow and keys from their
+/// end.
 class MenuItemPainter {
 public:
     explicit MenuItemPainter(const QStyleOptionMenuItem& item) : m_item(item) {}
@@ -18,7 +21,7 @@ public:
     /// In points; `text` is the size of title and keys.
     QSize size(QSize text) const;
 
-    /// The distance of the title from the left edge of the item.
+    /// The distance of the title from the edge where lines begin.
     static int titleInset(bool hasMarks, bool hasIcons);
 
     /// The size of an icon, in points.
@@ -32,6 +35,8 @@ private:
     int titleInset() const;
     QColor titleColor() const;
     QColor quietColor() const;
+    QRect place(int left, int width) const;
+    void drawLine(QPainter& painter, const QRect& place, Qt::Alignment alignment, const QString& text) const;
     void paintSeparator(QPainter& painter) const;
     void paintSectionHeader(QPainter& painter) const;
     void paintSelection(QPainter& painter) const;

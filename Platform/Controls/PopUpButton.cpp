@@ -2,28 +2,25 @@
 
 #include "Platform/Controls/ButtonStyle.h"
 #include "Platform/Controls/MenuStyle.h"
-#include "Platform/Controls/PopUpButtonAccessible.h"
+#include "Platform/Controls/PopUpButtonAccessibility.h"
 #include "Platform/Core/FatalError.h"
 #include "Platform/Graphics/SystemFont.h"
 
 #include <QAccessible>
 #include <QActionEvent>
-#include <QFontMetrics>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace platform {
 
 namespace {
 
-constexpr int buttonHeight = 24;
-constexpr int titleMargin = 10;
-constexpr int arrowsWidth = 20;
 constexpr int menuGap = 2;
-constexpr qreal radius = 5;
 
 bool isSelectable(const MenuItem* item) {
     return item->isEnabled() && !item->isSeparator();
@@ -36,34 +33,25 @@ MenuItem* firstSelectable(Iterator begin, Iterator end) {
     return found != end ? *found : nullptr;
 }
 
-void paintArrows(QPainter& painter, QPointF center, bool pointsDownOnly) {
-    constexpr qreal half = 3;
-    const auto arrow = [&](qreal base, qreal tip) {
-        painter.drawPolyline(QPolygonF{
-            {center + QPointF(-half, base), center + QPointF(0, tip), center + QPointF(half, base)}});
-    };
-    if (pointsDownOnly) {
-        arrow(-1.5, 1.5);
-        return;
-    }
-    arrow(-2.5, -5.5);
-    arrow(2.5, 5.5);
-}
-
 } // namespace
 
-PopUpButton::PopUpButton(bool pullsDown, QWidget* parent) : QAbstractButton(parent), m_pullsDown(pullsDown) {
+PopUpButton::PopUpButton(bool pullsDown, QWidget* parent)
+    : PopUpButton(std::make_unique<PopUpButtonCell>(pullsDown), parent) {
     setFont(systemFont(13));
-    setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
+    : PushButton({}, std::move(cell), parent),
+      m_pullsDown(static_cast<PopUpButtonCell&>(this->cell()).pullsDown()) {
     setMenu(std::make_unique<Menu>());
-    makePopUpButtonsAccessible();
+    installPopUpButtonAccessibility();
 }
 
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
     delete m_menu;
     m_selected = nullptr;
     m_menu = menu.get();
+    PushButton::setMenu(m_menu);
     if (menu) {
         // A child, which goes with the button, and yet a window of its own.
         menu->setParent(this, menu->windowFlags());
@@ -71,7 +59,6 @@ void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
         m_menu->installEventFilter(this);
         connect(m_menu, &Menu::willSendAction, this, &PopUpButton::choose);
         connect(m_menu, &Menu::didSendAction, this, &PopUpButton::finishChoice);
-        connect(m_menu, &QMenu::aboutToHide, this, [this] { setDown(false); });
         for (MenuItem* item : m_menu->items())
             itemAdded(*item);
     }
@@ -132,15 +119,15 @@ void PopUpButton::itemAdded(MenuItem& item) {
 void PopUpButton::itemsChanged() {
     if (const auto items = itemArray(); m_pullsDown && !items.isEmpty())
         items.front()->setVisible(false);
+    setText(title().replace(u'&', QStringLiteral("&&")));
     updateGeometry();
-    update();
     QAccessibleValueChangeEvent event(this, title());
     QAccessible::updateAccessibility(&event);
 }
 
 bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
     if (watched != m_menu)
-        return QAbstractButton::eventFilter(watched, event);
+        return PushButton::eventFilter(watched, event);
     const auto* const change = dynamic_cast<QActionEvent*>(event);
     if (change == nullptr)
         return false;
@@ -200,20 +187,30 @@ void PopUpButton::selectTyped(const QString& text) {
         items[index]->trigger();
 }
 
+/// How far the menu reaches beyond the button, so that the item's title comes to lie over the button's.
+int PopUpButton::titleOverhang() const {
+    const QRectF bounds(rect());
+    const QRectF title = cell().titleRect(cell().drawingRect(bounds));
+    const qreal inset = isRightToLeft() ? bounds.right() - title.right() : title.left();
+    return MenuStyle::titleInset(*m_menu) - static_cast<int>(std::lround(inset));
+}
+
 void PopUpButton::openMenu() {
     if (m_menu == nullptr)
         return;
-    setDown(true);
+    const int start = isRightToLeft() ? width() : 0;
     auto* const item = itemArray().value(indexOfSelectedItem());
     if (m_pullsDown || item == nullptr) {
         m_menu->setMinimumWidth(width());
-        m_menu->popUp(nullptr, QPoint(0, height() + menuGap), *this);
+        popUp(*m_menu, {start, height() + menuGap});
         return;
     }
-    // The item's title comes to lie over the button's.
-    const int left = titleMargin - MenuStyle::titleInset(*m_menu);
-    m_menu->setMinimumWidth(width() - 2 * left);
-    m_menu->popUp(item, QPoint(left, (height() - m_menu->actionGeometry(item).height()) / 2), *this);
+    const int overhang = titleOverhang();
+    m_menu->setMinimumWidth(width() + 2 * overhang);
+    popUp(*m_menu,
+          {isRightToLeft() ? start + overhang : -overhang,
+           (height() - m_menu->actionGeometry(item).height()) / 2},
+          item);
 }
 
 void PopUpButton::keyPressEvent(QKeyEvent* event) {
@@ -248,54 +245,37 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void PopUpButton::keyReleaseEvent(QKeyEvent* event) {
-    QWidget::keyReleaseEvent(event);
+void PopUpButton::beginTracking(QMouseEvent&) {
+    openMenu();
 }
 
-void PopUpButton::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
+bool PopUpButton::popUpMenu(const QMouseEvent&) {
+    return false;
+}
+
+void PopUpButton::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard)
         openMenu();
     else
         event->ignore();
 }
 
-void PopUpButton::mouseReleaseEvent(QMouseEvent* event) {
-    event->ignore();
+QSizeF PopUpButton::intrinsicContentSize() const {
+    QSizeF size = PushButton::intrinsicContentSize();
+    if (m_pullsDown)
+        return size;
+    ButtonCell& measured = cell();
+    for (const MenuItem* item : itemArray()) {
+        measured.setTitle(item->text());
+        size = size.expandedTo(measured.cellSize());
+    }
+    return size;
 }
 
-void PopUpButton::mouseMoveEvent(QMouseEvent* event) {
-    event->ignore();
-}
-
-QSize PopUpButton::sizeHint() const {
-    const QFontMetrics metrics(font());
-    int width = metrics.horizontalAdvance(title());
-    if (!m_pullsDown)
-        for (const MenuItem* item : itemArray())
-            width = std::max(width, metrics.horizontalAdvance(item->title()));
-    return {titleMargin + width + arrowsWidth, buttonHeight};
-}
-
-void PopUpButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintLook(painter);
-}
-
-void PopUpButton::paintLook(QPainter& painter) const {
-    const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-    const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(palette().color(group, QPalette::Light));
-    painter.setBrush(palette().color(group, isDown() ? QPalette::Dark : QPalette::Button));
-    painter.drawRoundedRect(frame, radius, radius);
-    painter.setPen(palette().color(group, QPalette::ButtonText));
-    const QRect line = rect().adjusted(titleMargin, 0, -arrowsWidth, 0);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(title(), Qt::ElideRight, line.width()));
-    painter.setPen(QPen(painter.pen().color(), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    paintArrows(painter, {width() - arrowsWidth / 2.0, height() / 2.0}, m_pullsDown);
+void PopUpButton::draw(QPainter& painter) {
+    PushButton::draw(painter);
     if (hasFocus())
-        paintFocusRing(painter, rect(), radius);
+        paintFocusRing(painter, focusRingMaskBounds(), 4);
 }
 
 } // namespace platform

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Platform/Controls/Control.h"
 #include "Platform/Controls/Menu.h"
+#include "Platform/Controls/PopUpButtonCell.h"
+#include "Platform/Controls/PushButton.h"
 #include "Platform/Controls/TypeAhead.h"
 
-#include <QAbstractButton>
 #include <QPointer>
 
 #include <memory>
@@ -15,7 +15,7 @@ namespace platform {
 /// below a title. The pointer, Space, Return and F4 open the menu; the arrow keys and the beginning of a
 /// title select without it. An item that the user chooses is selected; then it sends its own action or, if it
 /// has none, the button does. Main thread.
-class PopUpButton : public QAbstractButton, public Control {
+class PopUpButton : public PushButton {
     Q_OBJECT
 
 public:
@@ -24,10 +24,10 @@ public:
     /// True if the first item is the title, which the menu does not show.
     bool pullsDown() const { return m_pullsDown; }
 
-    /// Never null until `setMenu` is given null.
+    /// Never null until `setMenu` is given null. Owned.
     Menu* menu() const { return m_menu; }
 
-    /// Replaces the menu and destroys the former one. Selects its first item, unless the button pulls down.
+    /// Destroys the former menu. Selects the first item, unless the button pulls down.
     void setMenu(std::unique_ptr<Menu> menu);
 
     /// The items of the menu, without those of submenus.
@@ -57,11 +57,7 @@ public:
     /// Opens the menu: with the selected item over the button, or below it when the button pulls down.
     void openMenu();
 
-    QWidget& view() override { return *this; }
-
-    QSize sizeHint() const override;
-
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSizeF intrinsicContentSize() const override;
 
 public Q_SLOTS:
     /// Selects the next or previous enabled item, or else the last or first of all, and sends the button's
@@ -75,20 +71,20 @@ Q_SIGNALS:
     void itemChosen(platform::MenuItem* item);
 
 protected:
+    /// For subclasses with a cell of their own.
+    PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent);
+
+    void draw(QPainter& painter) override;
+    void beginTracking(QMouseEvent& event) override;
+    bool popUpMenu(const QMouseEvent& press) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-
-    /// Draws the whole button.
-    virtual void paintLook(QPainter& painter) const;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void itemAdded(MenuItem& item);
     void itemsChanged();
+    int titleOverhang() const;
     void choose(MenuItem* item);
     void finishChoice(MenuItem* item);
     void step(int from, int by);

@@ -1,12 +1,10 @@
 #include "Platform/Controls/Menu.h"
-#include "Platform/Controls/ContextMenu.h"
 #include "Platform/Controls/FileIcon.h"
 #include "Platform/Controls/ImageIcon.h"
 #include "Platform/Controls/KeyEquivalent.h"
 #include "tests/support/Pixels.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QStyleHints>
 #include <QTest>
 #include <QVBoxLayout>
@@ -55,7 +53,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
     }
 
-    void open() { m_menu.popUp(nullptr, {20, 20}, m_window); }
+    void open() { popUp(m_menu, nullptr, {20, 20}, m_window); }
 
     void click(const MenuItem& item) {
         const QPoint center = m_menu.actionGeometry(const_cast<MenuItem*>(&item)).center();
@@ -200,19 +198,16 @@ TEST_F(MenuTest, TypingFindsTheBeginningOfATitle) {
     EXPECT_FALSE(m_menu.isVisible());
 }
 
-TEST_F(MenuTest, AWidgetOwnsItsContextMenu) {
-    auto owned = std::make_unique<Menu>();
-    const QPointer<Menu> menu(owned.get());
-    menu->addItem(QStringLiteral("Play"), play);
-    platform::setContextMenu(m_window, std::move(owned));
-    ASSERT_EQ(platform::contextMenu(m_window), menu);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, {30, 40}, m_window.mapToGlobal(QPoint(30, 40)));
-    QApplication::sendEvent(&m_window, &event);
-    EXPECT_TRUE(menu->isVisible());
-    EXPECT_EQ(menu->pos(), m_window.mapToGlobal(QPoint(30, 40)));
-    platform::setContextMenu(m_window, nullptr);
-    EXPECT_FALSE(menu);
-    EXPECT_EQ(platform::contextMenu(m_window), nullptr);
+TEST_F(MenuTest, APressOnItsViewOnlyClosesIt) {
+    m_menu.addItem(QStringLiteral("A"));
+    const auto pressAt = [this](QPoint point) {
+        open();
+        QTest::mousePress(&m_menu, Qt::LeftButton, {}, m_menu.mapFromGlobal(m_window.mapToGlobal(point)));
+        EXPECT_FALSE(m_menu.isVisible());
+        return !m_menu.testAttribute(Qt::WA_NoMouseReplay);
+    };
+    EXPECT_TRUE(pressAt({-30, 10})) << "a press elsewhere is passed on";
+    EXPECT_FALSE(pressAt({5, 5}));
 }
 
 TEST(MenuItem, ShowsItsTitleAsItIs) {

@@ -115,7 +115,7 @@ TEST_F(PopUpButtonTest, PressOpensTheMenuWithTheSelectedItemOverTheButton) {
     QTest::mousePress(&m_button, Qt::LeftButton);
     Menu& menu = *m_button.menu();
     ASSERT_TRUE(menu.isVisible());
-    EXPECT_TRUE(m_button.isDown());
+    EXPECT_TRUE(m_button.cell().isHighlighted());
     EXPECT_EQ(menu.activeAction(), m_button.selectedItem());
     const QRect row = menu.actionGeometry(m_button.selectedItem()).translated(menu.pos());
     const QRect button(m_button.mapToGlobal(QPoint()), m_button.size());
@@ -123,7 +123,7 @@ TEST_F(PopUpButtonTest, PressOpensTheMenuWithTheSelectedItemOverTheButton) {
     EXPECT_TRUE(menu.geometry().contains(button));
     chooseInMenu(m_button, *m_button.itemArray()[0]);
     EXPECT_FALSE(menu.isVisible());
-    EXPECT_FALSE(m_button.isDown());
+    EXPECT_FALSE(m_button.cell().isHighlighted());
     EXPECT_EQ(m_owner.selected, QStringList{QStringLiteral("A")});
     EXPECT_EQ(m_button.itemArray()[2]->state(), MenuItem::State::off);
     m_button.setEnabled(false);
@@ -176,7 +176,7 @@ TEST_F(PopUpButtonTest, KeysStepWithoutWrappingAndOpen) {
         EXPECT_TRUE(m_button.menu()->isVisible()) << key;
         QTest::keyClick(m_button.menu(), Qt::Key_Escape);
         EXPECT_FALSE(m_button.menu()->isVisible());
-        EXPECT_FALSE(m_button.isDown());
+        EXPECT_FALSE(m_button.cell().isHighlighted());
     }
     QTest::keyClick(&m_button, Qt::Key_Down, Qt::AltModifier);
     EXPECT_TRUE(m_button.menu()->isVisible());

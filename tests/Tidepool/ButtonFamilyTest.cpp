@@ -122,8 +122,8 @@ TEST(CursorButton, IsHalfAsOpaqueWhilePressed) {
     };
     CursorButton cursor;
     DarkHighlightButton dark;
-    for (platform::PushButton* const button : {static_cast<platform::PushButton*>(&cursor),
-                                               static_cast<platform::PushButton*>(&dark)}) {
+    for (platform::PushButton* const button :
+         {static_cast<platform::PushButton*>(&cursor), static_cast<platform::PushButton*>(&dark)}) {
         button->setImage(TPImages::checkboxOn.image());
         EXPECT_EQ(alpha(*button), 255);
         button->setDown(true);

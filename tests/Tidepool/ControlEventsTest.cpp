@@ -56,8 +56,10 @@ TEST(NSControlPublisher, IsOneForEachControlAndEndsWithIt) {
     std::vector<double> values;
     int ends = 0;
     const auto end = [&](const platform::Completion& completion) { ends += completion.isFinished() ? 1 : 0; };
-    const auto byState = statePublisher(*box)->sink([&](ControlState state) { states.push_back(state); }, end);
-    const auto byValue = doubleValuePublisher(*box)->sink([&](double value) { values.push_back(value); }, end);
+    const auto byState =
+        statePublisher(*box)->sink([&](ControlState state) { states.push_back(state); }, end);
+    const auto byValue =
+        doubleValuePublisher(*box)->sink([&](double value) { values.push_back(value); }, end);
     box->click();
     box->Control::sendAction(); // changes nothing, and is sent all the same
     box->click();

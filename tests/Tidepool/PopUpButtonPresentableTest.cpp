@@ -1,11 +1,9 @@
 #include "Tidepool/PopUpButtonPresentable.h"
 
-#include "Platform/Controls/ContextMenu.h"
 #include "Platform/Publishing/PassthroughSubject.h"
 #include "Tidepool/PopUpContextMenu.h"
 #include "tests/Tidepool/MenuChoices.h"
 
-#include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -142,16 +140,15 @@ TEST_F(BoundPopUpTest, EndsWhenItIsCancelled) {
 }
 
 TEST(PopUpContextMenu, OpensBelowTheButton) {
-    QPushButton button(QStringLiteral("Options"));
+    platform::PushButton button(QStringLiteral("Options"));
     button.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&button));
     popUpContextMenu(button);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "it has none";
-    auto menu = std::make_unique<Menu>();
-    menu->addItem(QStringLiteral("A"));
-    platform::setContextMenu(button, std::move(menu));
+    Menu menu;
+    menu.addItem(QStringLiteral("A"));
+    button.setMenu(&menu);
     popUpContextMenu(button);
-    const auto* const shown = platform::contextMenu(button);
-    ASSERT_TRUE(shown->isVisible());
-    EXPECT_EQ(shown->pos(), button.mapToGlobal(QPoint(0, button.height())));
+    ASSERT_TRUE(menu.isVisible());
+    EXPECT_EQ(menu.pos(), button.mapToGlobal(QPoint(0, button.height())));
 }

@@ -102,7 +102,8 @@ TEST(StyledButtonCell, GeometryFollowsTheInsetsOfTheStyle) {
     EXPECT_EQ(image.size(), QSizeF(16, 16));
     EXPECT_EQ(image.top(), 6) << "the middle of what the insets leave, without its fraction";
     cell.setLayoutDirection(Qt::RightToLeft);
-    EXPECT_GT(cell.imageRect(QRectF(0, 0, 100, 31)).left(), cell.titleRect(QRectF(0, 0, 100, 31)).right() - 1);
+    EXPECT_GT(cell.imageRect(QRectF(0, 0, 100, 31)).left(),
+              cell.titleRect(QRectF(0, 0, 100, 31)).right() - 1);
 }
 
 TEST(StyledButtonCell, BezelAndImageAreHalfOpaqueWhenDisabled) {
@@ -260,6 +261,7 @@ TEST(StyledButtonStyle, AccessorsThatAMakerOverridesReachTheScreen) {
     private:
         QColor m_color{255, 0, 0};
     };
+
     StyledButton button(QStringLiteral("HHH"));
     button.setButtonStyle(std::make_shared<WarningStyle>());
     button.resize(button.sizeHint());

@@ -1,4 +1,4 @@
-#include "Platform/Controls/PopUpButtonAccessible.h"
+#include "Platform/Controls/PopUpButtonAccessibility.h"
 
 #include "Platform/Controls/PopUpButton.h"
 
@@ -8,9 +8,9 @@ namespace platform {
 
 namespace {
 
-class PopUpButtonAccessible : public QAccessibleWidget {
+class PopUpButtonInterface : public QAccessibleWidget {
 public:
-    explicit PopUpButtonAccessible(PopUpButton& button)
+    explicit PopUpButtonInterface(PopUpButton& button)
         : QAccessibleWidget(&button, button.pullsDown() ? QAccessible::ButtonMenu : QAccessible::ComboBox),
           m_button(button) {}
 
@@ -29,14 +29,11 @@ public:
     }
 
     QStringList actionNames() const override {
-        QStringList names = QAccessibleWidget::actionNames();
-        if (m_button.isEnabled())
-            names.prepend(showMenuAction());
-        return names;
+        return m_button.isEnabled() ? QStringList{showMenuAction(), pressAction()} : QStringList();
     }
 
     void doAction(const QString& name) override {
-        if (name == showMenuAction())
+        if (actionNames().contains(name))
             m_button.openMenu();
         else
             QAccessibleWidget::doAction(name);
@@ -46,20 +43,19 @@ private:
     PopUpButton& m_button;
 };
 
-QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
-    const bool isOurs = className == QLatin1StringView(PopUpButton::staticMetaObject.className());
-    auto* const button = isOurs ? qobject_cast<PopUpButton*>(object) : nullptr;
-    return button != nullptr ? new PopUpButtonAccessible(*button) : nullptr;
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+    auto* const button = dynamic_cast<PopUpButton*>(object);
+    return button != nullptr ? new PopUpButtonInterface(*button) : nullptr;
 }
 
 } // namespace
 
-void makePopUpButtonsAccessible() {
-    static const bool isInstalled = [] {
+void installPopUpButtonAccessibility() {
+    static const bool installed = [] {
         QAccessible::installFactory(makeInterface);
         return true;
     }();
-    Q_UNUSED(isInstalled);
+    Q_UNUSED(installed);
 }
 
 } // namespace platform
