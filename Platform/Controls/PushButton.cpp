@@ -1,12 +1,12 @@
 #include "Platform/Controls/PushButton.h"
 
+#include "Platform/Controls/Menu.h"
 #include "Platform/Controls/PointerTracking.h"
 #include "Platform/Controls/PushButtonAccessibility.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -134,7 +134,7 @@ bool PushButton::popUpMenu(const QMouseEvent& press) {
     return true;
 }
 
-void PushButton::popUp(QMenu& menu, QPoint position) {
+void PushButton::popUp(QMenu& menu, QPoint position, QAction* item) {
     const auto show = [this](bool shows) {
         m_showsMenu = shows;
         update();
@@ -142,7 +142,7 @@ void PushButton::popUp(QMenu& menu, QPoint position) {
     show(true);
     connect(
         &menu, &QMenu::aboutToHide, this, [show] { show(false); }, Qt::SingleShotConnection);
-    menu.popup(mapToGlobal(position));
+    platform::popUp(menu, item, position, *this);
 }
 
 void PushButton::mousePressEvent(QMouseEvent* event) {

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class QAction;
 class QMenu;
 
 namespace platform {
@@ -88,8 +89,9 @@ protected:
 
     bool isTracking() const;
 
-    /// Opens the menu at `position` in the button's coordinates; the button is highlighted meanwhile.
-    void popUp(QMenu& menu, QPoint position);
+    /// Opens the menu, or `item` of it, at `position` in the button's coordinates; the button is highlighted
+    /// meanwhile, and a press on it only closes the menu.
+    void popUp(QMenu& menu, QPoint position, QAction* item = nullptr);
 
     /// True if the press asked for a menu, which is now open.
     virtual bool popUpMenu(const QMouseEvent& press);
