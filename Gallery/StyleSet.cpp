@@ -1,6 +1,7 @@
 #include "Gallery/StyleSet.h"
 
 #include "Tidepool/ControlAssets.h"
+#include "Tidepool/KitStyles.h"
 #include "Tidepool/TPColors.h"
 
 #include <QPalette>
@@ -30,11 +31,14 @@ QPalette kitPalette() {
     return palette;
 }
 
-void applyAccent(tidepool::ControlStyle& style, const GallerySettings& settings) {
+std::shared_ptr<const tidepool::StyleSet> kitStyles(const GallerySettings& settings) {
+    return tidepool::makeStyleSet(platform::currentAppearance(), accentOf(settings));
+}
+
+std::optional<QColor> accentOf(const GallerySettings& settings) {
     if (settings.styleSet != GallerySettings::StyleSet::accent)
-        return;
-    style.setSelectedBackgroundColor(TPColorsAK::Vantor::purple);
-    style.setFocusRingColor(TPColorsAK::Vantor::purple);
+        return std::nullopt;
+    return TPColorsAK::Vantor::purple.color();
 }
 
 } // namespace gallery

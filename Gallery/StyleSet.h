@@ -2,7 +2,12 @@
 
 #include "Gallery/GallerySettings.h"
 
-#include "Tidepool/ControlStyle.h"
+#include "Tidepool/StyleSet.h"
+
+#include <QColor>
+
+#include <memory>
+#include <optional>
 
 class QPalette;
 
@@ -14,15 +19,10 @@ void useAppearance(GallerySettings::StyleSet set);
 /// The palette of Qt's own widgets in the kit's colours, in the current appearance.
 QPalette kitPalette();
 
-/// Gives selections and focus rings the accent if the settings ask for it.
-void applyAccent(tidepool::ControlStyle& style, const GallerySettings& settings);
+/// The kit's styles as the settings want them.
+std::shared_ptr<const tidepool::StyleSet> kitStyles(const GallerySettings& settings);
 
-/// A style of the kit as the settings want it.
-template <class Style>
-Style styled(const GallerySettings& settings) {
-    Style style;
-    applyAccent(style, settings);
-    return style;
-}
+/// The accent that the settings ask for, if they do.
+std::optional<QColor> accentOf(const GallerySettings& settings);
 
 } // namespace gallery

@@ -12,6 +12,7 @@ namespace gallery {
 PageView::PageView(const GalleryPage& page, const GallerySettings& settings) {
     constexpr int side = 48;
     setPalette(kitPalette());
+    tidepool::StyleSet::apply(*this, kitStyles(settings));
     setAutoFillBackground(true);
     setFont(textFont(TextRole::body));
     setLayoutDirection(settings.isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);

@@ -7,6 +7,8 @@
 #include "Gallery/Pages/StyleClasses.h"
 #include "Gallery/StyleSet.h"
 
+#include "Tidepool/KitStyles.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -114,7 +116,8 @@ void StatesPage::setFlags(StyledControlState flags, bool isSet) {
 
 void StatesPage::makeStyle() {
     m_style = styleClasses()[static_cast<std::size_t>(m_selection->styleClass)].make();
-    applyAccent(*m_style, m_settings);
+    if (const std::optional<QColor> accent = accentOf(m_settings))
+        tidepool::applyAccent(*m_style, *accent);
     show();
 }
 

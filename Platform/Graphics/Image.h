@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Graphics/Recoloring.h"
+
 #include <QColor>
 #include <QImage>
 #include <QMarginsF>
@@ -54,6 +56,9 @@ public:
     /// For a template, a copy in `color` that is no template; any other image unchanged.
     Image tinted(const QColor& color) const;
 
+    /// A copy with other colours; of a template, the same.
+    Image recolored(const Recoloring& recoloring) const;
+
     /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred.
     void draw(QPainter& painter, const QRectF& target) const;
 
@@ -66,6 +71,7 @@ private:
 
     std::shared_ptr<Data> m_data;
     std::optional<QRgb> m_tint;
+    std::optional<Recoloring> m_recoloring;
     bool m_template = false;
 };
 
