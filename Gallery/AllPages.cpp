@@ -1,16 +1,19 @@
 #include "Gallery/AllPages.h"
 
+#include "Gallery/Pages/CheckBoxesPage.h"
 #include "Gallery/Pages/ColorsPage.h"
+#include "Gallery/Pages/ImageButtonsPage.h"
 #include "Gallery/Pages/ImagesPage.h"
+#include "Gallery/Pages/PushButtonsPage.h"
 #include "Gallery/Pages/StatesPage.h"
+#include "Gallery/Pages/ToolButtonsPage.h"
 
 namespace gallery {
 
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
-        colorsPage(),
-        imagesPage(),
-        statesPage(),
+        colorsPage(),     imagesPage(),      statesPage(),       pushButtonsPage(),
+        checkBoxesPage(), toolButtonsPage(), imageButtonsPage(),
     };
     return pages;
 }

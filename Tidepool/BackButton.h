@@ -17,6 +17,11 @@ public:
 
     QMarginsF alignmentRectInsets() const override;
 
+    /// Without the room above the bezel.
+    QRectF focusRingMaskBounds() const override {
+        return QRectF(rect()).marginsRemoved(alignmentRectInsets());
+    }
+
     /// Its cell toggles, but there is nothing to see or to tell of that.
     bool showsState() const override { return false; }
 };

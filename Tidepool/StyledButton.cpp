@@ -63,11 +63,9 @@ QSizeF StyledButton::intrinsicContentSize() const {
     return {framed - insets.left() - insets.right(), bezel->size().height() - insets.top() - insets.bottom()};
 }
 
-void StyledButton::draw(QPainter& painter) {
-    PushButton::draw(painter);
+void StyledButton::drawFocus(QPainter& painter) {
     const StyledButtonCell& cell = styledCell();
-    if (isActiveWindow() && hasFocus())
-        drawFocusRing(painter, focusRingMaskBounds(), cell.style().focusRingColor(cell.controlState()));
+    drawFocusRing(painter, focusRingMaskBounds(), cell.style().focusRingColor(cell.controlState()));
 }
 
 } // namespace tidepool

@@ -42,7 +42,7 @@ protected:
 
     StyledButtonCell& styledCell() const;
 
-    void draw(QPainter& painter) override;
+    void drawFocus(QPainter& painter) override;
 
 private:
     std::optional<double> m_fixedWidth;

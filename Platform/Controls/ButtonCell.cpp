@@ -34,7 +34,7 @@ constexpr qreal sideMargin = 12;
 constexpr qreal leastSideMargin = 6;
 constexpr qreal framedHeight = 24;
 /// What one without a frame has, so that the focus can be drawn around it.
-constexpr qreal plainMargin = 3;
+constexpr qreal plainMargin = 4;
 constexpr qreal disabledOpacity = 0.5;
 
 } // namespace
@@ -94,9 +94,7 @@ QRectF ButtonCell::imageRect(const QRectF& bounds) const {
 QSizeF ButtonCell::cellSize() const {
     const QSizeF content = naturalSize(this->content());
     if (!isFramed())
-        return m_imagePosition == ImagePosition::imageOnly
-                   ? content
-                   : content + QSizeF(2 * plainMargin, 2 * plainMargin);
+        return content + QSizeF(2 * plainMargin, 2 * plainMargin);
     const qreal margin = m_imagePosition == ImagePosition::imageOnly ? leastSideMargin : sideMargin;
     return {content.width() + 2 * margin, std::max(content.height() + 4, framedHeight)};
 }

@@ -1,5 +1,6 @@
 #include "Platform/Controls/PushButton.h"
 
+#include "Platform/Controls/ButtonStyle.h"
 #include "Platform/Controls/Menu.h"
 #include "Platform/Controls/PointerTracking.h"
 #include "Platform/Controls/PushButtonAccessibility.h"
@@ -110,6 +111,13 @@ void PushButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setOpacity(m_alphaValue);
     draw(painter);
+    if (showsFocus())
+        drawFocus(painter);
+}
+
+void PushButton::drawFocus(QPainter& painter) {
+    constexpr qreal radius = 3;
+    paintFocusRing(painter, focusRingMaskBounds(), radius);
 }
 
 bool PushButton::isTracking() const {

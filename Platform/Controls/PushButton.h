@@ -78,6 +78,12 @@ Q_SIGNALS:
 protected:
     virtual void draw(QPainter& painter);
 
+    /// Shows that the keyboard is on the button: a ring within `focusRingMaskBounds`.
+    virtual void drawFocus(QPainter& painter);
+
+    /// Whether the focus is drawn: the keyboard is on the button, in the window that has it.
+    virtual bool showsFocus() const { return isActiveWindow() && hasFocus(); }
+
     /// The pointer's press, single or the second of a double click.
     virtual void beginTracking(QMouseEvent& event);
 
