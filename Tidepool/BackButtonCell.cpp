@@ -1,8 +1,5 @@
 #include "Tidepool/BackButtonCell.h"
 
-#include "Tidepool/ControlAssets.h"
-#include "Tidepool/StyleValues.h"
-
 #include <QPainter>
 
 namespace tidepool {
@@ -20,8 +17,7 @@ template <>
 BackButtonCellStyle& sharedStyle<BackButtonCellStyle>() {
     static BackButtonCellStyle style = [] {
         BackButtonCellStyle made;
-        made.setBezelImages(
-            {{normal, OrganiserImages::navbarBack}, {highlighted, OrganiserImages::navbarBackDown}});
+        made.setArrowBezel();
         return made;
     }();
     return style;

@@ -36,8 +36,8 @@ void StyledButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
 }
 
 void StyledButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
-    painter.setPen(style().textColor(controlState()));
-    preparedTitle(style().font()).draw(painter, frame, Qt::AlignHCenter, showsMnemonic());
+    const QRgb color = style().textColor(controlState()).rgba();
+    preparedTitle(style().font()).draw(painter, frame, {color, Qt::AlignHCenter, showsMnemonic()});
 }
 
 void StyledButtonCell::drawImage(QPainter& painter, const QRectF& frame) const {

@@ -17,4 +17,8 @@ CornerButtonCellStyle::CornerButtonCellStyle() {
     setEdgeInsets(insets(2, 4, 2, 4));
 }
 
+void BackButtonCellStyle::setArrowBezel() {
+    setBezelImages({{normal, OrganiserImages::navbarBack}, {highlighted, OrganiserImages::navbarBackDown}});
+}
+
 } // namespace tidepool

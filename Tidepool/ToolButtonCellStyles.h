@@ -16,7 +16,10 @@ public:
     CornerButtonCellStyle();
 };
 
-/// Buttons that lead back; their bezel is set on the instance that their cells share.
-class BackButtonCellStyle : public ButtonCellStyle {};
+/// Buttons that lead back. A new one has a push button's bezel; the one that their cells share has the arrow.
+class BackButtonCellStyle : public ButtonCellStyle {
+public:
+    void setArrowBezel();
+};
 
 } // namespace tidepool

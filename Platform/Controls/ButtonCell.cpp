@@ -128,8 +128,7 @@ void ButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
 void ButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
     QColor color = controlTextColor();
     color.setAlphaF(color.alphaF() * (isEnabled() ? 1.0F : static_cast<float>(disabledOpacity)));
-    painter.setPen(color);
-    preparedTitle(font()).draw(painter, frame, Qt::AlignHCenter, showsMnemonic());
+    preparedTitle(font()).draw(painter, frame, {color.rgba(), Qt::AlignHCenter, showsMnemonic()});
 }
 
 void ButtonCell::drawImage(QPainter& painter, const QRectF& frame) const {

@@ -37,6 +37,14 @@ Appearance currentAppearance() {
     return appearance();
 }
 
+AppearanceScope::AppearanceScope(Appearance value) : m_before(appearance()) {
+    appearance() = value;
+}
+
+AppearanceScope::~AppearanceScope() {
+    appearance() = m_before;
+}
+
 void setAppearance(Appearance value) {
     appearance() = value;
     QApplication::setPalette(value == Appearance::dark ? darkPalette()

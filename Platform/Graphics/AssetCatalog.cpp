@@ -26,6 +26,13 @@ QColor parseColor(const QString& text, bool isDisplayP3) {
                        : QColor::fromRgbF(part(24), part(16), part(8), part(0));
 }
 
+std::map<int, QString> bitmapFiles(const QJsonObject& paths, const Bundle& bundle) {
+    std::map<int, QString> files;
+    for (auto path = paths.begin(); path != paths.end(); ++path)
+        files[path.key().toInt()] = bundle.path(path->toString());
+    return files;
+}
+
 } // namespace
 
 AssetCatalog& AssetCatalog::of(const Bundle& bundle) {
@@ -58,6 +65,7 @@ void AssetCatalog::addColor(const QJsonObject& description) {
 
 void AssetCatalog::addImage(const QJsonObject& description, const Bundle& bundle) {
     Image::Description image;
+    image.name = description[u"name"].toString();
     const auto size = description[u"size"].toArray();
     image.size = QSizeF(size[0].toDouble(), size[1].toDouble());
     // The manifest's order is top, left, bottom, right.
@@ -66,22 +74,22 @@ void AssetCatalog::addImage(const QJsonObject& description, const Bundle& bundle
     image.resizingMode = description[u"resizing"].toString() == u"tile" ? Image::ResizingMode::tile
                                                                         : Image::ResizingMode::stretch;
     image.isTemplate = description[u"template"].toBool();
-    const auto files = description[u"files"].toObject();
-    for (auto file = files.begin(); file != files.end(); ++file)
-        image.files[file.key().toInt()] = bundle.path(file->toString());
-    m_images[description[u"name"].toString().toStdString()] = Image(std::move(image));
+    image.files = bitmapFiles(description[u"files"].toObject(), bundle);
+    const Image dark(image);
+    image.files = bitmapFiles(description[u"lightFiles"].toObject(), bundle);
+    m_images[image.name.toStdString()] = {image.files.empty() ? dark : Image(image), dark};
 }
 
-const QColor& AssetCatalog::color(std::string_view name) const {
+const QColor& AssetCatalog::color(std::string_view name, Appearance appearance) const {
     static const QColor none;
     const auto found = m_colors.find(name);
-    return found == m_colors.end() ? none : found->second[static_cast<std::size_t>(currentAppearance())];
+    return found == m_colors.end() ? none : found->second[static_cast<std::size_t>(appearance)];
 }
 
-const Image& AssetCatalog::image(std::string_view name) const {
+const Image& AssetCatalog::image(std::string_view name, Appearance appearance) const {
     static const Image none;
     const auto found = m_images.find(name);
-    return found == m_images.end() ? none : found->second;
+    return found == m_images.end() ? none : found->second[static_cast<std::size_t>(appearance)];
 }
 
 } // namespace platform

@@ -25,11 +25,12 @@ public:
 
     explicit AssetCatalog(const Bundle& bundle);
 
-    /// The colour in the current appearance; a colour that is not valid if there is none of that name.
-    const QColor& color(std::string_view name) const;
+    /// A colour that is not valid if there is none of that name.
+    const QColor& color(std::string_view name, Appearance appearance = currentAppearance()) const;
 
-    /// The same shared image for every call; a null image if there is none of that name.
-    const Image& image(std::string_view name) const;
+    /// The same shared image for every call; a null image if there is none of that name. Images that have one
+    /// drawing for both appearances are the same in both.
+    const Image& image(std::string_view name, Appearance appearance = currentAppearance()) const;
 
 private:
     void addColor(const QJsonObject& description);
@@ -37,7 +38,7 @@ private:
 
     // Ordered maps, since references into them are handed out; looked up without making a string.
     std::map<std::string, std::array<QColor, 2>, std::less<>> m_colors;
-    std::map<std::string, Image, std::less<>> m_images;
+    std::map<std::string, std::array<Image, 2>, std::less<>> m_images;
 };
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #include "Platform/Graphics/Image.h"
 
 #include "Platform/Graphics/Bitmap.h"
+#include "Platform/Graphics/DevicePixels.h"
 #include "Platform/Graphics/NineSlice.h"
 
 #include <QCache>
@@ -18,12 +19,14 @@ struct DrawnKey {
     QSize pixels;
     int scale;
     std::optional<QRgb> tint;
+    std::optional<Recoloring> recoloring;
 
     bool operator==(const DrawnKey&) const = default;
 };
 
 std::size_t qHash(const DrawnKey& key, std::size_t seed = 0) {
-    return qHashMulti(seed, key.pixels.width(), key.pixels.height(), key.scale, key.tint.value_or(0));
+    return qHashMulti(seed, key.pixels.width(), key.pixels.height(), key.scale, key.tint.value_or(0),
+                      key.recoloring ? key.recoloring->to : 0);
 }
 
 constexpr int drawnPictures = 64;
@@ -42,7 +45,7 @@ struct Image::Data {
     QCache<DrawnKey, QImage> drawn{drawnPictures};
 
     const QImage& representation(qreal scale);
-    QImage render(QSize pixels, qreal scale, const std::optional<QRgb>& color);
+    QImage render(const DrawnKey& key, qreal scale);
 };
 
 /// The smallest bitmap that need not be enlarged, else the largest.
@@ -56,16 +59,18 @@ const QImage& Image::Data::representation(qreal scale) {
     return bitmap->second;
 }
 
-QImage Image::Data::render(QSize pixels, qreal scale, const std::optional<QRgb>& color) {
+QImage Image::Data::render(const DrawnKey& key, qreal scale) {
     const QImage& source = representation(scale);
     const QSize natural = (description.size * scale).toSize();
     const QImage fitted = source.size() == natural || source.isNull()
                               ? source
                               : source.scaled(natural, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const auto caps = (description.capInsets * scale).toMargins();
-    QImage result = drawNineSlice(fitted, caps, pixels, description.resizingMode == ResizingMode::tile);
-    if (color)
-        tint(result, *color);
+    QImage result = drawNineSlice(fitted, caps, key.pixels, description.resizingMode == ResizingMode::tile);
+    if (key.recoloring)
+        recolor(result, *key.recoloring);
+    if (key.tint)
+        tint(result, *key.tint);
     return result;
 }
 
@@ -79,12 +84,20 @@ bool Image::isNull() const {
     return !m_data || m_data->description.files.empty();
 }
 
+QString Image::name() const {
+    return m_data ? m_data->description.name : QString();
+}
+
 QSizeF Image::size() const {
     return m_data ? m_data->description.size : QSizeF(0, 0);
 }
 
 QMarginsF Image::capInsets() const {
     return m_data ? m_data->description.capInsets : QMarginsF();
+}
+
+Image::ResizingMode Image::resizingMode() const {
+    return m_data ? m_data->description.resizingMode : ResizingMode::stretch;
 }
 
 Image Image::tinted(const QColor& color) const {
@@ -96,14 +109,21 @@ Image Image::tinted(const QColor& color) const {
     return copy;
 }
 
+Image Image::recolored(const Recoloring& recoloring) const {
+    Image copy = *this;
+    if (!m_template)
+        copy.m_recoloring = recoloring;
+    return copy;
+}
+
 QImage Image::bitmap(QSizeF size, qreal scale) const {
     const QSize pixels = (size * scale).toSize();
     if (isNull() || pixels.isEmpty())
         return {};
-    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint};
+    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring};
     if (const QImage* known = m_data->drawn.object(key))
         return *known;
-    auto* const drawn = new QImage(m_data->render(pixels, scale, m_tint));
+    auto* const drawn = new QImage(m_data->render(key, scale));
     drawn->setDevicePixelRatio(scale);
     QImage result = *drawn;
     m_data->drawn.insert(key, drawn);
@@ -111,11 +131,12 @@ QImage Image::bitmap(QSizeF size, qreal scale) const {
 }
 
 void Image::draw(QPainter& painter, const QRectF& target) const {
-    const qreal scale = painter.device()->devicePixelRatioF();
-    const auto aligned = [scale](qreal x) { return std::round(x * scale) / scale; };
-    const QPointF origin(aligned(target.left()), aligned(target.top()));
-    const QSizeF size(aligned(target.right()) - origin.x(), aligned(target.bottom()) - origin.y());
-    painter.drawImage(origin, bitmap(size, scale));
+    const qreal scale = pixelsPerPoint(painter);
+    const QPointF origin(onPixel(target.left(), scale), onPixel(target.top(), scale));
+    const QSizeF size(onPixel(target.right(), scale) - origin.x(),
+                      onPixel(target.bottom(), scale) - origin.y());
+    if (const QImage picture = bitmap(size, scale); !picture.isNull())
+        drawPixels(painter, origin, picture);
 }
 
 } // namespace platform

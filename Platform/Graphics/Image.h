@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Graphics/Recoloring.h"
+
 #include <QColor>
 #include <QImage>
 #include <QMarginsF>
@@ -22,6 +24,8 @@ public:
     enum class ResizingMode { tile, stretch };
 
     struct Description {
+        /// Of the asset; empty for an image that has none.
+        QString name{};
         QSizeF size;
         QMarginsF capInsets;
         ResizingMode resizingMode = ResizingMode::stretch;
@@ -38,15 +42,22 @@ public:
 
     bool isNull() const;
 
+    /// For messages and tools; tells nothing about the pixels.
+    QString name() const;
+
     /// In points.
     QSizeF size() const;
     QMarginsF capInsets() const;
+    ResizingMode resizingMode() const;
 
     /// A template is a shape without a colour of its own.
     bool isTemplate() const { return m_template; }
 
     /// For a template, a copy in `color` that is no template; any other image unchanged.
     Image tinted(const QColor& color) const;
+
+    /// A copy with other colours; of a template, the same.
+    Image recolored(const Recoloring& recoloring) const;
 
     /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred.
     void draw(QPainter& painter, const QRectF& target) const;
@@ -60,6 +71,7 @@ private:
 
     std::shared_ptr<Data> m_data;
     std::optional<QRgb> m_tint;
+    std::optional<Recoloring> m_recoloring;
     bool m_template = false;
 };
 

@@ -1,5 +1,7 @@
 #include "Platform/Graphics/PreparedText.h"
 
+#include "Platform/Graphics/DevicePixels.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -9,6 +11,9 @@
 namespace platform {
 
 namespace {
+
+/// The picture has room around the line for what letters reach beyond their advance, in points.
+constexpr qreal overhang = 2;
 
 struct Mnemonic {
     QString text;
@@ -43,46 +48,50 @@ void PreparedText::set(const QString& text, const QFont& font) {
     m_size = {std::ceil(metrics.horizontalAdvance(m_text)), 2 * std::ceil(metrics.height() / 2)};
     m_ascent = metrics.ascent();
     m_capHeight = metrics.capHeight();
-    m_width = -1;
+    m_made.reset();
 }
 
-void PreparedText::shape(qreal width) const {
+void PreparedText::make(const Made& made) const {
     const QFontMetricsF metrics(m_font);
-    const bool fits = m_size.width() <= width;
-    m_shaped.setTextFormat(Qt::PlainText);
-    m_shaped.setText(fits ? m_text : metrics.elidedText(m_text, Qt::ElideRight, width));
-    m_shaped.prepare(QTransform(), m_font);
-    m_shapedWidth = m_shaped.size().width();
-    m_width = width;
+    const QString shown =
+        m_size.width() <= made.width ? m_text : metrics.elidedText(m_text, Qt::ElideRight, made.width);
+    m_shownWidth = shown == m_text ? m_size.width() : std::ceil(metrics.horizontalAdvance(shown));
+    const QSizeF room(m_shownWidth + 2 * overhang, m_size.height() + 2 * overhang);
+    m_picture = QImage((room * made.scale).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
+    m_picture.setDevicePixelRatio(made.scale);
+    m_picture.fill(Qt::transparent);
+    QPainter painter(&m_picture);
+    painter.setFont(m_font);
+    painter.setPen(QColor::fromRgba(made.color));
+    const QPointF baseline(overhang, onPixel(overhang + m_ascent, made.scale));
+    painter.drawText(baseline, shown);
+    if (made.showsMnemonic && m_mnemonic >= 0)
+        underlineMnemonic(painter, baseline);
+    m_made = made;
 }
 
-void PreparedText::draw(QPainter& painter, const QRectF& rect, Qt::Alignment alignment,
-                        bool showsMnemonic) const {
+void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look) const {
+    const qreal scale = pixelsPerPoint(painter);
     // Every width that the whole text fits into is one and the same.
-    const qreal width = std::min(rect.width(), m_size.width());
-    if (width != m_width)
-        shape(width);
+    const Made wanted{std::min(rect.width(), m_size.width()), scale, look.color, look.showsMnemonic};
+    if (m_made != wanted)
+        make(wanted);
     qreal x = rect.left();
-    if (alignment & Qt::AlignHCenter)
-        x += (rect.width() - m_shapedWidth) / 2;
-    else if (alignment & Qt::AlignRight)
-        x = rect.right() - m_shapedWidth;
-    const qreal scale = painter.device()->devicePixelRatioF();
-    const qreal baseline = std::round((rect.center().y() + m_capHeight / 2) * scale) / scale;
-    const QPointF origin(std::round(x * scale) / scale, baseline - m_ascent);
-    if (painter.font() != m_font)
-        painter.setFont(m_font);
-    painter.drawStaticText(origin, m_shaped);
-    if (showsMnemonic && m_mnemonic >= 0)
-        underlineMnemonic(painter, origin);
+    if (look.alignment & Qt::AlignHCenter)
+        x += (rect.width() - m_shownWidth) / 2;
+    else if (look.alignment & Qt::AlignRight)
+        x = rect.right() - m_shownWidth;
+    const qreal baseline = onPixel(rect.center().y() + m_capHeight / 2, scale);
+    const qreal top = baseline - onPixel(overhang + m_ascent, scale);
+    drawPixels(painter, {onPixel(x - overhang, scale), top}, m_picture);
 }
 
-void PreparedText::underlineMnemonic(QPainter& painter, QPointF origin) const {
+void PreparedText::underlineMnemonic(QPainter& painter, QPointF baseline) const {
     const QFontMetricsF metrics(m_font);
     const qreal x = metrics.horizontalAdvance(m_text.left(m_mnemonic));
     const qreal width = metrics.horizontalAdvance(m_text.mid(m_mnemonic, 1));
-    const qreal y = std::round(metrics.ascent() + metrics.underlinePos());
-    painter.fillRect(QRectF(origin.x() + x, origin.y() + y, width, 1), painter.pen().color());
+    const qreal y = std::round(metrics.underlinePos());
+    painter.fillRect(QRectF(baseline.x() + x, baseline.y() + y, width, 1), painter.pen().color());
 }
 
 } // namespace platform

@@ -1,33 +1,52 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QRectF>
-#include <QStaticText>
 #include <QString>
+
+#include <optional>
 
 class QPainter;
 
 namespace platform {
 
-/// A line of text that is shaped once and then only drawn, until the text, the font or the width changes.
+/// A line of text that is drawn once and then only copied, until its text, font, colour, room or scale
+/// changes. Main thread.
 class PreparedText {
 public:
+    struct Look {
+        QRgb color = 0;
+        Qt::Alignment alignment = Qt::AlignHCenter;
+        /// Underlines the mnemonic.
+        bool showsMnemonic = false;
+    };
+
     /// Sets the text, in which `&` marks the next character as its mnemonic and `&&` stands for `&`.
     void set(const QString& text, const QFont& font);
 
     const QString& text() const { return m_text; }
 
-    /// In points; the height is the font's line height.
+    /// In points; the height is the font's line height, made even.
     QSizeF size() const { return m_size; }
 
-    /// Draws with the painter's pen, with the capitals in the middle of the height of `rect`, aligned within
-    /// its width. What is too long ends with an ellipsis. The mnemonic is underlined if `showsMnemonic`.
-    void draw(QPainter& painter, const QRectF& rect, Qt::Alignment alignment,
-              bool showsMnemonic = false) const;
+    /// Draws with the capitals in the middle of the height of `rect`, aligned within its width. What is too
+    /// long ends with an ellipsis.
+    void draw(QPainter& painter, const QRectF& rect, const Look& look) const;
 
 private:
-    void shape(qreal width) const;
-    void underlineMnemonic(QPainter& painter, QPointF origin) const;
+    /// What the picture was made for.
+    struct Made {
+        qreal width;
+        qreal scale;
+        QRgb color;
+        bool showsMnemonic;
+
+        bool operator==(const Made&) const = default;
+    };
+
+    void make(const Made& made) const;
+    void underlineMnemonic(QPainter& painter, QPointF baseline) const;
 
     QString m_source;
     QString m_text;
@@ -36,9 +55,9 @@ private:
     qreal m_ascent = 0;
     qreal m_capHeight = 0;
     qsizetype m_mnemonic = -1;
-    mutable QStaticText m_shaped;
-    mutable qreal m_shapedWidth = 0;
-    mutable qreal m_width = -1; // that the text was shaped for
+    mutable QImage m_picture;
+    mutable std::optional<Made> m_made;
+    mutable qreal m_shownWidth = 0; // of the text or of what the ellipsis leaves of it
 };
 
 } // namespace platform

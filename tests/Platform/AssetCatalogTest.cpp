@@ -68,6 +68,7 @@ TEST_F(AssetCatalogTest, ColorsFollowTheAppearance) {
     EXPECT_EQ(catalog.color("text").rgba(), 0x80fedcbaU);
     EXPECT_EQ(catalog.color("short").rgba(), 0xff010203U);
     EXPECT_FALSE(catalog.color("broken").isValid());
+    EXPECT_EQ(catalog.color("text", Appearance::light).rgba(), 0xff102030U);
     platform::setAppearance(Appearance::light);
     EXPECT_EQ(catalog.color("text").rgba(), 0xff102030U);
     EXPECT_FALSE(catalog.color("broken").isValid());
@@ -88,7 +89,32 @@ TEST_F(AssetCatalogTest, CapsAreTopLeftBottomRight) {
     const auto& image = catalog.image("a");
     EXPECT_EQ(image.capInsets(), QMarginsF(2, 1, 4, 3)) << "left, top, right, bottom";
     EXPECT_EQ(image.size(), QSizeF(8, 9));
+    EXPECT_EQ(image.resizingMode(), platform::Image::ResizingMode::tile);
+    EXPECT_EQ(image.name(), QStringLiteral("a"));
     EXPECT_TRUE(image.isTemplate());
+}
+
+TEST_F(AssetCatalogTest, ImagesMayHaveAnotherDrawingForTheLightAppearance) {
+    QImage picture(8, 8, QImage::Format_ARGB32);
+    for (const auto& [file, color] : {std::pair{"dark.png", Qt::black}, {"light.png", Qt::white}}) {
+        picture.fill(color);
+        ASSERT_TRUE(picture.save(m_root.filePath(QLatin1StringView(file))));
+    }
+    const auto catalog = read(R"({"images": [
+        {"name": "both", "size": [8, 8], "capInsets": [1, 1, 1, 1], "files": {"1": "dark.png"},
+         "lightFiles": {"1": "light.png"}},
+        {"name": "one", "size": [8, 8], "capInsets": [1, 1, 1, 1], "files": {"1": "dark.png"}}]})");
+    const auto color = [&](const char* name) {
+        return catalog.image(name).bitmap({20, 20}, 1).pixelColor(9, 9);
+    };
+    const platform::Image kept = catalog.image("both");
+    EXPECT_EQ(color("both"), QColor(Qt::black));
+    platform::setAppearance(Appearance::light);
+    EXPECT_EQ(color("both"), QColor(Qt::white));
+    EXPECT_EQ(color("one"), QColor(Qt::black)) << "serves both";
+    EXPECT_EQ(&catalog.image("both"), &catalog.image("both"));
+    EXPECT_EQ(catalog.image("both").capInsets(), kept.capInsets());
+    EXPECT_EQ(kept.bitmap({20, 20}, 1).pixelColor(9, 9), QColor(Qt::black)) << "looked up before";
 }
 
 // The expected value is that of the matrices in CSS Color 4.
@@ -123,15 +149,19 @@ TEST_P(CompiledBundleTest, EveryImageHasItsPixelsAtEveryScale) {
         const auto caps = image.capInsets();
         EXPECT_LT(caps.left() + caps.right(), image.size().width()) << name.toStdString();
         EXPECT_LT(caps.top() + caps.bottom(), image.size().height()) << name.toStdString();
-        for (const int scale : {1, 2, 3}) {
-            const QString file = entry[u"files"][QString::number(scale)].toString();
-            EXPECT_EQ(QImage(m_bundle.path(file)).size(), (image.size() * scale).toSize())
-                << file.toStdString();
-            const QImage drawn = image.bitmap(image.size(), scale);
-            QImage nothing(drawn.size(), drawn.format());
-            nothing.fill(Qt::transparent);
-            EXPECT_GT(difference(drawn, nothing), 16) << file.toStdString() << " is invisible";
-        }
+        for (const auto appearance : {Appearance::light, Appearance::dark})
+            for (const int scale : {1, 2, 3}) {
+                const QImage drawn =
+                    m_catalog.image(name.toStdString(), appearance).bitmap(image.size(), scale);
+                EXPECT_EQ(drawn.size(), (image.size() * scale).toSize()) << name.toStdString();
+                QImage nothing(drawn.size(), drawn.format());
+                nothing.fill(Qt::transparent);
+                EXPECT_GT(difference(drawn, nothing), 16) << name.toStdString() << " is invisible";
+            }
+        for (const auto* files : {"files", "lightFiles"})
+            for (const auto& file : entry[QLatin1StringView(files)].toObject())
+                EXPECT_FALSE(QImage(m_bundle.path(file.toString())).isNull())
+                    << file.toString().toStdString();
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -145,6 +146,28 @@ TEST_P(ImageTest, IsSharpInAWidgetThatLiesBetweenPixels) {
             const int alpha = qAlpha(drawn.pixel(x, y));
             ASSERT_TRUE(alpha == 0 || alpha == 255) << alpha << " at " << x << ", " << y;
         }
+}
+
+TEST_P(ImageTest, HasThePixelsOfThePictureThatItsWidgetIsRenderedInto) {
+    class View : public QWidget {
+    public:
+        explicit View(Image image) : m_image(std::move(image)) { resize(30, 20); }
+
+    protected:
+        void paintEvent(QPaintEvent*) override {
+            QPainter painter(this);
+            m_image.draw(painter, rect());
+        }
+
+    private:
+        Image m_image;
+    };
+
+    const double scale = GetParam();
+    View view{Image(frame())};
+    QImage drawn = canvas(view.size(), scale);
+    view.render(&drawn, {}, {}, QWidget::DrawChildren);
+    EXPECT_EQ(difference(drawn, Image(frame()).bitmap(view.size(), scale)), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Scales, ImageTest, testing::Values(1.0, 1.25, 1.5, 2.0, 3.0));

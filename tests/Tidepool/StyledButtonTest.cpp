@@ -3,6 +3,7 @@
 #include "Tidepool/TPImages.h"
 #include "Tidepool/Validating.h"
 #include "Tidepool/VantorPushButton.h"
+#include "tests/support/AllocationCounter.h"
 #include "tests/support/Pixels.h"
 
 #include <QPaintEvent>
@@ -123,6 +124,19 @@ TEST(StyledButtonCell, BezelAndImageAreHalfOpaqueWhenDisabled) {
     EXPECT_NEAR(qBlue(dim), qBlue(bright) / 2, 2);
     cell.setHighlighted(true);
     EXPECT_EQ(drawn(cell, {16, 16}).pixel(8, 3), dim);
+}
+
+TEST(StyledButtonCell, DrawingAgainAllocatesNothing) {
+    StyledButtonCell cell;
+    cell.setTitle(QStringLiteral("Title"));
+    cell.setImage(square(TPImages::checkboxOn));
+    QImage image(90, 24, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    const QRectF frame(0, 0, 90, 24);
+    cell.draw(painter, frame);
+    const AllocationCounter counter;
+    cell.draw(painter, frame);
+    EXPECT_EQ(counter.allocations(), 0);
 }
 
 TEST(StyledButtonCell, ImageScalingPlacesTheImage) {

@@ -112,6 +112,26 @@ class BundleTest(CompileTest):
         self.assertFalse((self.bundle / "Shaders/a.vert").exists())
         self.assertTrue(kept.exists())
 
+    def test_a_light_drawing_has_bitmaps_of_its_own(self):
+        self.write("Kit/Images/light/knob.svg", DRAWING.replace("<rect", '<rect fill="#f00"'))
+        depfile = self.root / "kit.d"
+        self.compile("--depfile", depfile)
+        (entry,) = json.loads((self.bundle / "Assets.json").read_text(encoding="utf-8"))["images"]
+        self.assertEqual(entry["lightFiles"], {str(s): f"Images/light/knob@{s}x.png" for s in (1, 2, 3)})
+        for scale in (1, 2, 3):
+            dark, light = (self.bundle / entry[files][str(scale)] for files in ("files", "lightFiles"))
+            self.assertEqual(light.read_bytes()[:24], dark.read_bytes()[:24])
+            self.assertNotEqual(light.read_bytes(), dark.read_bytes())
+        self.assertIn(f"{self.source}/Images/light/knob.svg", depfile.read_text(encoding="utf-8"))
+
+    def test_a_light_drawing_that_is_gone_leaves_nothing(self):
+        drawing = self.write("Kit/Images/light/knob.svg", DRAWING)
+        self.compile()
+        drawing.unlink()
+        self.compile()
+        self.assertEqual(self.bitmaps(), ["knob@1x.png", "knob@2x.png", "knob@3x.png"])
+        self.assertNotIn("lightFiles", (self.bundle / "Assets.json").read_text(encoding="utf-8"))
+
     def test_depfile_lists_what_was_read(self):
         code = self.write("code dir/a.cpp", 'colorAsset("Grey 20%"); imageAsset("knob");')
         depfile = self.root / "kit.d"
@@ -142,6 +162,11 @@ class ManifestErrorTest(CompileTest):
     def test_drawing_that_no_image_names(self):
         self.write("Kit/Images/old.svg", DRAWING)
         self.fails_with("Images/old.svg", "no image names this file")
+
+    def test_light_drawings_are_checked_too(self):
+        self.write("Kit/Images/light/knob.svg", DRAWING.replace("20 10", "10 10"))
+        self.write("Kit/Images/light/dial.svg", DRAWING)
+        self.fails_with("Images/light/knob.svg", "10 by 10", "Images/light/dial.svg: no image names this file")
 
     def test_cap_insets_that_leave_nothing_to_stretch(self):
         self.manifest([], [image(capInsets=[0, 10, 0, 10])])

@@ -1,23 +1,22 @@
 #!/usr/bin/env python3
 """Compiles a resource folder into a bundle directory.
 
-Checks the manifest, renders each drawing and noise recipe at 1x, 2x and 3x, checks and copies the
-shaders, and, where code folders are given, fails on each asset that no code names and each name that has
-no asset.
+Checks the manifest, renders each drawing and noise recipe at 1x, 2x and 3x, and so the drawing in
+Images/light that an image may have for the light appearance. Checks and copies the shaders. Where code
+folders are given, fails on each asset that no code names and each name that has no asset.
 """
 
 import argparse
 import concurrent.futures
 import json
 import os
-import shutil
 import struct
 import subprocess
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
-from manifest import MANIFEST, AssetError, read_manifest  # noqa: E402
+from manifest import LIGHT, MANIFEST, AssetError, read_manifest  # noqa: E402
 from noise import read_recipe, write_noise  # noqa: E402
 from usage import source_files, usage_errors  # noqa: E402
 
@@ -68,6 +67,8 @@ def compiled(manifest):
     for image in manifest.images:
         entry = {key: value for key, value in image.entry.items() if key != "source"}
         entry["files"] = {str(scale): file for scale, file in image.files().items()}
+        if image.light:
+            entry["lightFiles"] = {str(scale): file for scale, file in image.light_files().items()}
         images.append(entry)
     return {"colors": manifest.colors, "images": images}
 
@@ -76,11 +77,11 @@ def render_images(images, bundle):
     """Renders what is out of date and returns all bitmaps of the bundle."""
     jobs, bitmaps = [], set()
     for image in images:
-        for scale, file in image.files().items():
+        for drawing, scale, file in image.renderings():
             pixels = (image.size[0] * scale, image.size[1] * scale)
             bitmaps.add(bundle / file)
-            if not is_current(bundle / file, image.source, pixels):
-                jobs.append((image, scale, bundle / file))
+            if not is_current(bundle / file, drawing, pixels):
+                jobs.append((image, drawing, scale, bundle / file))
     with concurrent.futures.ThreadPoolExecutor(WORKERS) as pool:
         errors = [error for error in pool.map(lambda job: render(*job), jobs) if error]
     if errors:
@@ -100,25 +101,25 @@ def size_of(bitmap):
         return struct.unpack(">16xII", file.read(24))
 
 
-def render(image, scale, bitmap):
+def render(image, drawing, scale, bitmap):
     """Returns what went wrong, or nothing. The bitmap appears only when it is complete."""
     bitmap.parent.mkdir(parents=True, exist_ok=True)
     partial = bitmap.with_suffix(".partial")
-    if image.source.suffix == ".noise":
-        write_noise(read_recipe(image.source, image.size), image.size, scale, partial)
+    if drawing.suffix == ".noise":
+        write_noise(read_recipe(drawing, image.size), image.size, scale, partial)
     else:
-        error = render_drawing(image, scale, partial)
+        error = render_drawing(drawing, image.size, scale, partial)
         if error:
             partial.unlink(missing_ok=True)
-            return f"{image.source}: image \"{image.name}\": {error}"
+            return f"{drawing}: image \"{image.name}\": {error}"
     os.replace(partial, bitmap)
     return None
 
 
-def render_drawing(image, scale, output):
-    width, height = (length * scale for length in image.size)
+def render_drawing(drawing, size, scale, output):
+    width, height = (length * scale for length in size)
     command = ["rsvg-convert", "--width", str(width), "--height", str(height), "--output", output]
-    result = subprocess.run([*command, image.source], capture_output=True, text=True, check=False)
+    result = subprocess.run([*command, drawing], capture_output=True, text=True, check=False)
     if result.returncode:
         return result.stderr.strip()
     return None if size_of(output) == (width, height) else f"did not render to {width} by {height} pixels"
@@ -162,13 +163,11 @@ def shader_index_errors(path):
 def remove_others(bundle, kept):
     """Removes what an earlier run made; only the two folders that the compiler owns are touched."""
     for folder in (bundle / "Images", bundle / "Shaders"):
-        if not folder.is_dir():
-            continue
-        for path in folder.iterdir():
-            if path not in kept:
-                shutil.rmtree(path) if path.is_dir() else path.unlink()
-        if not any(folder.iterdir()):
-            folder.rmdir()
+        for path in sorted([folder, *folder.rglob("*")], reverse=True):
+            if path.is_file() and path not in kept:
+                path.unlink()
+            elif path.is_dir() and not any(path.iterdir()):
+                path.rmdir()
 
 
 def replace(path, content):
@@ -180,9 +179,9 @@ def replace(path, content):
 
 def write_depfile(options, index, manifest, code):
     """Folders are listed too: they change when a file comes or goes."""
-    read = [manifest.path, *(image.source for image in manifest.images), *code]
+    read = [manifest.path, *(source for image in manifest.images for source in image.sources()), *code]
     read += sorted(Path(__file__).resolve().parent.glob("*.py"))
-    for folder in (options.source / "Images", options.source / "Shaders"):
+    for folder in (options.source / "Images", options.source / "Images" / LIGHT, options.source / "Shaders"):
         read += [folder, *sorted(folder.iterdir())] if folder.is_dir() else []
     read += sorted({path.parent for path in code} | set(options.code))
     listed = " \\\n  ".join(escaped(path) for path in dict.fromkeys(read))

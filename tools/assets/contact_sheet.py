@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Draws every image and colour of the resource folders on one sheet, to judge them by eye.
 
-Images are shown at 1x and 2x, and those with cap insets stretched as controls stretch them.
+Images are shown at 1x and 2x, and those with cap insets stretched as controls stretch them. The sheet is
+that of one appearance.
 """
 
 import argparse
@@ -16,7 +17,8 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from compile import render_images  # noqa: E402
 from manifest import AssetError, read_manifest  # noqa: E402
 
-GROUND, TEXT, DIM = "#1d1d2c", "#d7d9e1", "#7d808c"
+# Ground, text and quiet text of each appearance.
+INKS = {"dark": ("#1d1d2c", "#d7d9e1", "#7d808c"), "light": ("#eeeff4", "#232730", "#575b67")}
 COLUMNS, COLUMN = 3, 440
 MARGIN, LABEL, GAP = 20, 18, 14
 STRETCHED = 160  # pixels
@@ -27,11 +29,12 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("sources", type=Path, nargs="+", help="resource folders with Assets.json")
     parser.add_argument("--output", type=Path, required=True, help="PNG file to write")
+    parser.add_argument("--appearance", choices=INKS, default="dark")
     parser.add_argument("--zoom", type=int, default=1, help="pixels of the sheet for each pixel of a bitmap")
     parser.add_argument("--only", default="", help="show only images whose name holds this text")
     options = parser.parse_args()
     try:
-        sheet = Sheet()
+        sheet = Sheet(options.appearance)
         with tempfile.TemporaryDirectory() as folder:
             for source in options.sources:
                 sheet.add_folder(source, Path(folder) / source.name, options.only)
@@ -43,8 +46,10 @@ def main():
 
 
 class Sheet:
-    def __init__(self):
+    def __init__(self, appearance):
         self._parts, self._y = [], MARGIN
+        self._is_light = appearance == "light"
+        self._ground, self._text, self._dim = INKS[appearance]
 
     def add_folder(self, source, bundle, only):
         manifest = read_manifest(source)
@@ -58,12 +63,12 @@ class Sheet:
         width, height = COLUMNS * COLUMN + 2 * MARGIN, self._y + MARGIN
         drawing = (f'<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" '
                    f'width="{width * zoom}" height="{height * zoom}" viewBox="0 0 {width} {height}">'
-                   f'<rect width="{width}" height="{height}" fill="{GROUND}"/>{"".join(self._parts)}</svg>')
+                   f'<rect width="{width}" height="{height}" fill="{self._ground}"/>{"".join(self._parts)}</svg>')
         command = ["rsvg-convert", "--unlimited", "--output", output]
         subprocess.run(command, input=drawing.encode(), check=True)
 
     def _heading(self, name):
-        self._parts.append(text(MARGIN, self._y + 18, name, TEXT, 18))
+        self._parts.append(text(MARGIN, self._y + 18, name, self._text, 18))
         self._y += 36
 
     def _rows(self, cells):
@@ -77,11 +82,12 @@ class Sheet:
     def _image_cell(self, image, bundle):
         """The markup of an image at 1x, 2x and stretched at both, and its height."""
         width, height = image.size
+        files = self._is_light and image.light_files() or image.files()
         template = "  template" if image.entry["template"] else ""
-        parts, x = [text(0, 10, f"{image.name}  {width}×{height}{template}", DIM, 10)], 0
+        parts, x = [text(0, 10, f"{image.name}  {width}×{height}{template}", self._dim, 10)], 0
         shown = [round(length * min(1, LARGEST / max(image.size))) for length in image.size]
         for scale in (1, 2):
-            data = data_uri(bundle / image.files()[scale])
+            data = data_uri(bundle / files[scale])
             place = (x, LABEL, shown[0] * scale, shown[1] * scale)
             parts.append(bitmap(data, (0, 0, width, height), image.size, place))
             x += place[2] + 10
@@ -94,7 +100,7 @@ class Sheet:
 
     def _color_cell(self, color):
         values = f'{color["dark"]}  {color["light"]}'
-        parts = [text(84, 14, color["name"], TEXT, 11), text(84, 28, values, DIM, 10)]
+        parts = [text(84, 14, color["name"], self._text, 11), text(84, 28, values, self._dim, 10)]
         for index, key in enumerate(("dark", "light")):
             parts.append(f'<rect x="{index * 40}" width="36" height="32" rx="4" fill="{color[key][:7]}"/>')
         return "".join(parts), 32

@@ -10,6 +10,7 @@ from noise import read_recipe
 
 MANIFEST = "Assets.json"
 SCALES = (1, 2, 3)
+LIGHT = "light"  # the folder of drawings for the light appearance, beside those that serve both
 COLOR = re.compile(r"#[0-9a-fA-F]{6}([0-9a-fA-F]{2})?\Z")
 COLOR_SPACES = ("srgb", "display-p3")
 RESIZING_MODES = ("stretch", "tile")
@@ -30,12 +31,25 @@ class AssetError(Exception):
 class Image:
     name: str
     source: Path  # of the drawing or recipe, absolute or relative to the working directory
+    light: Path  # of the drawing for the light appearance; None where one drawing serves both
     size: tuple  # width, height in points
     entry: dict  # as in the manifest
 
     def files(self):
         """The bitmap of each scale, relative to the bundle."""
         return {scale: f"Images/{self.name}@{scale}x.png" for scale in SCALES}
+
+    def light_files(self):
+        """The same of the light appearance; empty where one drawing serves both."""
+        return {scale: f"Images/{LIGHT}/{self.name}@{scale}x.png" for scale in SCALES if self.light}
+
+    def sources(self):
+        return [self.source, self.light] if self.light else [self.source]
+
+    def renderings(self):
+        """Yields (drawing, scale, bitmap relative to the bundle)."""
+        yield from ((self.source, scale, file) for scale, file in self.files().items())
+        yield from ((self.light, scale, file) for scale, file in self.light_files().items())
 
 
 @dataclasses.dataclass(frozen=True)
@@ -77,7 +91,14 @@ def _load(path):
 
 
 def _image(folder, entry):
-    return Image(entry["name"], folder / entry["source"], tuple(entry["size"]), entry)
+    source = folder / entry["source"]
+    light = light_drawing(source)
+    return Image(entry["name"], source, light if light.is_file() else None, tuple(entry["size"]), entry)
+
+
+def light_drawing(source):
+    """Where the drawing for the light appearance lies if there is one: Images/light/, under the same name."""
+    return source.parent / LIGHT / source.with_suffix(".svg").name
 
 
 def _check_names(kind, entries):
@@ -141,7 +162,14 @@ def _drawing_errors(folder, source, size):
         return
     if source.endswith(".noise"):
         yield from _recipe_errors(folder / source, size)
-        return
+    else:
+        yield from _shape_errors(folder, source, size)
+    light = light_drawing(folder / source)
+    if light.is_file():
+        yield from _shape_errors(folder, str(light.relative_to(folder)), size)
+
+
+def _shape_errors(folder, source, size):
     try:
         root = ElementTree.parse(folder / source).getroot()
     except OSError:
@@ -187,5 +215,7 @@ def _view_box(root):
 
 def _stray_drawings(folder, images):
     named = {entry.get("source") for entry in images}
-    drawings = (f"Images/{path.name}" for path in sorted((folder / "Images").glob("*")))
+    named |= {f"Images/{LIGHT}/{Path(source).stem}.svg" for source in named if isinstance(source, str)}
+    files = sorted(path for path in (folder / "Images").rglob("*") if path.is_file())
+    drawings = (str(path.relative_to(folder)) for path in files)
     return [f"{drawing}: no image names this file" for drawing in drawings if drawing not in named]

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "Gallery/GalleryPage.h"
+
+namespace gallery {
+
+/// The drawings.
+GalleryPage imagesPage();
+
+} // namespace gallery

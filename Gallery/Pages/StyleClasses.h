@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Tidepool/ControlStyle.h"
+
+#include <QString>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace gallery {
+
+struct StyleClass {
+    const char* name;
+    std::unique_ptr<tidepool::ControlStyle> (*make)();
+};
+
+/// Every style class of a control.
+const std::vector<StyleClass>& styleClasses();
+
+/// The index of a class in that list.
+int styleClassIndex(const char* name);
+
+/// The maps of a style from states to images, with what each is called. They are the style's.
+using ImageMaps = std::vector<std::pair<QString, const tidepool::StateImages*>>;
+ImageMaps imageMaps(const tidepool::ControlStyle& style);
+
+} // namespace gallery

@@ -1,0 +1,44 @@
+#include "Gallery/StyleSet.h"
+
+#include "Tidepool/ControlAssets.h"
+#include "Tidepool/KitStyles.h"
+#include "Tidepool/TPColors.h"
+
+#include <QPalette>
+
+namespace gallery {
+
+using tidepool::TPColorsAK;
+
+void useAppearance(GallerySettings::StyleSet set) {
+    const bool isLight = set == GallerySettings::StyleSet::light;
+    platform::setAppearance(isLight ? platform::Appearance::light : platform::Appearance::dark);
+}
+
+QPalette kitPalette() {
+    QPalette palette(TPColorsAK::grey20.color(), TPColorsAK::Background::normal.color());
+    const bool isDark = platform::currentAppearance() == platform::Appearance::dark;
+    palette.setColor(QPalette::Base, isDark ? TPColorsAK::grey20.color() : Qt::white);
+    palette.setColor(QPalette::AlternateBase, TPColorsAK::Background::darker);
+    palette.setColor(QPalette::Text, TPColorsAK::grey85);
+    palette.setColor(QPalette::WindowText, TPColorsAK::grey85);
+    palette.setColor(QPalette::ButtonText, TPColorsAK::grey85);
+    palette.setColor(QPalette::PlaceholderText, TPColorsAK::grey60);
+    palette.setColor(QPalette::Highlight, tidepool::SignalColors::systemHighlight);
+    palette.setColor(QPalette::HighlightedText, TPColorsAK::grey100);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, TPColorsAK::grey40);
+    return palette;
+}
+
+std::shared_ptr<const tidepool::StyleSet> kitStyles(const GallerySettings& settings) {
+    return tidepool::makeStyleSet(platform::currentAppearance(), accentOf(settings));
+}
+
+std::optional<QColor> accentOf(const GallerySettings& settings) {
+    if (settings.styleSet != GallerySettings::StyleSet::accent)
+        return std::nullopt;
+    return TPColorsAK::Vantor::purple.color();
+}
+
+} // namespace gallery

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Gallery/GallerySettings.h"
+
+#include "Tidepool/StyleSet.h"
+
+#include <QColor>
+
+#include <memory>
+#include <optional>
+
+class QPalette;
+
+namespace gallery {
+
+/// Sets the appearance of the application. Styles and pages made afterwards have its colours and images.
+void useAppearance(GallerySettings::StyleSet set);
+
+/// The palette of Qt's own widgets in the kit's colours, in the current appearance.
+QPalette kitPalette();
+
+/// The kit's styles as the settings want them.
+std::shared_ptr<const tidepool::StyleSet> kitStyles(const GallerySettings& settings);
+
+/// The accent that the settings ask for, if they do.
+std::optional<QColor> accentOf(const GallerySettings& settings);
+
+} // namespace gallery

@@ -1,0 +1,185 @@
+#include "Gallery/Window/GalleryWindow.h"
+#include "Gallery/AllPages.h"
+#include "Gallery/Layout/PageView.h"
+#include "Gallery/PagePicture.h"
+#include "Gallery/Window/PageList.h"
+#include "Gallery/Window/SettingsBar.h"
+#include "Platform/Graphics/Appearance.h"
+#include "tests/support/PictureComparison.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using gallery::GalleryPage;
+using gallery::GallerySettings;
+using gallery::GalleryWindow;
+using gallery::PageView;
+
+namespace {
+
+/// A tall page with one button, which the fixture sees made.
+class GalleryWindowTest : public testing::Test {
+protected:
+    GalleryWindowTest() {
+        m_window.show();
+        m_window.activateWindow();
+        QApplication::processEvents();
+    }
+
+    ~GalleryWindowTest() override { platform::setAppearance(platform::Appearance::dark); }
+
+    GalleryPage page(const QString& group, const QString& title, const QStringList& keywords) {
+        return {.group = group,
+                .title = title,
+                .summary = QStringLiteral("A summary."),
+                .keywords = keywords,
+                .make = [this](const GallerySettings& settings) { return make(settings); },
+                .hasStates = title == u"Buttons"};
+    }
+
+    QWidget* make(const GallerySettings& settings) {
+        m_made = settings;
+        auto* const body = new QWidget;
+        body->setFixedSize(400, 3000);
+        auto* const box = new QCheckBox(QStringLiteral("box"), body);
+        box->setGeometry(20, 20, 100, 20);
+        QObject::connect(box, &QCheckBox::toggled, box, [this] { ++m_toggled; });
+        return body;
+    }
+
+    template <class Widget>
+    Widget* find(const char* accessibleName) {
+        const auto widgets = m_window.findChildren<Widget*>();
+        for (Widget* widget : widgets)
+            if (widget->accessibleName() == QLatin1StringView(accessibleName))
+                return widget;
+        ADD_FAILURE() << "nothing is named " << accessibleName;
+        return nullptr;
+    }
+
+    QLineEdit& search() { return *find<QLineEdit>("Search pages"); }
+
+    QStringList listed() {
+        const auto* const model = find<QListView>("Pages")->model();
+        QStringList titles;
+        for (int row = 0; row < model->rowCount(); ++row)
+            titles << model->index(row, 0).data().toString();
+        return titles;
+    }
+
+    std::vector<GalleryPage> m_pages{
+        page(QStringLiteral("Foundations"), QStringLiteral("Colours"), {QStringLiteral("palette")}),
+        page(QStringLiteral("Controls"), QStringLiteral("Buttons"), {QStringLiteral("StyledButton")}),
+        page(QStringLiteral("Controls"), QStringLiteral("Boxes"),
+             {QStringLiteral("StyledCheckBox"), QStringLiteral("FavouriteCheckBox")})};
+    GallerySettings m_made;
+    int m_toggled = 0;
+    GalleryWindow m_window{m_pages};
+};
+
+} // namespace
+
+TEST_F(GalleryWindowTest, SearchesTitlesControlsAndKeywordsInAnyCase) {
+    QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(search().hasFocus());
+    QTest::keyClicks(&search(), QStringLiteral("styled"));
+    EXPECT_EQ(listed(), QStringList({QStringLiteral("Buttons"), QStringLiteral("Boxes")}));
+    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Buttons")) << "the first that is found";
+    QTest::keyClicks(&search(), QStringLiteral(" favour"));
+    EXPECT_EQ(listed(), QStringList(QStringLiteral("Boxes")));
+    search().setText(QStringLiteral("PALETTE"));
+    EXPECT_EQ(listed(), QStringList(QStringLiteral("Colours")));
+}
+
+TEST_F(GalleryWindowTest, ArrowsMoveInTheListWhileTypingAndEscapeClears) {
+    search().setFocus();
+    QTest::keyClicks(&search(), QStringLiteral("controls"));
+    QTest::keyClick(&search(), Qt::Key_Down);
+    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Boxes"));
+    EXPECT_TRUE(search().hasFocus());
+    QTest::keyClick(&search(), Qt::Key_Up);
+    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Buttons"));
+    QTest::keyClick(&search(), Qt::Key_Escape);
+    EXPECT_EQ(search().text(), QString());
+    EXPECT_EQ(listed().size(), 3);
+    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Buttons")) << "clearing moves nothing";
+}
+
+TEST_F(GalleryWindowTest, SaysWhenNothingIsFoundAndKeepsThePage) {
+    m_window.showPage(QStringLiteral("Boxes"));
+    search().setText(QStringLiteral("no such"));
+    EXPECT_FALSE(find<QListView>("Pages")->isVisible());
+    EXPECT_EQ(search().accessibleDescription(), QStringLiteral("No page matches “no such”."));
+    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Boxes"));
+    search().clear();
+    EXPECT_TRUE(find<QListView>("Pages")->isVisible());
+}
+
+TEST_F(GalleryWindowTest, SettingsReachThePageAtOnceAndKeepItsPlace) {
+    m_window.showPage(QStringLiteral("Buttons"));
+    auto* const bar = m_window.findChild<gallery::SettingsBar*>();
+    const auto boxes = bar->findChildren<QCheckBox*>();
+    for (QCheckBox* box : boxes)
+        box->click();
+    m_window.findChild<QScrollArea*>()->verticalScrollBar()->setValue(700);
+    find<QComboBox>("Style")->setCurrentIndex(1);
+    const GallerySettings expected{.isEnabled = false,
+                                   .isSelected = true,
+                                   .styleSet = GallerySettings::StyleSet::light,
+                                   .isRightToLeft = true};
+    EXPECT_EQ(m_made, expected);
+    EXPECT_EQ(platform::currentAppearance(), platform::Appearance::light);
+    EXPECT_EQ(m_window.findChild<PageView*>()->layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(m_window.findChild<QScrollArea*>()->verticalScrollBar()->value(), 700);
+    m_window.showPage(QStringLiteral("Boxes"));
+    EXPECT_EQ(m_window.findChild<QScrollArea*>()->verticalScrollBar()->value(), 0) << "of another page";
+    for (QCheckBox* box : boxes)
+        EXPECT_EQ(box->isEnabled(), box->text() == u"Right to left") << "what the page does not heed";
+}
+
+TEST_F(GalleryWindowTest, MagnifiedPagesStayAlive) {
+    find<QComboBox>("Scale")->setCurrentIndex(1);
+    auto* const view = m_window.findChild<QGraphicsView*>();
+    ASSERT_NE(view, nullptr);
+    QApplication::processEvents();
+    const QImage shown = view->viewport()->grab().toImage();
+    const QImage page = gallery::pagePicture(m_pages.front(), {.scale = 2}).copy(shown.rect());
+    EXPECT_TRUE(PictureComparison(shown, page).isSame()) << "from its beginning, with the pixels of 2x";
+    const auto* const proxy = qgraphicsitem_cast<QGraphicsProxyWidget*>(view->scene()->items().first());
+    auto* const box = proxy->widget()->findChild<QCheckBox*>();
+    const QPointF middle = box->mapTo(proxy->widget(), QPoint(8, 10));
+    const QPoint onScreen = view->mapFromScene(proxy->mapToScene(middle));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, onScreen);
+    EXPECT_EQ(m_toggled, 1);
+    EXPECT_TRUE(box->isChecked());
+}
+
+TEST(GalleryPages, CanBeMadeWithAllSettings) {
+    using StyleSet = GallerySettings::StyleSet;
+    for (const GalleryPage& page : gallery::allPages()) {
+        const QImage usual = gallery::pagePicture(page, {});
+        for (const auto styleSet : {StyleSet::dark, StyleSet::light, StyleSet::accent})
+            for (const auto size :
+                 {GallerySettings::ControlSize::small, GallerySettings::ControlSize::large}) {
+                const QImage picture = gallery::pagePicture(page, {.isEnabled = false,
+                                                                   .isSelected = true,
+                                                                   .size = size,
+                                                                   .styleSet = styleSet,
+                                                                   .isRightToLeft = true});
+                EXPECT_EQ(picture.width(), PageView::pageWidth) << page.title.toStdString();
+                EXPECT_NE(picture, usual) << page.title.toStdString();
+            }
+        EXPECT_EQ(gallery::pagePicture(page, {}), usual) << "drawing a page changes nothing";
+    }
+    platform::setAppearance(platform::Appearance::dark);
+}

@@ -1,0 +1,89 @@
+#include "tests/support/PictureComparison.h"
+
+#include "Platform/Graphics/SystemFont.h"
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+/// A small control on a ground, as pages have many.
+QImage drawing(QPoint moved = {}, QColor face = QColor(0x30, 0x32, 0x3b), QSize size = {120, 60}) {
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(QColor(0x1d, 0x1d, 0x2c));
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(moved);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(face);
+    painter.drawRoundedRect(20, 20, 16, 16, 3, 3);
+    painter.setFont(platform::systemFont(10));
+    painter.setPen(QColor(0xd7, 0xd9, 0xe1));
+    painter.drawText(44, 32, QStringLiteral("On"));
+    return picture;
+}
+
+/// Each channel of each pixel off by up to `most`, as other rounding makes it.
+QImage withNoise(QImage picture, int most) {
+    std::mt19937 random(3);
+    const auto off = [&](int value) {
+        return std::clamp(value + static_cast<int>(random() % (2U * unsigned(most) + 1)) - most, 0, 255);
+    };
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb color = picture.pixel(x, y);
+            picture.setPixel(x, y, qRgb(off(qRed(color)), off(qGreen(color)), off(qBlue(color))));
+        }
+    return picture;
+}
+
+bool isSame(const QImage& a, const QImage& b) {
+    return PictureComparison(a, b).isSame();
+}
+
+} // namespace
+
+TEST(PictureComparison, NoiseAndStrayPixelsPass) {
+    EXPECT_TRUE(isSame(drawing(), drawing()));
+    EXPECT_TRUE(isSame(withNoise(drawing(), 4), drawing()));
+    QImage stray = drawing();
+    for (int i = 0; i < 8; ++i)
+        stray.setPixelColor(11 * i, 5 * i, Qt::red);
+    EXPECT_TRUE(isSame(stray, drawing()));
+    stray.setPixelColor(3, 3, Qt::red);
+    EXPECT_FALSE(isSame(stray, drawing()));
+}
+
+TEST(PictureComparison, AShiftByOnePixelFails) {
+    for (const QPoint moved : {QPoint(1, 0), QPoint(0, 1), QPoint(-1, 0), QPoint(0, -1)})
+        EXPECT_FALSE(isSame(drawing(moved), drawing()));
+}
+
+TEST(PictureComparison, AnotherColorFails) {
+    // The two nearest grounds of the dark palette.
+    EXPECT_FALSE(isSame(drawing({}, QColor(0x16, 0x16, 0x22)), drawing({}, QColor(0x0f, 0x0f, 0x18))));
+    EXPECT_FALSE(isSame(drawing({}, QColor(0x30, 0x32, 0x41)), drawing())) << "in one channel only";
+}
+
+TEST(PictureComparison, AnotherSizeFails) {
+    const QImage taller = drawing({}, QColor(0x30, 0x32, 0x3b), {120, 61});
+    EXPECT_FALSE(isSame(taller, drawing()));
+    EXPECT_FALSE(isSame(drawing(), taller));
+    EXPECT_FALSE(isSame(drawing(), QImage()));
+    EXPECT_EQ(PictureComparison(taller, drawing()).differing(), 120);
+}
+
+TEST(PictureComparison, TheSheetMarksWhatDiffers) {
+    QImage changed = drawing();
+    changed.setPixelColor(100, 50, Qt::green);
+    const QImage sheet = PictureComparison(changed, drawing()).sideBySide();
+    const int third = 120 + 16;
+    EXPECT_EQ(sheet.size(), QSize(3 * 120 + 32, 60));
+    EXPECT_EQ(sheet.pixelColor(100, 50), QColor(Qt::green));
+    EXPECT_EQ(sheet.pixelColor(third + 100, 50), drawing().pixelColor(100, 50));
+    EXPECT_EQ(sheet.pixelColor(2 * third + 100, 50), QColor(Qt::magenta));
+    EXPECT_LT(qGray(sheet.pixel(2 * third + 28, 28)), qGray(changed.pixel(28, 28))) << "dimmed";
+}

@@ -1,0 +1,77 @@
+#include "Gallery/Pages/StatesPage.h"
+#include "Gallery/Layout/PageView.h"
+#include "Gallery/Pages/StyleClasses.h"
+#include "Tidepool/TextFieldCellStyle.h"
+
+#include <QApplication>
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+using gallery::StatesPage;
+using gallery::styleClassIndex;
+using State = tidepool::StyledControlState;
+
+namespace {
+
+/// The page as it is read, label by label.
+QStringList texts(const StatesPage& page) {
+    QStringList found;
+    const auto labels = page.findChildren<QLabel*>();
+    for (const QLabel* label : labels)
+        found << label->text();
+    return found;
+}
+
+} // namespace
+
+TEST(StatesPage, ShowsWhatTheStateResolvesTo) {
+    const auto selection = std::make_shared<StatesPage::Selection>();
+    selection->styleClass = styleClassIndex("TextFieldCellStyle");
+    selection->state = State::focused | State::invalid;
+    StatesPage page({}, selection);
+    EXPECT_EQ(texts(page).count(QStringLiteral("Error")), 3) << "text, background and focus ring";
+    // In the result, and in the table for invalid alone and with focused.
+    EXPECT_EQ(texts(page).count(QStringLiteral("tpk-textfield-error")), 3);
+    EXPECT_EQ(texts(page).count(QStringLiteral("taken")), 1);
+
+    page.setFlags(State::invalid, false);
+    EXPECT_TRUE(texts(page).contains(QStringLiteral("Grey 85%")));
+    EXPECT_EQ(texts(page).count(QStringLiteral("tpk-textfield-focus")), 2);
+
+    page.setStyleClass(styleClassIndex("TextLabelCellStyle"));
+    EXPECT_TRUE(texts(page).contains(QStringLiteral("This style has no images.")));
+    EXPECT_EQ(selection->state, State::focused) << "kept for a page made later";
+}
+
+TEST(StatesPage, ThePageGrowsAndShrinksWithIt) {
+    gallery::PageView view(gallery::statesPage(), {});
+    view.show();
+    auto* const page = view.findChild<StatesPage*>();
+    const int usual = view.height();
+    page->setStyleClass(styleClassIndex("TextLabelCellStyle"));
+    QApplication::processEvents();
+    EXPECT_LT(view.height(), usual - 200) << "no row of an image";
+    page->setStyleClass(styleClassIndex("CheckBoxCellStyle"));
+    QApplication::processEvents();
+    EXPECT_EQ(view.height(), usual);
+}
+
+TEST(StatesPage, AccentReachesTheStyle) {
+    const auto selection = std::make_shared<StatesPage::Selection>();
+    const StatesPage page({.styleSet = gallery::GallerySettings::StyleSet::accent}, selection);
+    EXPECT_TRUE(texts(page).contains(QStringLiteral("Vantor/Purple"))) << "the focus ring";
+}
+
+TEST(StyleClasses, NameTheirMaps) {
+    const auto make = [](const char* name) {
+        return gallery::styleClasses()[static_cast<std::size_t>(styleClassIndex(name))].make();
+    };
+    const auto slider = make("SliderCellStyle");
+    const auto maps = gallery::imageMaps(*slider);
+    ASSERT_EQ(maps.size(), 2U);
+    EXPECT_EQ(maps[0].second->image(State::defaultState)->name(), QStringLiteral("tpk-slider-alley"));
+    EXPECT_EQ(maps[1].second->image(State::mixed)->name(), QStringLiteral("tpk-slider-handle-multi"));
+    EXPECT_EQ(gallery::imageMaps(*make("CheckBoxCellStyle")).size(), 2U);
+    EXPECT_TRUE(gallery::imageMaps(*make("TextLabelCellStyle")).empty());
+}
