@@ -3,29 +3,16 @@
 #include "Noteloft/ContentView.h"
 #include "Noteloft/ContentViewModel.h"
 #include "Platform/AudioUnits/AudioComponentManager.h"
-#include "Platform/Core/Action.h"
+#include "Platform/Controls/Menu.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 
 #include <QApplication>
-#include <QMenu>
 #include <QShortcut>
 
 namespace noteloft {
 
 using platform::HiddenTitleBarWindow;
-
-namespace {
-
-/// A command without a target: whoever answers to the selector carries it out.
-QAction* addCommand(QMenu& menu, const QString& title, platform::Selector selector,
-                    const QKeySequence& keys = {}) {
-    auto* const action = menu.addAction(title, keys);
-    QObject::connect(action, &QAction::triggered, action,
-                     [selector, action] { platform::sendAction(selector, nullptr, action); });
-    return action;
-}
-
-} // namespace
+using platform::Selector;
 
 NoteloftApp::NoteloftApp(const LaunchOptions& options) {
     platform::setApplicationDelegate(&m_appDelegate);
@@ -40,13 +27,13 @@ NoteloftApp::NoteloftApp(const LaunchOptions& options) {
 NoteloftApp::~NoteloftApp() = default;
 
 void NoteloftApp::makeMenu() {
-    m_menu = std::make_unique<QMenu>();
-    m_menu->setTitle(QStringLiteral("Noteloft"));
-    addCommand(*m_menu, AppDelegate::tr("About"), {"orderFrontStandardAboutPanel"});
-    m_menu->addSeparator();
-    addCommand(*m_menu, AppDelegate::tr("Check for Updates…"), {"checkForUpdates"});
-    m_menu->addSeparator();
-    addCommand(*m_menu, AppDelegate::tr("Quit"), {"terminate"}, QKeySequence::Quit);
+    m_menu = std::make_unique<platform::Menu>(QStringLiteral("Noteloft"));
+    // Without targets: whoever answers carries them out.
+    m_menu->addItem(AppDelegate::tr("About"), Selector{"orderFrontStandardAboutPanel"});
+    m_menu->addItem(platform::MenuItem::separator());
+    m_menu->addItem(AppDelegate::tr("Check for Updates…"), Selector{"checkForUpdates"});
+    m_menu->addItem(platform::MenuItem::separator());
+    m_menu->addItem(AppDelegate::tr("Quit"), Selector{"terminate"}, QStringLiteral("q"));
 }
 
 void NoteloftApp::makeScene(bool debugMode) {

@@ -6,11 +6,10 @@
 
 #include <memory>
 
-class QMenu;
-
 namespace platform {
 class HiddenTitleBarWindow;
-}
+class Menu;
+} // namespace platform
 
 namespace noteloft {
 
@@ -43,7 +42,7 @@ private:
 
     AppDelegate m_appDelegate;
     SparkleHelper m_sparkleHelper;
-    std::unique_ptr<QMenu> m_menu;
+    std::unique_ptr<platform::Menu> m_menu;
     ContentView* m_contentView = nullptr;
     std::unique_ptr<platform::HiddenTitleBarWindow> m_window;
 };

@@ -105,10 +105,14 @@ void Menu::keyPressEvent(QKeyEvent* event) {
 }
 
 void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {
-    const int margin = menu.style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, &menu);
+    menu.setLayoutDirection(view.layoutDirection());
     menu.setNoReplayFor(&view);
+    const bool isRightToLeft = menu.isRightToLeft();
+    const int margin = menu.style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, &menu);
     if (item != nullptr)
-        point -= QPoint(menu.isRightToLeft() ? -margin : margin, margin);
+        point -= QPoint(isRightToLeft ? -margin : margin, margin);
+    if (isRightToLeft)
+        point.rx() -= menu.sizeHint().expandedTo(menu.minimumSize()).width();
     menu.popup(view.mapToGlobal(point), item);
     if (item != nullptr)
         menu.setActiveAction(item);

@@ -21,6 +21,8 @@ public:
     explicit Menu(const QString& title = {});
 
     MenuItem& addItem(std::unique_ptr<MenuItem> item);
+
+    /// `key` counts with Control.
     MenuItem& addItem(const QString& title, std::optional<Selector> action = {}, const QString& key = {});
 
     QList<MenuItem*> items() const;

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
 namespace platform {
@@ -50,17 +51,17 @@ PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
     delete m_menu;
     m_selected = nullptr;
-    m_menu = menu.get();
+    m_menu = menu.release();
     PushButton::setMenu(m_menu);
-    if (menu) {
+    if (m_menu != nullptr) {
         // A child, which goes with the button, and yet a window of its own.
-        menu->setParent(this, menu->windowFlags());
-        menu.release();
+        m_menu->setParent(this, m_menu->windowFlags());
         m_menu->installEventFilter(this);
         connect(m_menu, &Menu::willSendAction, this, &PopUpButton::choose);
         connect(m_menu, &Menu::didSendAction, this, &PopUpButton::finishChoice);
         for (MenuItem* item : m_menu->items())
-            itemAdded(*item);
+            makeRoomForMark(*item);
+        selectFirstItem();
     }
     itemsChanged();
 }
@@ -106,21 +107,34 @@ QString PopUpButton::title() const {
     return m_pullsDown ? (items.isEmpty() ? QString() : items.front()->title()) : titleOfSelectedItem();
 }
 
-void PopUpButton::itemAdded(MenuItem& item) {
-    if (m_pullsDown || item.isSeparator())
-        return;
-    item.setState(item.state()); // makes room for its mark
+void PopUpButton::makeRoomForMark(MenuItem& item) const {
+    if (!m_pullsDown && !item.isSeparator())
+        item.setState(item.state());
+}
+
+/// Where there is a choice, something is chosen.
+void PopUpButton::selectFirstItem() {
     const auto items = itemArray();
-    if (std::none_of(items.begin(), items.end(),
-                     [&](auto* other) { return other != &item && !other->isSeparator(); }))
-        selectItem(&item);
+    const auto first = std::find_if_not(items.begin(), items.end(), std::mem_fn(&QAction::isSeparator));
+    if (!m_pullsDown && first != items.end())
+        selectItem(*first);
+}
+
+void PopUpButton::itemAdded(MenuItem& item) {
+    makeRoomForMark(item);
+    const auto items = itemArray();
+    if (std::count_if(items.begin(), items.end(), std::not_fn(std::mem_fn(&QAction::isSeparator))) == 1)
+        selectFirstItem();
 }
 
 void PopUpButton::itemsChanged() {
     if (const auto items = itemArray(); m_pullsDown && !items.isEmpty())
         items.front()->setVisible(false);
-    setText(title().replace(u'&', QStringLiteral("&&")));
     updateGeometry();
+    const QString text = title().replace(u'&', QStringLiteral("&&"));
+    if (text == this->text())
+        return;
+    setText(text);
     QAccessibleValueChangeEvent event(this, title());
     QAccessible::updateAccessibility(&event);
 }
@@ -170,6 +184,8 @@ void PopUpButton::selectPreviousItem(QObject*) {
 }
 
 void PopUpButton::step(int from, int by) {
+    if (m_pullsDown)
+        return;
     const auto items = itemArray();
     MenuItem* const item = by > 0 ? firstSelectable(items.begin() + from, items.end())
                                   : firstSelectable(items.rend() - from, items.rend());
@@ -241,7 +257,7 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
         step(count, -1);
         break;
     default:
-        QWidget::keyPressEvent(event);
+        event->ignore();
     }
 }
 

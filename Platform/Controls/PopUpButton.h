@@ -82,6 +82,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void makeRoomForMark(MenuItem& item) const;
+    void selectFirstItem();
     void itemAdded(MenuItem& item);
     void itemsChanged();
     int titleOverhang() const;

@@ -192,7 +192,7 @@ void PushButton::keyPressEvent(QKeyEvent* event) {
 void PushButton::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* const offered = offeredMenu();
     if (event->reason() == QContextMenuEvent::Keyboard && offered != nullptr)
-        popUp(*offered, rect().bottomLeft());
+        popUp(*offered, {isRightToLeft() ? width() : 0, height()});
     else
         event->setAccepted(offered != nullptr);
 }

@@ -109,26 +109,51 @@ TEST_F(PopUpButtonTest, SelectsTheFirstItemAndWhatItIsTold) {
     EXPECT_EQ(m_button.titleOfSelectedItem(), QStringLiteral("D"));
 }
 
+TEST_F(PopUpButtonTest, AFullMenuHasItsFirstItemSelected) {
+    for (PopUpButton* button : {&m_button, &m_pullDown}) {
+        auto menu = std::make_unique<Menu>();
+        menu->addItem(MenuItem::sectionHeader(QStringLiteral("Header")));
+        menu->addItem(QStringLiteral("R & B"));
+        menu->addItem(QStringLiteral("Pop"));
+        button->setMenu(std::move(menu));
+    }
+    EXPECT_EQ(m_button.title(), QStringLiteral("R & B"));
+    EXPECT_EQ(m_button.cell().plainTitle(), QStringLiteral("R & B"));
+    EXPECT_EQ(m_pullDown.selectedItem(), nullptr);
+    QTest::keyClick(&m_pullDown, Qt::Key_End);
+    EXPECT_EQ(m_pullDown.selectedItem(), nullptr);
+}
+
 TEST_F(PopUpButtonTest, PressOpensTheMenuWithTheSelectedItemOverTheButton) {
     fill(QStringLiteral("ABC"));
     m_button.selectItem(2);
-    QTest::mousePress(&m_button, Qt::LeftButton);
     Menu& menu = *m_button.menu();
-    ASSERT_TRUE(menu.isVisible());
-    EXPECT_TRUE(m_button.cell().isHighlighted());
-    EXPECT_EQ(menu.activeAction(), m_button.selectedItem());
-    const QRect row = menu.actionGeometry(m_button.selectedItem()).translated(menu.pos());
     const QRect button(m_button.mapToGlobal(QPoint()), m_button.size());
-    EXPECT_LE(std::abs(row.center().y() - button.center().y()), 1);
-    EXPECT_TRUE(menu.geometry().contains(button));
+    for (const auto direction : {Qt::RightToLeft, Qt::LeftToRight}) {
+        m_button.setLayoutDirection(direction);
+        QTest::mousePress(&m_button, Qt::LeftButton);
+        ASSERT_TRUE(menu.isVisible());
+        EXPECT_TRUE(m_button.cell().isHighlighted());
+        EXPECT_EQ(menu.activeAction(), m_button.selectedItem());
+        const QRect row = menu.actionGeometry(m_button.selectedItem()).translated(menu.pos());
+        EXPECT_LE(std::abs(row.center().y() - button.center().y()), 1);
+        EXPECT_TRUE(menu.geometry().contains(button)) << direction;
+        QTest::keyClick(&menu, Qt::Key_Escape);
+        EXPECT_FALSE(m_button.cell().isHighlighted());
+    }
+}
+
+TEST_F(PopUpButtonTest, ChoosingInTheMenuSelectsAndSends) {
+    fill(QStringLiteral("ABC"));
+    m_button.selectItem(2);
+    QTest::mousePress(&m_button, Qt::LeftButton);
     chooseInMenu(m_button, *m_button.itemArray()[0]);
-    EXPECT_FALSE(menu.isVisible());
-    EXPECT_FALSE(m_button.cell().isHighlighted());
+    EXPECT_FALSE(m_button.menu()->isVisible());
     EXPECT_EQ(m_owner.selected, QStringList{QStringLiteral("A")});
     EXPECT_EQ(m_button.itemArray()[2]->state(), MenuItem::State::off);
     m_button.setEnabled(false);
     QTest::mouseClick(&m_button, Qt::LeftButton);
-    EXPECT_FALSE(menu.isVisible());
+    EXPECT_FALSE(m_button.menu()->isVisible());
 }
 
 TEST_F(PopUpButtonTest, AnItemWithAnActionSendsItInsteadOnceItIsSelected) {
