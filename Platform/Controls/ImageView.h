@@ -14,6 +14,11 @@ public:
     /// `description` is what a screen reader says.
     ImageView(Image image, const QString& description, QWidget* parent = nullptr);
 
+    /// How opaque the image is drawn, from 0 to 1.
+    qreal alphaValue() const { return m_alphaValue; }
+
+    void setAlphaValue(qreal alpha);
+
     QSize sizeHint() const override { return m_image.size().toSize(); }
 
 protected:
@@ -21,6 +26,7 @@ protected:
 
 private:
     Image m_image;
+    qreal m_alphaValue = 1;
 };
 
 } // namespace platform

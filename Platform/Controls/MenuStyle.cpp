@@ -1,61 +1,60 @@
 #include "Platform/Controls/MenuStyle.h"
 
+#include "Platform/Controls/MenuItemPainter.h"
 #include "Platform/Core/WindowSystem.h"
 #include "Platform/Graphics/SystemFont.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOptionMenuItem>
+
+#include <algorithm>
+#include <functional>
 
 namespace platform {
 
 namespace {
 
-constexpr int itemHeight = 28;
-constexpr int separatorHeight = 9;
-constexpr int itemPadding = 12;
 constexpr int panelMargin = 5;
 constexpr qreal panelRadius = 9;
-constexpr qreal itemRadius = 6;
 
-void drawSeparator(QPainter& painter, const QStyleOptionMenuItem& item) {
-    const qreal y = item.rect.center().y() + 0.5;
-    painter.setPen(QColor(255, 255, 255, 30));
-    painter.drawLine(QPointF(item.rect.left() + itemPadding, y), QPointF(item.rect.right() - itemPadding, y));
-}
-
-void drawItem(QPainter& painter, const QStyleOptionMenuItem& item) {
-    const bool isEnabled = (item.state & QStyle::State_Enabled) != 0;
-    const bool isSelected = isEnabled && (item.state & QStyle::State_Selected) != 0;
-    const auto group = isEnabled ? QPalette::Active : QPalette::Disabled;
-    if (isSelected) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(item.palette.highlight());
-        painter.drawRoundedRect(item.rect, itemRadius, itemRadius);
-    }
-    const QRect line = item.rect.adjusted(itemPadding, 0, -itemPadding, 0);
-    const auto role = isSelected ? QPalette::HighlightedText : QPalette::WindowText;
-    painter.setFont(item.font);
-    painter.setPen(item.palette.color(group, role));
-    const QString title = item.text.section(u'\t', 0, 0);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, title);
-    if (!isSelected)
-        painter.setPen(item.palette.color(group, QPalette::PlaceholderText));
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, item.text.section(u'\t', 1));
+/// A little nearer to the light than the window below.
+QColor panelColor(const QPalette& palette) {
+    const QColor window = palette.color(QPalette::Window);
+    const QColor button = palette.color(QPalette::Button);
+    return QColor::fromRgbF((window.redF() + button.redF()) / 2, (window.greenF() + button.greenF()) / 2,
+                            (window.blueF() + button.blueF()) / 2);
 }
 
 } // namespace
 
+MenuStyle& MenuStyle::shared() {
+    static QPointer<MenuStyle> style;
+    if (!style) {
+        style = new MenuStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        style->setParent(qApp);
+    }
+    return *style;
+}
+
 void MenuStyle::apply(QMenu& menu) {
-    auto* const style = new MenuStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    style->setParent(&menu);
-    menu.setStyle(style);
+    menu.setStyle(&shared());
     menu.setFont(systemFont(13));
     if (!isCompositing())
         return;
     menu.setWindowFlag(Qt::FramelessWindowHint);
     menu.setAttribute(Qt::WA_TranslucentBackground);
+}
+
+int MenuStyle::titleInset(const QMenu& menu) {
+    const auto items = menu.actions();
+    const bool hasMarks = std::any_of(items.begin(), items.end(), std::mem_fn(&QAction::isCheckable));
+    const bool hasIcons =
+        std::any_of(items.begin(), items.end(), [](const QAction* item) { return !item->icon().isNull(); });
+    return MenuItemPainter::titleInset(hasMarks, hasIcons);
 }
 
 void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -68,10 +67,12 @@ void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         return; // the panel has its own edge
     const bool isRound = widget != nullptr && widget->testAttribute(Qt::WA_TranslucentBackground);
     const qreal radius = isRound ? panelRadius : 0;
+    QColor edge = option->palette.color(QPalette::WindowText);
+    edge.setAlpha(40);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QColor(255, 255, 255, 36));
-    painter->setBrush(option->palette.window());
+    painter->setPen(edge);
+    painter->setBrush(panelColor(option->palette));
     painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter->restore();
 }
@@ -87,10 +88,7 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
     }
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    if (item->menuItemType == QStyleOptionMenuItem::Separator)
-        drawSeparator(*painter, *item);
-    else
-        drawItem(*painter, *item);
+    MenuItemPainter(*item).paint(*painter);
     painter->restore();
 }
 
@@ -99,9 +97,21 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (type != CT_MenuItem || item == nullptr)
         return QProxyStyle::sizeFromContents(type, option, size, widget);
-    constexpr int shortcutGap = 28;
-    const bool isSeparator = item->menuItemType == QStyleOptionMenuItem::Separator;
-    return {size.width() + 2 * itemPadding + shortcutGap, isSeparator ? separatorHeight : itemHeight};
+    return MenuItemPainter(*item).size(size);
+}
+
+int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* result) const {
+    switch (hint) {
+    case SH_Menu_SupportsSections:
+    case SH_Menu_Scrollable:
+    case SH_Menu_SpaceActivatesItem:
+        return 1;
+    case SH_Menu_AllowActiveAndDisabled:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, result);
+    }
 }
 
 int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
@@ -111,6 +121,8 @@ int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_MenuHMargin:
     case PM_MenuVMargin:
         return panelMargin;
+    case PM_SmallIconSize:
+        return MenuItemPainter::iconSize;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }

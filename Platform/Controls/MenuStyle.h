@@ -6,7 +6,7 @@ class QMenu;
 
 namespace platform {
 
-/// The look of a window's own menus: a rounded dark panel with room around its items.
+/// The look of our menus: a rounded panel with room around its items.
 class MenuStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -14,16 +14,23 @@ public:
     /// Gives `menu` this look.
     static void apply(QMenu& menu);
 
+    /// How far the titles lie from the left edge of the items, in points.
+    static int titleInset(const QMenu& menu);
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 
 private:
     using QProxyStyle::QProxyStyle;
+
+    static MenuStyle& shared();
 };
 
 } // namespace platform

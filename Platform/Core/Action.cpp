@@ -17,6 +17,11 @@ QPointer<QObject>& delegate() {
     return object;
 }
 
+QPointer<QObject>& documentController() {
+    static QPointer<QObject> object;
+    return object;
+}
+
 QObject* responderAmongAncestors(QWidget* widget, Selector selector) {
     for (; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget())
         if (respondsTo(widget, selector))
@@ -28,6 +33,10 @@ QObject* responderAmongAncestors(QWidget* widget, Selector selector) {
 
 void setApplicationDelegate(QObject* object) {
     delegate() = object;
+}
+
+void setDocumentController(QObject* object) {
+    documentController() = object;
 }
 
 bool respondsTo(const QObject* object, Selector selector) {
@@ -42,7 +51,10 @@ QObject* targetForAction(Selector selector, QObject* target) {
         return responder;
     if (QObject* responder = responderAmongAncestors(QApplication::activeWindow(), selector))
         return responder;
-    return respondsTo(delegate(), selector) ? delegate().data() : nullptr;
+    for (QObject* const object : {delegate().data(), documentController().data()})
+        if (respondsTo(object, selector))
+            return object;
+    return nullptr;
 }
 
 bool sendAction(Selector selector, QObject* target, QObject* sender) {

@@ -1,10 +1,10 @@
 #include "Platform/Graphics/Image.h"
 
 #include "Platform/Graphics/Bitmap.h"
+#include "Platform/Graphics/DevicePixels.h"
 #include "Platform/Graphics/NineSlice.h"
 
 #include <QCache>
-#include <QPaintEngine>
 #include <QPainter>
 
 #include <cmath>
@@ -120,12 +120,12 @@ QImage Image::bitmap(QSizeF size, qreal scale) const {
 }
 
 void Image::draw(QPainter& painter, const QRectF& target) const {
-    // Of the pixels drawn into: a widget's own scale is another one while it is rendered into a picture.
-    const qreal scale = painter.paintEngine()->paintDevice()->devicePixelRatioF();
-    const auto aligned = [scale](qreal x) { return std::round(x * scale) / scale; };
-    const QPointF origin(aligned(target.left()), aligned(target.top()));
-    const QSizeF size(aligned(target.right()) - origin.x(), aligned(target.bottom()) - origin.y());
-    painter.drawImage(origin, bitmap(size, scale));
+    const qreal scale = pixelsPerPoint(painter);
+    const QPointF origin(onPixel(target.left(), scale), onPixel(target.top(), scale));
+    const QSizeF size(onPixel(target.right(), scale) - origin.x(),
+                      onPixel(target.bottom(), scale) - origin.y());
+    if (const QImage picture = bitmap(size, scale); !picture.isNull())
+        drawPixels(painter, origin, picture);
 }
 
 } // namespace platform

@@ -1,0 +1,128 @@
+#include "Platform/Controls/Menu.h"
+
+#include "Platform/Controls/MenuStyle.h"
+
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QStyleOptionMenuItem>
+
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+bool isValid(MenuItem& item) {
+    QObject* const responder = targetForAction(*item.action, item.target);
+    if (responder == nullptr)
+        return false;
+    const QMetaObject& type = *responder->metaObject();
+    const QMetaMethod validate = type.method(type.indexOfMethod("validateMenuItem(QObject*)"));
+    bool isValid = true;
+    if (validate.isValid())
+        validate.invoke(responder, Qt::DirectConnection, Q_RETURN_ARG(bool, isValid), Q_ARG(QObject*, &item));
+    return isValid;
+}
+
+bool isEnabledByUse(const MenuItem& item) {
+    return item.action && item.submenu() == nullptr;
+}
+
+} // namespace
+
+Menu::Menu(const QString& title) {
+    setTitle(title);
+    MenuStyle::apply(*this);
+    connect(this, &QMenu::aboutToShow, this, &Menu::updateItems);
+    // The keys of an item that nobody answered to when the menu was open last may find somebody later.
+    connect(this, &QMenu::aboutToHide, this, &Menu::enableAllItems);
+}
+
+MenuItem& Menu::addItem(std::unique_ptr<MenuItem> item) {
+    item->setParent(this);
+    addAction(item.get());
+    return *item.release();
+}
+
+MenuItem& Menu::addItem(const QString& title, std::optional<Selector> action, const QString& key) {
+    return addItem(std::make_unique<MenuItem>(title, action, key, Qt::ControlModifier));
+}
+
+QList<MenuItem*> Menu::items() const {
+    QList<MenuItem*> items;
+    const auto all = actions();
+    for (QAction* action : all)
+        if (auto* const item = qobject_cast<MenuItem*>(action))
+            items << item;
+    return items;
+}
+
+void Menu::removeAllItems() {
+    clear();
+}
+
+void Menu::updateItems() {
+    if (m_delegate)
+        m_delegate->menuNeedsUpdate(*this);
+    if (!m_autoenablesItems)
+        return;
+    for (MenuItem* item : items())
+        if (isEnabledByUse(*item))
+            item->setEnabled(isValid(*item));
+}
+
+void Menu::enableAllItems() {
+    if (!m_autoenablesItems)
+        return;
+    for (MenuItem* item : items())
+        if (isEnabledByUse(*item))
+            item->setEnabled(true);
+}
+
+Menu* Menu::supermenu() const {
+    const auto* const item = qobject_cast<MenuItem*>(menuAction());
+    return item != nullptr ? item->enclosingMenu() : nullptr;
+}
+
+void Menu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const {
+    QMenu::initStyleOption(option, action);
+    const auto* const item = qobject_cast<const MenuItem*>(action);
+    option->state.setFlag(QStyle::State_NoChange, item != nullptr && item->state() == MenuItem::State::mixed);
+}
+
+void Menu::keyPressEvent(QKeyEvent* event) {
+    if (!m_typeAhead.takes(*event)) {
+        QMenu::keyPressEvent(event);
+        return;
+    }
+    QStringList titles;
+    const auto all = items();
+    for (const MenuItem* item : all)
+        titles << (item->isEnabled() && item->isVisible() ? item->title() : QString());
+    const auto index = m_typeAhead.find(event->text(), titles, all.indexOf(activeAction()));
+    if (index >= 0)
+        setActiveAction(all[index]);
+}
+
+void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {
+    const int margin = menu.style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, &menu);
+    menu.setNoReplayFor(&view);
+    if (item != nullptr)
+        point -= QPoint(menu.isRightToLeft() ? -margin : margin, margin);
+    menu.popup(view.mapToGlobal(point), item);
+    if (item != nullptr)
+        menu.setActiveAction(item);
+}
+
+QList<MenuItem*> flattenedItems(const Menu& menu) {
+    QList<MenuItem*> items;
+    const auto own = menu.items();
+    for (MenuItem* item : own) {
+        items << item;
+        if (item->submenu() != nullptr)
+            items << flattenedItems(*item->submenu());
+    }
+    return items;
+}
+
+} // namespace platform

@@ -1,0 +1,281 @@
+#include "Platform/Controls/PopUpButton.h"
+
+#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/MenuStyle.h"
+#include "Platform/Controls/PopUpButtonAccessibility.h"
+#include "Platform/Core/FatalError.h"
+#include "Platform/Graphics/SystemFont.h"
+
+#include <QAccessible>
+#include <QActionEvent>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constexpr int menuGap = 2;
+
+bool isSelectable(const MenuItem* item) {
+    return item->isEnabled() && !item->isSeparator();
+}
+
+/// Null for none.
+template <typename Iterator>
+MenuItem* firstSelectable(Iterator begin, Iterator end) {
+    const auto found = std::find_if(begin, end, isSelectable);
+    return found != end ? *found : nullptr;
+}
+
+} // namespace
+
+PopUpButton::PopUpButton(bool pullsDown, QWidget* parent)
+    : PopUpButton(std::make_unique<PopUpButtonCell>(pullsDown), parent) {
+    setFont(systemFont(13));
+}
+
+PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
+    : PushButton({}, std::move(cell), parent),
+      m_pullsDown(static_cast<PopUpButtonCell&>(this->cell()).pullsDown()) {
+    setMenu(std::make_unique<Menu>());
+    installPopUpButtonAccessibility();
+}
+
+void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
+    delete m_menu;
+    m_selected = nullptr;
+    m_menu = menu.get();
+    PushButton::setMenu(m_menu);
+    if (menu) {
+        // A child, which goes with the button, and yet a window of its own.
+        menu->setParent(this, menu->windowFlags());
+        menu.release();
+        m_menu->installEventFilter(this);
+        connect(m_menu, &Menu::willSendAction, this, &PopUpButton::choose);
+        connect(m_menu, &Menu::didSendAction, this, &PopUpButton::finishChoice);
+        for (MenuItem* item : m_menu->items())
+            itemAdded(*item);
+    }
+    itemsChanged();
+}
+
+QList<MenuItem*> PopUpButton::itemArray() const {
+    return m_menu != nullptr ? m_menu->items() : QList<MenuItem*>();
+}
+
+MenuItem& PopUpButton::addItem(const QString& title) {
+    if (m_menu == nullptr)
+        setMenu(std::make_unique<Menu>());
+    return m_menu->addItem(title);
+}
+
+int PopUpButton::indexOfSelectedItem() const {
+    MenuItem* item = m_selected;
+    while (item != nullptr && item->enclosingMenu() != m_menu)
+        item = item->enclosingMenu() != nullptr ? qobject_cast<MenuItem*>(item->enclosingMenu()->menuAction())
+                                                : nullptr;
+    return static_cast<int>(itemArray().indexOf(item));
+}
+
+QString PopUpButton::titleOfSelectedItem() const {
+    return m_selected ? m_selected->title() : QString();
+}
+
+void PopUpButton::selectItem(MenuItem* item) {
+    if (m_selected && !m_pullsDown)
+        m_selected->setState(MenuItem::State::off);
+    const bool isKnown = m_menu != nullptr && flattenedItems(*m_menu).contains(item);
+    m_selected = isKnown ? item : nullptr;
+    if (m_selected && !m_pullsDown)
+        m_selected->setState(MenuItem::State::on);
+    itemsChanged();
+}
+
+void PopUpButton::selectItem(int index) {
+    selectItem(itemArray().value(index));
+}
+
+QString PopUpButton::title() const {
+    const auto items = itemArray();
+    return m_pullsDown ? (items.isEmpty() ? QString() : items.front()->title()) : titleOfSelectedItem();
+}
+
+void PopUpButton::itemAdded(MenuItem& item) {
+    if (m_pullsDown || item.isSeparator())
+        return;
+    item.setState(item.state()); // makes room for its mark
+    const auto items = itemArray();
+    if (std::none_of(items.begin(), items.end(),
+                     [&](auto* other) { return other != &item && !other->isSeparator(); }))
+        selectItem(&item);
+}
+
+void PopUpButton::itemsChanged() {
+    if (const auto items = itemArray(); m_pullsDown && !items.isEmpty())
+        items.front()->setVisible(false);
+    setText(title().replace(u'&', QStringLiteral("&&")));
+    updateGeometry();
+    QAccessibleValueChangeEvent event(this, title());
+    QAccessible::updateAccessibility(&event);
+}
+
+bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_menu)
+        return PushButton::eventFilter(watched, event);
+    const auto* const change = dynamic_cast<QActionEvent*>(event);
+    if (change == nullptr)
+        return false;
+    if (auto* const item = qobject_cast<MenuItem*>(change->action());
+        item != nullptr && event->type() == QEvent::ActionAdded)
+        itemAdded(*item);
+    if (event->type() == QEvent::ActionRemoved && change->action() == m_selected)
+        m_selected = nullptr;
+    itemsChanged();
+    return false;
+}
+
+void PopUpButton::choose(MenuItem* item) {
+    selectItem(item);
+    Q_EMIT itemChosen(item);
+}
+
+void PopUpButton::finishChoice(MenuItem* item) {
+    if (!item->action)
+        sendAction();
+}
+
+void PopUpButton::selectNextItem(QObject*) {
+    const auto items = itemArray();
+    MenuItem* next = firstSelectable(items.begin() + indexOfSelectedItem() + 1, items.end());
+    if (next == nullptr)
+        next = items.value(0);
+    choose(next);
+    sendAction();
+}
+
+void PopUpButton::selectPreviousItem(QObject*) {
+    const int selected = indexOfSelectedItem();
+    if (selected < 0)
+        fatalError("selectPreviousItem: no item is selected");
+    const auto items = itemArray();
+    MenuItem* previous = firstSelectable(items.rend() - selected, items.rend());
+    choose(previous != nullptr ? previous : items.back());
+    sendAction();
+}
+
+void PopUpButton::step(int from, int by) {
+    const auto items = itemArray();
+    MenuItem* const item = by > 0 ? firstSelectable(items.begin() + from, items.end())
+                                  : firstSelectable(items.rend() - from, items.rend());
+    if (item != nullptr && item != m_selected)
+        item->trigger();
+}
+
+void PopUpButton::selectTyped(const QString& text) {
+    const auto items = itemArray();
+    QStringList titles;
+    for (const MenuItem* item : items)
+        titles << (isSelectable(item) ? item->title() : QString());
+    const auto index = m_typeAhead.find(text, titles, indexOfSelectedItem());
+    if (index >= 0 && index != indexOfSelectedItem())
+        items[index]->trigger();
+}
+
+/// How far the menu reaches beyond the button, so that the item's title comes to lie over the button's.
+int PopUpButton::titleOverhang() const {
+    const QRectF bounds(rect());
+    const QRectF title = cell().titleRect(cell().drawingRect(bounds));
+    const qreal inset = isRightToLeft() ? bounds.right() - title.right() : title.left();
+    return MenuStyle::titleInset(*m_menu) - static_cast<int>(std::lround(inset));
+}
+
+void PopUpButton::openMenu() {
+    if (m_menu == nullptr)
+        return;
+    const int start = isRightToLeft() ? width() : 0;
+    auto* const item = itemArray().value(indexOfSelectedItem());
+    if (m_pullsDown || item == nullptr) {
+        m_menu->setMinimumWidth(width());
+        popUp(*m_menu, {start, height() + menuGap});
+        return;
+    }
+    const int overhang = titleOverhang();
+    m_menu->setMinimumWidth(width() + 2 * overhang);
+    popUp(*m_menu,
+          {isRightToLeft() ? start + overhang : -overhang,
+           (height() - m_menu->actionGeometry(item).height()) / 2},
+          item);
+}
+
+void PopUpButton::keyPressEvent(QKeyEvent* event) {
+    const bool opens = m_pullsDown || event->modifiers().testFlag(Qt::AltModifier);
+    const auto count = static_cast<int>(itemArray().size());
+    const int selected = indexOfSelectedItem();
+    if (!m_pullsDown && m_typeAhead.takes(*event)) {
+        selectTyped(event->text());
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_F4:
+        openMenu();
+        break;
+    case Qt::Key_Down:
+        opens ? openMenu() : step(selected + 1, 1);
+        break;
+    case Qt::Key_Up:
+        opens ? openMenu() : step(selected < 0 ? count : selected, -1);
+        break;
+    case Qt::Key_Home:
+        step(0, 1);
+        break;
+    case Qt::Key_End:
+        step(count, -1);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PopUpButton::beginTracking(QMouseEvent&) {
+    openMenu();
+}
+
+bool PopUpButton::popUpMenu(const QMouseEvent&) {
+    return false;
+}
+
+void PopUpButton::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        openMenu();
+    else
+        event->ignore();
+}
+
+QSizeF PopUpButton::intrinsicContentSize() const {
+    QSizeF size = PushButton::intrinsicContentSize();
+    if (m_pullsDown)
+        return size;
+    ButtonCell& measured = cell();
+    for (const MenuItem* item : itemArray()) {
+        measured.setTitle(item->text());
+        size = size.expandedTo(measured.cellSize());
+    }
+    return size;
+}
+
+void PopUpButton::draw(QPainter& painter) {
+    PushButton::draw(painter);
+    if (hasFocus())
+        paintFocusRing(painter, focusRingMaskBounds(), 4);
+}
+
+} // namespace platform

@@ -1,0 +1,61 @@
+#include "Platform/Controls/PopUpButtonAccessibility.h"
+
+#include "Platform/Controls/PopUpButton.h"
+
+#include <QAccessibleWidget>
+
+namespace platform {
+
+namespace {
+
+class PopUpButtonInterface : public QAccessibleWidget {
+public:
+    explicit PopUpButtonInterface(PopUpButton& button)
+        : QAccessibleWidget(&button, button.pullsDown() ? QAccessible::ButtonMenu : QAccessible::ComboBox),
+          m_button(button) {}
+
+    QString text(QAccessible::Text text) const override {
+        return text == QAccessible::Value ? m_button.title() : QAccessibleWidget::text(text);
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        const bool isOpen = m_button.menu() != nullptr && m_button.menu()->isVisible();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = isOpen;
+        state.collapsed = !isOpen;
+        return state;
+    }
+
+    QStringList actionNames() const override {
+        return m_button.isEnabled() ? QStringList{showMenuAction(), pressAction()} : QStringList();
+    }
+
+    void doAction(const QString& name) override {
+        if (actionNames().contains(name))
+            m_button.openMenu();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    PopUpButton& m_button;
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+    auto* const button = dynamic_cast<PopUpButton*>(object);
+    return button != nullptr ? new PopUpButtonInterface(*button) : nullptr;
+}
+
+} // namespace
+
+void installPopUpButtonAccessibility() {
+    static const bool installed = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
+    Q_UNUSED(installed);
+}
+
+} // namespace platform

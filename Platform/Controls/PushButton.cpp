@@ -1,0 +1,198 @@
+#include "Platform/Controls/PushButton.h"
+
+#include "Platform/Controls/Menu.h"
+#include "Platform/Controls/PointerTracking.h"
+#include "Platform/Controls/PushButtonAccessibility.h"
+
+#include <QAccessible>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+#include <utility>
+
+namespace platform {
+
+PushButton::PushButton(const QString& title, QWidget* parent)
+    : PushButton(title, std::make_unique<ButtonCell>(), parent) {}
+
+PushButton::PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, QWidget* parent)
+    : QAbstractButton(parent), m_cell(std::move(cell)) {
+    installPushButtonAccessibility();
+    setText(title);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_cell->setControlView(this);
+    connect(this, &QAbstractButton::clicked, this, [this] { Control::sendAction(); });
+}
+
+PushButton::~PushButton() {
+    // Once the members of subclasses have gone there is nothing to end.
+    m_tracking.reset();
+}
+
+ButtonCell& PushButton::cell() const {
+    m_cell->setTitle(text());
+    m_cell->setFont(font());
+    m_cell->setLayoutDirection(layoutDirection());
+    m_cell->setEnabled(isEnabled());
+    m_cell->setHighlighted(isDown() || m_showsMenu);
+    return *m_cell;
+}
+
+void PushButton::setState(ControlState state) {
+    if (state == m_cell->state())
+        return;
+    m_cell->setState(state);
+    update();
+    QAccessible::State changed;
+    changed.checked = true;
+    changed.checkStateMixed = true;
+    QAccessibleStateChangeEvent change(this, changed);
+    QAccessible::updateAccessibility(&change);
+    Q_EMIT stateChanged(state);
+}
+
+void PushButton::setBordered(bool bordered) {
+    m_cell->setBordered(bordered);
+    updateGeometry();
+    update();
+}
+
+void PushButton::setImage(Image image) {
+    m_cell->setImage(std::move(image));
+    updateGeometry();
+    update();
+}
+
+void PushButton::setImagePosition(ImagePosition position) {
+    m_cell->setImagePosition(position);
+    updateGeometry();
+    update();
+}
+
+QMenu* PushButton::menu() const {
+    return m_menu;
+}
+
+void PushButton::setMenu(QMenu* menu) {
+    m_menu = menu;
+}
+
+void PushButton::setAlphaValue(qreal alpha) {
+    if (alpha == m_alphaValue)
+        return;
+    m_alphaValue = alpha;
+    update();
+}
+
+QSizeF PushButton::intrinsicContentSize() const {
+    return cell().cellSize();
+}
+
+QSize PushButton::sizeHint() const {
+    const QSizeF size = intrinsicContentSize().grownBy(alignmentRectInsets());
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+void PushButton::nextCheckState() {
+    if (m_cell->showsStateBy() != ButtonCell::none)
+        setState(m_cell->nextState());
+}
+
+void PushButton::draw(QPainter& painter) {
+    cell().draw(painter, QRectF(rect()));
+}
+
+void PushButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setOpacity(m_alphaValue);
+    draw(painter);
+}
+
+bool PushButton::isTracking() const {
+    return m_tracking && m_tracking->isActive();
+}
+
+void PushButton::beginTracking(QMouseEvent&) {
+    m_tracking = std::make_unique<PointerTracking>(*this, [this](PointerTracking::End) { endTracking(); });
+    setDown(true);
+    Q_EMIT pressed();
+}
+
+void PushButton::cancelTracking() {
+    if (m_tracking)
+        m_tracking->cancel();
+}
+
+bool PushButton::popUpMenu(const QMouseEvent& press) {
+    if (press.button() != Qt::RightButton || m_menu == nullptr)
+        return false;
+    popUp(*m_menu, press.position().toPoint());
+    return true;
+}
+
+void PushButton::popUp(QMenu& menu, QPoint position, QAction* item) {
+    const auto show = [this](bool shows) {
+        m_showsMenu = shows;
+        update();
+    };
+    show(true);
+    connect(
+        &menu, &QMenu::aboutToHide, this, [show] { show(false); }, Qt::SingleShotConnection);
+    platform::popUp(menu, item, position, *this);
+}
+
+void PushButton::mousePressEvent(QMouseEvent* event) {
+    if (isTracking() || popUpMenu(*event))
+        return;
+    if (event->button() == Qt::LeftButton && hitButton(event->position().toPoint()))
+        beginTracking(*event);
+    else
+        event->ignore();
+}
+
+void PushButton::mouseMoveEvent(QMouseEvent* event) {
+    if (isTracking())
+        setDown(hitButton(event->position().toPoint()));
+    else
+        event->ignore();
+}
+
+void PushButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (!isTracking() || event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    const bool isInside = hitButton(event->position().toPoint());
+    m_tracking->release();
+    if (isInside)
+        click();
+    else
+        Q_EMIT released();
+}
+
+void PushButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        animateClick();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void PushButton::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* const offered = offeredMenu();
+    if (event->reason() == QContextMenuEvent::Keyboard && offered != nullptr)
+        popUp(*offered, rect().bottomLeft());
+    else
+        event->setAccepted(offered != nullptr);
+}
+
+void PushButton::changeEvent(QEvent* event) {
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
+        updateGeometry();
+}
+
+} // namespace platform

@@ -1,0 +1,68 @@
+#include "Platform/Controls/PushButtonAccessibility.h"
+
+#include "Platform/Controls/PushButton.h"
+
+#include <QAccessibleWidget>
+#include <QMenu>
+
+namespace platform {
+
+namespace {
+
+class PushButtonInterface : public QAccessibleWidget {
+public:
+    explicit PushButtonInterface(PushButton& button) : QAccessibleWidget(&button), m_button(button) {}
+
+    QAccessible::Role role() const override {
+        if (!m_button.showsState())
+            return m_button.offeredMenu() != nullptr ? QAccessible::ButtonMenu : QAccessible::Button;
+        return m_button.cell().isFramed() ? QAccessible::Button : QAccessible::CheckBox;
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        const QString own = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && own.isEmpty() ? m_button.cell().plainTitle() : own;
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.pressed = m_button.isDown();
+        state.checkable = m_button.showsState();
+        state.checked = m_button.showsState() && m_button.state() == ControlState::on;
+        state.checkStateMixed = m_button.showsState() && m_button.state() == ControlState::mixed;
+        state.hasPopup = m_button.offeredMenu() != nullptr;
+        return state;
+    }
+
+    QStringList actionNames() const override {
+        return m_button.isEnabled() ? QStringList{m_button.showsState() ? toggleAction() : pressAction()}
+                                    : QStringList();
+    }
+
+    void doAction(const QString& name) override {
+        if (actionNames().contains(name))
+            m_button.click();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    PushButton& m_button;
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+    auto* const button = dynamic_cast<PushButton*>(object);
+    return button != nullptr ? new PushButtonInterface(*button) : nullptr;
+}
+
+} // namespace
+
+void installPushButtonAccessibility() {
+    static const bool installed = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
+    Q_UNUSED(installed);
+}
+
+} // namespace platform

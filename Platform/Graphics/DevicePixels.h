@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <QPointF>
+
+class QPainter;
+
+namespace platform {
+
+/// How many pixels a point has where `painter` draws, its own scaling included; a turned or sheared painter
+/// has those of its device.
+qreal pixelsPerPoint(const QPainter& painter);
+
+/// The next whole pixel of a screen with `scale` pixels a point, in points.
+qreal onPixel(qreal points, qreal scale);
+
+/// Draws `image`, made for the painter's pixels in a point, pixel for pixel at `origin`. Qt would take the
+/// slow road of a scaled image on every screen with more than one pixel a point.
+void drawPixels(QPainter& painter, QPointF origin, const QImage& image);
+
+} // namespace platform

@@ -1,0 +1,97 @@
+#include "Platform/Graphics/PreparedText.h"
+
+#include "Platform/Graphics/DevicePixels.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+/// The picture has room around the line for what letters reach beyond their advance, in points.
+constexpr qreal overhang = 2;
+
+struct Mnemonic {
+    QString text;
+    qsizetype position = -1;
+};
+
+Mnemonic withoutAmpersands(const QString& source) {
+    Mnemonic result;
+    for (qsizetype i = 0; i < source.size(); ++i) {
+        if (source[i] == u'&' && i + 1 < source.size()) {
+            ++i;
+            if (source[i] != u'&' && result.position < 0)
+                result.position = result.text.size();
+        }
+        result.text += source[i];
+    }
+    return result;
+}
+
+} // namespace
+
+void PreparedText::set(const QString& text, const QFont& font) {
+    if (text == m_source && font == m_font && m_size.height() > 0)
+        return;
+    m_source = text;
+    m_font = font;
+    const Mnemonic mnemonic = withoutAmpersands(text);
+    m_text = mnemonic.text;
+    m_mnemonic = mnemonic.position;
+    const QFontMetricsF metrics(font);
+    // An even height has its middle on a whole point.
+    m_size = {std::ceil(metrics.horizontalAdvance(m_text)), 2 * std::ceil(metrics.height() / 2)};
+    m_ascent = metrics.ascent();
+    m_capHeight = metrics.capHeight();
+    m_made.reset();
+}
+
+void PreparedText::make(const Made& made) const {
+    const QFontMetricsF metrics(m_font);
+    const QString shown =
+        m_size.width() <= made.width ? m_text : metrics.elidedText(m_text, Qt::ElideRight, made.width);
+    m_shownWidth = shown == m_text ? m_size.width() : std::ceil(metrics.horizontalAdvance(shown));
+    const QSizeF room(m_shownWidth + 2 * overhang, m_size.height() + 2 * overhang);
+    m_picture = QImage((room * made.scale).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
+    m_picture.setDevicePixelRatio(made.scale);
+    m_picture.fill(Qt::transparent);
+    QPainter painter(&m_picture);
+    painter.setFont(m_font);
+    painter.setPen(QColor::fromRgba(made.color));
+    const QPointF baseline(overhang, onPixel(overhang + m_ascent, made.scale));
+    painter.drawText(baseline, shown);
+    if (made.showsMnemonic && m_mnemonic >= 0)
+        underlineMnemonic(painter, baseline);
+    m_made = made;
+}
+
+void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look) const {
+    const qreal scale = pixelsPerPoint(painter);
+    // Every width that the whole text fits into is one and the same.
+    const Made wanted{std::min(rect.width(), m_size.width()), scale, look.color, look.showsMnemonic};
+    if (m_made != wanted)
+        make(wanted);
+    qreal x = rect.left();
+    if (look.alignment & Qt::AlignHCenter)
+        x += (rect.width() - m_shownWidth) / 2;
+    else if (look.alignment & Qt::AlignRight)
+        x = rect.right() - m_shownWidth;
+    const qreal baseline = onPixel(rect.center().y() + m_capHeight / 2, scale);
+    const qreal top = baseline - onPixel(overhang + m_ascent, scale);
+    drawPixels(painter, {onPixel(x - overhang, scale), top}, m_picture);
+}
+
+void PreparedText::underlineMnemonic(QPainter& painter, QPointF baseline) const {
+    const QFontMetricsF metrics(m_font);
+    const qreal x = metrics.horizontalAdvance(m_text.left(m_mnemonic));
+    const qreal width = metrics.horizontalAdvance(m_text.mid(m_mnemonic, 1));
+    const qreal y = std::round(metrics.underlinePos());
+    painter.fillRect(QRectF(baseline.x() + x, baseline.y() + y, width, 1), painter.pen().color());
+}
+
+} // namespace platform

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QFont>
+#include <QImage>
+#include <QRectF>
+#include <QString>
+
+#include <optional>
+
+class QPainter;
+
+namespace platform {
+
+/// A line of text that is drawn once and then only copied, until its text, font, colour, room or scale
+/// changes. Main thread.
+class PreparedText {
+public:
+    struct Look {
+        QRgb color = 0;
+        Qt::Alignment alignment = Qt::AlignHCenter;
+        /// Underlines the mnemonic.
+        bool showsMnemonic = false;
+    };
+
+    /// Sets the text, in which `&` marks the next character as its mnemonic and `&&` stands for `&`.
+    void set(const QString& text, const QFont& font);
+
+    const QString& text() const { return m_text; }
+
+    /// In points; the height is the font's line height, made even.
+    QSizeF size() const { return m_size; }
+
+    /// Draws with the capitals in the middle of the height of `rect`, aligned within its width. What is too
+    /// long ends with an ellipsis.
+    void draw(QPainter& painter, const QRectF& rect, const Look& look) const;
+
+private:
+    /// What the picture was made for.
+    struct Made {
+        qreal width;
+        qreal scale;
+        QRgb color;
+        bool showsMnemonic;
+
+        bool operator==(const Made&) const = default;
+    };
+
+    void make(const Made& made) const;
+    void underlineMnemonic(QPainter& painter, QPointF baseline) const;
+
+    QString m_source;
+    QString m_text;
+    QFont m_font;
+    QSizeF m_size;
+    qreal m_ascent = 0;
+    qreal m_capHeight = 0;
+    qsizetype m_mnemonic = -1;
+    mutable QImage m_picture;
+    mutable std::optional<Made> m_made;
+    mutable qreal m_shownWidth = 0; // of the text or of what the ellipsis leaves of it
+};
+
+} // namespace platform

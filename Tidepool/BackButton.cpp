@@ -1,0 +1,21 @@
+#include "Tidepool/BackButton.h"
+
+namespace tidepool {
+
+BackButton::BackButton(const QString& title, QWidget* parent)
+    : StyledButton(title, std::make_unique<BackButtonCell>(), parent) {}
+
+void BackButton::setAlphaValue(qreal alpha) {
+    StyledButton::setAlphaValue(alpha);
+    if (alpha > 0 && isHidden())
+        show();
+    else if (alpha == 0 && !isHidden())
+        hide();
+}
+
+QMarginsF BackButton::alignmentRectInsets() const {
+    constexpr qreal top = 6;
+    return {0, top, 0, 0};
+}
+
+} // namespace tidepool

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Tidepool/BackButtonCell.h"
+#include "Tidepool/StyledButton.h"
+
+namespace tidepool {
+
+/// Leads back to where the user came from. It is hidden while it is fully transparent.
+class BackButton : public StyledButton {
+    Q_OBJECT
+
+public:
+    explicit BackButton(const QString& title = {}, QWidget* parent = nullptr);
+
+    /// Above 0 shows a hidden button, 0 hides it.
+    void setAlphaValue(qreal alpha) override;
+
+    QMarginsF alignmentRectInsets() const override;
+
+    /// Its cell toggles, but there is nothing to see or to tell of that.
+    bool showsState() const override { return false; }
+};
+
+} // namespace tidepool

@@ -1,0 +1,21 @@
+#include "Tidepool/CursorButtonCell.h"
+
+#include <QPainter>
+
+namespace tidepool {
+
+CursorButtonCell::CursorButtonCell() {
+    setBordered(false);
+    setImagePosition(platform::ImagePosition::imageOnly);
+}
+
+void CursorButtonCell::draw(QPainter& painter, const QRectF& frame) const {
+    constexpr qreal pressed = 0.5;
+    const qreal opacity = painter.opacity();
+    if (isHighlighted())
+        painter.setOpacity(opacity * pressed);
+    ButtonCell::draw(painter, frame);
+    painter.setOpacity(opacity);
+}
+
+} // namespace tidepool

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Tidepool/FavouriteCheckBoxCell.h"
+#include "Tidepool/StyledCheckBox.h"
+
+namespace tidepool {
+
+/// A star to mark a favourite with. It is half as opaque while the pointer holds it.
+class FavouriteCheckBox : public StyledCheckBox {
+    Q_OBJECT
+
+public:
+    explicit FavouriteCheckBox(QWidget* parent = nullptr);
+
+protected:
+    void beginTracking(QMouseEvent& event) override;
+    void endTracking() override;
+};
+
+} // namespace tidepool

@@ -1,0 +1,31 @@
+#include "Tidepool/StyleSet.h"
+
+#include "Platform/Core/Environment.h"
+
+#include <QWidget>
+
+#include <utility>
+
+namespace tidepool {
+
+namespace {
+
+using Environment = platform::Environment<std::shared_ptr<const StyleSet>>;
+
+} // namespace
+
+void StyleSet::apply(QWidget& root, std::shared_ptr<const StyleSet> set) {
+    Environment::set(root, std::move(set));
+    root.update();
+    for (QWidget* const widget : root.findChildren<QWidget*>()) {
+        widget->updateGeometry();
+        widget->update();
+    }
+}
+
+const StyleSet* StyleSet::of(const QWidget* widget) {
+    const std::shared_ptr<const StyleSet>* set = Environment::find(widget);
+    return set != nullptr ? set->get() : nullptr;
+}
+
+} // namespace tidepool

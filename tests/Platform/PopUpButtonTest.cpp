@@ -1,0 +1,254 @@
+#include "Platform/Controls/PopUpButton.h"
+#include "tests/support/Pixels.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using platform::Menu;
+using platform::MenuItem;
+using platform::PopUpButton;
+using platform::Selector;
+
+namespace {
+
+constexpr Selector chosen{"select"};
+constexpr Selector next{"selectNextItem"};
+constexpr Selector previous{"selectPreviousItem"};
+
+class Owner : public QObject {
+    Q_OBJECT
+
+public:
+    QStringList selected;
+
+public Q_SLOTS:
+
+    void select(QObject* sender) { selected << qobject_cast<PopUpButton*>(sender)->titleOfSelectedItem(); }
+
+    void own(QObject* sender) { selected << u"own " + qobject_cast<MenuItem*>(sender)->title(); }
+};
+
+class PopUpButtonTest : public testing::Test {
+protected:
+    PopUpButtonTest() {
+        m_window.resize(400, 300);
+        for (PopUpButton* button : {&m_button, &m_pullDown}) {
+            button->setAction(chosen, &m_owner);
+            button->setFixedSize(120, 24);
+        }
+        m_button.move(100, 100);
+        m_pullDown.move(100, 200);
+        m_window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+    }
+
+    /// Appends an item for each letter: "-" is a separator, a small letter is disabled.
+    void fill(const QString& letters) {
+        for (const QChar letter : letters) {
+            if (letter == u'-') {
+                m_button.menu()->addItem(MenuItem::separator());
+                continue;
+            }
+            m_button.addItem(letter.toUpper()).setEnabled(letter.isUpper());
+        }
+    }
+
+    QString cycled(Selector selector) {
+        EXPECT_TRUE(platform::sendAction(selector, &m_button, nullptr));
+        return m_button.titleOfSelectedItem();
+    }
+
+    QString keyed(Qt::Key key) {
+        QTest::keyClick(&m_button, key);
+        return m_button.titleOfSelectedItem();
+    }
+
+    void chooseInMenu(PopUpButton& button, MenuItem& item) {
+        const QPoint center = button.menu()->actionGeometry(&item).center();
+        QTest::mouseMove(button.menu(), center - QPoint(3, 3));
+        QTest::mouseMove(button.menu(), center);
+        QTest::mouseClick(button.menu(), Qt::LeftButton, {}, center);
+    }
+
+    Owner m_owner;
+    QWidget m_window;
+    PopUpButton m_button{false, &m_window};
+    PopUpButton m_pullDown{true, &m_window};
+};
+
+using PopUpButtonDeathTest = PopUpButtonTest;
+
+} // namespace
+
+TEST_F(PopUpButtonTest, SelectsTheFirstItemAndWhatItIsTold) {
+    EXPECT_EQ(m_button.indexOfSelectedItem(), -1);
+    EXPECT_EQ(m_button.titleOfSelectedItem(), QString());
+    fill(QStringLiteral("-ABC"));
+    EXPECT_EQ(m_button.indexOfSelectedItem(), 1);
+    m_button.selectItem(3);
+    EXPECT_EQ(m_button.titleOfSelectedItem(), QStringLiteral("C"));
+    EXPECT_EQ(m_button.itemArray()[1]->state(), MenuItem::State::off);
+    EXPECT_EQ(m_button.itemArray()[3]->state(), MenuItem::State::on);
+    MenuItem stranger(QStringLiteral("stranger"));
+    m_button.selectItem(&stranger);
+    EXPECT_EQ(m_button.selectedItem(), nullptr);
+    m_button.selectItem(2);
+    delete m_button.selectedItem();
+    EXPECT_EQ(m_button.indexOfSelectedItem(), -1);
+    m_button.selectItem(17);
+    EXPECT_EQ(m_button.indexOfSelectedItem(), -1);
+    EXPECT_TRUE(m_owner.selected.isEmpty()) << "only the user sends";
+    m_button.setMenu(nullptr);
+    EXPECT_TRUE(m_button.itemArray().isEmpty());
+    QTest::mouseClick(&m_button, Qt::LeftButton);
+    m_button.addItem(QStringLiteral("D"));
+    EXPECT_EQ(m_button.titleOfSelectedItem(), QStringLiteral("D"));
+}
+
+TEST_F(PopUpButtonTest, PressOpensTheMenuWithTheSelectedItemOverTheButton) {
+    fill(QStringLiteral("ABC"));
+    m_button.selectItem(2);
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    Menu& menu = *m_button.menu();
+    ASSERT_TRUE(menu.isVisible());
+    EXPECT_TRUE(m_button.cell().isHighlighted());
+    EXPECT_EQ(menu.activeAction(), m_button.selectedItem());
+    const QRect row = menu.actionGeometry(m_button.selectedItem()).translated(menu.pos());
+    const QRect button(m_button.mapToGlobal(QPoint()), m_button.size());
+    EXPECT_LE(std::abs(row.center().y() - button.center().y()), 1);
+    EXPECT_TRUE(menu.geometry().contains(button));
+    chooseInMenu(m_button, *m_button.itemArray()[0]);
+    EXPECT_FALSE(menu.isVisible());
+    EXPECT_FALSE(m_button.cell().isHighlighted());
+    EXPECT_EQ(m_owner.selected, QStringList{QStringLiteral("A")});
+    EXPECT_EQ(m_button.itemArray()[2]->state(), MenuItem::State::off);
+    m_button.setEnabled(false);
+    QTest::mouseClick(&m_button, Qt::LeftButton);
+    EXPECT_FALSE(menu.isVisible());
+}
+
+TEST_F(PopUpButtonTest, AnItemWithAnActionSendsItInsteadOnceItIsSelected) {
+    fill(QStringLiteral("AB"));
+    MenuItem& item = *m_button.itemArray()[1];
+    item.action = Selector{"own"};
+    item.target = &m_owner;
+    QString selectedThen;
+    QObject::connect(&m_button, &PopUpButton::itemChosen, [&](auto* it) { selectedThen = it->title(); });
+    item.trigger();
+    EXPECT_EQ(m_owner.selected, QStringList{QStringLiteral("own B")});
+    EXPECT_EQ(selectedThen, QStringLiteral("B"));
+    EXPECT_EQ(item.state(), MenuItem::State::on);
+    EXPECT_TRUE(item.isChecked());
+}
+
+TEST_F(PopUpButtonTest, ItemsOfSubmenusCountWhereTheirSubmenuIs) {
+    fill(QStringLiteral("AB"));
+    MenuItem& parent = *m_button.itemArray()[1];
+    parent.setSubmenu(std::make_unique<Menu>());
+    parent.submenu()->addItem(QStringLiteral("inner")).trigger();
+    EXPECT_EQ(m_button.title(), QStringLiteral("inner"));
+    EXPECT_EQ(m_button.indexOfSelectedItem(), 1);
+    EXPECT_EQ(m_owner.selected, QStringList{QStringLiteral("inner")});
+    EXPECT_EQ(cycled(previous), QStringLiteral("A"));
+}
+
+TEST_F(PopUpButtonTest, KeysStepWithoutWrappingAndOpen) {
+    fill(QStringLiteral("Ab-CD"));
+    EXPECT_EQ(keyed(Qt::Key_Up), QStringLiteral("A"));
+    EXPECT_TRUE(m_owner.selected.isEmpty());
+    EXPECT_EQ(keyed(Qt::Key_Down), QStringLiteral("C"));
+    EXPECT_EQ(keyed(Qt::Key_Down), QStringLiteral("D"));
+    EXPECT_EQ(keyed(Qt::Key_Down), QStringLiteral("D"));
+    EXPECT_EQ(keyed(Qt::Key_Home), QStringLiteral("A"));
+    EXPECT_EQ(keyed(Qt::Key_End), QStringLiteral("D"));
+    EXPECT_EQ(keyed(Qt::Key_Up), QStringLiteral("C"));
+    EXPECT_EQ(keyed(Qt::Key_D), QStringLiteral("D"));
+    EXPECT_EQ(m_owner.selected.join(QString()), QStringLiteral("CDADCD"));
+    m_button.selectItem(nullptr);
+    EXPECT_EQ(keyed(Qt::Key_Up), QStringLiteral("D")) << "from nothing";
+    QTest::qWait(QApplication::keyboardInputInterval() + 20); // a space would go on with what was typed
+    for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_F4}) {
+        QTest::keyClick(&m_button, key);
+        EXPECT_TRUE(m_button.menu()->isVisible()) << key;
+        QTest::keyClick(m_button.menu(), Qt::Key_Escape);
+        EXPECT_FALSE(m_button.menu()->isVisible());
+        EXPECT_FALSE(m_button.cell().isHighlighted());
+    }
+    QTest::keyClick(&m_button, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_TRUE(m_button.menu()->isVisible());
+}
+
+TEST_F(PopUpButtonTest, PullDownShowsItsTitleAndAMenuOfTheRest) {
+    for (const auto* title : {"Actions", "Copy", "Remove"})
+        m_pullDown.addItem(QString::fromLatin1(title));
+    EXPECT_EQ(m_pullDown.title(), QStringLiteral("Actions"));
+    EXPECT_EQ(m_pullDown.selectedItem(), nullptr);
+    QTest::keyClick(&m_pullDown, Qt::Key_Down);
+    const Menu& menu = *m_pullDown.menu();
+    ASSERT_TRUE(menu.isVisible());
+    EXPECT_GE(menu.y(), m_pullDown.mapToGlobal(QPoint(0, m_pullDown.height())).y());
+    EXPECT_TRUE(menu.actionGeometry(m_pullDown.itemArray()[0]).isEmpty());
+    chooseInMenu(m_pullDown, *m_pullDown.itemArray()[2]);
+    EXPECT_EQ(m_owner.selected, QStringList{QStringLiteral("Remove")});
+    EXPECT_EQ(m_pullDown.title(), QStringLiteral("Actions"));
+    EXPECT_FALSE(m_pullDown.itemArray()[2]->isCheckable());
+}
+
+TEST_F(PopUpButtonTest, CyclingSkipsWhatCannotBeChosenAndWrapsToWhatIsThere) {
+    fill(QStringLiteral("Ab-C"));
+    EXPECT_EQ(cycled(next), QStringLiteral("C"));
+    EXPECT_EQ(cycled(next), QStringLiteral("A"));
+    EXPECT_EQ(cycled(previous), QStringLiteral("C"));
+    EXPECT_EQ(cycled(previous), QStringLiteral("A"));
+    EXPECT_EQ(m_owner.selected.join(QString()), QStringLiteral("CACA"));
+    fill(QStringLiteral("-"));
+    cycled(previous);
+    EXPECT_EQ(m_button.indexOfSelectedItem(), 4) << "a last separator is wrapped to";
+    m_button.selectItem(-1);
+    EXPECT_EQ(cycled(next), QStringLiteral("A"));
+}
+
+TEST_F(PopUpButtonTest, CyclingWrapsWithinOneItemAndNone) {
+    EXPECT_EQ(cycled(next), QString());
+    EXPECT_EQ(m_button.indexOfSelectedItem(), -1);
+    fill(QStringLiteral("Ab"));
+    EXPECT_EQ(cycled(next), QStringLiteral("A"));
+    EXPECT_EQ(cycled(previous), QStringLiteral("B")) << "though it is disabled";
+}
+
+TEST_F(PopUpButtonDeathTest, CyclingBackFromNothingIsFatal) {
+    fill(QStringLiteral("A"));
+    m_button.selectItem(-1);
+    EXPECT_DEATH(m_button.selectPreviousItem(), "^selectPreviousItem: no item is selected\n$");
+}
+
+TEST_F(PopUpButtonTest, AssistiveTechnologySeesAComboBox) {
+    fill(QStringLiteral("AB"));
+    auto* const comboBox = QAccessible::queryAccessibleInterface(&m_button);
+    EXPECT_EQ(comboBox->role(), QAccessible::ComboBox);
+    EXPECT_EQ(comboBox->text(QAccessible::Value), QStringLiteral("A"));
+    EXPECT_TRUE(comboBox->state().collapsed);
+    comboBox->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(m_button.menu()->isVisible());
+    EXPECT_TRUE(comboBox->state().expanded);
+    m_pullDown.addItem(QStringLiteral("Actions"));
+    const auto* const menu = QAccessible::queryAccessibleInterface(&m_pullDown);
+    EXPECT_EQ(menu->role(), QAccessible::ButtonMenu);
+    EXPECT_EQ(menu->text(QAccessible::Value), QStringLiteral("Actions"));
+}
+
+TEST_F(PopUpButtonTest, ShowsTheSelectedTitleAndIsAsWideAsTheWidest) {
+    fill(QStringLiteral("AB"));
+    const QImage first = picture(m_button);
+    m_button.selectItem(1);
+    EXPECT_GT(difference(first, picture(m_button)), 60);
+    const int width = m_button.sizeHint().width();
+    m_button.addItem(QStringLiteral("A far longer title"));
+    EXPECT_GT(m_button.sizeHint().width(), width + 40);
+}
+
+#include "PopUpButtonTest.moc"

@@ -1,0 +1,118 @@
+#include "Platform/Controls/PushButton.h"
+#include "tests/support/ActionCounter.h"
+
+#include <QAccessible>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using platform::ButtonCell;
+using platform::ControlState;
+using platform::PushButton;
+
+namespace {
+
+QAccessibleInterface& accessible(PushButton& button) {
+    return *QAccessible::queryAccessibleInterface(&button);
+}
+
+} // namespace
+
+TEST(PushButton, StateGoesRoundAsItsTypeSays) {
+    PushButton button;
+    QSignalSpy changes(&button, &PushButton::stateChanged);
+    button.click();
+    EXPECT_EQ(button.state(), ControlState::off) << "a momentary button has no state";
+    button.cell().setButtonType(ButtonCell::ButtonType::toggle);
+    button.cell().setAllowsMixedState(true);
+    for (const ControlState state : {ControlState::mixed, ControlState::on, ControlState::off}) {
+        button.click();
+        EXPECT_EQ(button.state(), state);
+    }
+    EXPECT_EQ(changes.count(), 3);
+}
+
+TEST(PushButton, MnemonicPressesAndIsNotPartOfTheTitle) {
+    QWidget window;
+    PushButton button(QStringLiteral("Cut && &Paste"), &window);
+    EXPECT_EQ(button.cell().plainTitle(), QStringLiteral("Cut & Paste"));
+    QSignalSpy clicks(&button, &PushButton::clicked);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clicks.count() == 1; }));
+}
+
+TEST(PushButton, RepeatsWhileHeldIfAsked) {
+    PushButton button;
+    ActionCounter target;
+    button.setAction(ActionCounter::first, &target);
+    button.setAutoRepeat(true);
+    button.setAutoRepeatDelay(10);
+    button.setAutoRepeatInterval(10);
+    button.resize(40, 24);
+    button.show();
+    QTest::mousePress(&button, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return target.count >= 3; }));
+    button.hide();
+    const int sent = target.count;
+    QTest::qWait(50);
+    EXPECT_EQ(target.count, sent);
+}
+
+TEST(PushButton, ActionWithoutATargetGoesToWhoeverAnswers) {
+    ActionCounter delegate;
+    platform::setApplicationDelegate(&delegate);
+    PushButton button;
+    EXPECT_FALSE(button.Control::sendAction()) << "there is no action";
+    button.setAction(ActionCounter::first);
+    button.click();
+    EXPECT_EQ(delegate.count, 1);
+    platform::setApplicationDelegate(nullptr);
+    EXPECT_FALSE(button.Control::sendAction());
+}
+
+TEST(PushButton, TellsAssistiveTechnologyWhatItIs) {
+    PushButton button(QStringLiteral("&Mute"));
+    EXPECT_EQ(accessible(button).role(), QAccessible::Button);
+    EXPECT_EQ(accessible(button).text(QAccessible::Name), QStringLiteral("Mute"));
+    EXPECT_FALSE(accessible(button).state().checkable);
+    button.setAccessibleName(QStringLiteral("Mute the track"));
+    EXPECT_EQ(accessible(button).text(QAccessible::Name), QStringLiteral("Mute the track"));
+
+    button.cell().setButtonType(ButtonCell::ButtonType::switchButton);
+    button.setBordered(false);
+    button.setState(ControlState::mixed);
+    EXPECT_EQ(accessible(button).role(), QAccessible::CheckBox);
+    EXPECT_TRUE(accessible(button).state().checkStateMixed);
+    EXPECT_FALSE(accessible(button).state().checked);
+    QAccessibleActionInterface* const actions = accessible(button).actionInterface();
+    ASSERT_EQ(actions->actionNames(), QStringList{QAccessibleActionInterface::toggleAction()});
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(accessible(button).state().checked);
+    button.setEnabled(false);
+    EXPECT_TRUE(actions->actionNames().isEmpty());
+
+    QMenu menu;
+    PushButton opener;
+    opener.setMenu(&menu);
+    EXPECT_EQ(accessible(opener).role(), QAccessible::ButtonMenu);
+    EXPECT_TRUE(accessible(opener).state().hasPopup);
+}
+
+TEST(PushButton, MenuKeyOpensItsMenu) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("Item"));
+    PushButton button;
+    button.setMenu(&menu);
+    button.resize(40, 24);
+    button.show();
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(&button, &key);
+    EXPECT_TRUE(menu.isVisible());
+    EXPECT_TRUE(button.cell().isHighlighted());
+    menu.close();
+    EXPECT_FALSE(button.cell().isHighlighted());
+}

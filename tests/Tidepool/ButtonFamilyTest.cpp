@@ -1,0 +1,272 @@
+#include "Tidepool/BackButton.h"
+#include "Tidepool/ClickableImageView.h"
+#include "Tidepool/CornerButton.h"
+#include "Tidepool/CursorButton.h"
+#include "Tidepool/DarkHighlightButton.h"
+#include "Tidepool/FavouriteCheckBox.h"
+#include "Tidepool/NoDividerSplitView.h"
+#include "Tidepool/StyledCheckBox.h"
+#include "Tidepool/TPImages.h"
+#include "Tidepool/ToolButton.h"
+#include "tests/support/ActionCounter.h"
+#include "tests/support/Pixels.h"
+
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace tidepool;
+using platform::ControlState;
+
+namespace {
+
+void show(QWidget& widget) {
+    widget.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&widget));
+}
+
+/// A menu with one item; where it opened last.
+class SpiedMenu : public QMenu {
+public:
+    SpiedMenu() { addAction(QStringLiteral("Item")); }
+
+    QPoint openedAt(const QWidget& view) const { return view.mapFromGlobal(pos()); }
+};
+
+} // namespace
+
+TEST(BackButton, AlphaShowsAndHidesIt) {
+    QWidget window;
+    BackButton button(QStringLiteral("Back"), &window);
+    show(window);
+    EXPECT_EQ(button.alignmentRectInsets(), QMarginsF(0, 6, 0, 0));
+    EXPECT_EQ(button.sizeHint().height(), 28);
+    button.setAlphaValue(0);
+    EXPECT_TRUE(button.isHidden());
+    button.setAlphaValue(0.4);
+    EXPECT_FALSE(button.isHidden());
+    button.hide();
+    button.setAlphaValue(0.4);
+    EXPECT_FALSE(button.isHidden()) << "above 0 shows a hidden button";
+}
+
+TEST(BackButton, PointsToWhereLinesBegin) {
+    BackButton button;
+    button.resize(60, 28);
+    const QImage leftToRight = picture(button);
+    button.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_LE(difference(picture(button), leftToRight.mirrored(true, false)), 1);
+    EXPECT_GT(difference(picture(button), leftToRight), 30);
+}
+
+TEST(CornerButton, OpensItsMenuUnderItself) {
+    SpiedMenu menu;
+    CornerButton button;
+    ActionCounter target;
+    button.setAction(ActionCounter::first, &target);
+    button.resize(40, 24);
+    show(button);
+    button.setAlternateMenu(&menu);
+    const auto opens = [&](const std::function<void()>& gesture) {
+        gesture();
+        const bool isOpen = menu.isVisible() && menu.openedAt(button) == QPoint(0, 28);
+        EXPECT_EQ(button.cell().isHighlighted(), menu.isVisible());
+        menu.close();
+        EXPECT_FALSE(button.cell().isHighlighted());
+        return isOpen;
+    };
+    EXPECT_TRUE(opens([&] { QTest::mousePress(&button, Qt::LeftButton); }));
+    EXPECT_TRUE(opens([&] { QTest::mousePress(&button, Qt::RightButton); }));
+    EXPECT_TRUE(opens([&] { QTest::mousePress(&button, Qt::LeftButton, Qt::ControlModifier); }));
+    EXPECT_TRUE(opens([&] { QTest::keyClick(&button, Qt::Key_Space); }));
+    EXPECT_TRUE(opens([&] { QTest::keyClick(&button, Qt::Key_Return); }));
+    EXPECT_EQ(target.count, 0);
+    button.setAlternateMenu(nullptr);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(target.count, 1);
+}
+
+TEST(CursorButton, ShowsItsPointerWhileThePointerIsOverIt) {
+    QWidget window;
+    CursorButton button(&window);
+    button.resize(40, 40);
+    show(window);
+    EXPECT_TRUE(button.acceptsFirstMouse());
+    const auto enter = [&] {
+        QEnterEvent event({5, 5}, {5, 5}, {5, 5});
+        QApplication::sendEvent(&button, &event);
+    };
+    const auto leave = [&] {
+        QEvent event(QEvent::Leave);
+        QApplication::sendEvent(&button, &event);
+    };
+    enter();
+    EXPECT_EQ(button.cursor().shape(), Qt::ArrowCursor) << "without an image";
+    button.setCursorImage(TPImagesAK::cursorTrackingSlider.image());
+    button.setCursorHotSpot({3, 4});
+    enter();
+    EXPECT_EQ(button.cursor().shape(), Qt::BitmapCursor);
+    EXPECT_EQ(button.cursor().hotSpot(), QPoint(3, 4));
+    leave();
+    EXPECT_EQ(button.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST(CursorButton, IsHalfAsOpaqueWhilePressed) {
+    const auto alpha = [](platform::PushButton& button) {
+        button.resize(16, 16);
+        QImage image(16, 16, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        button.render(&image, {}, {}, QWidget::RenderFlags());
+        return qAlpha(image.pixel(8, 8));
+    };
+    CursorButton cursor;
+    DarkHighlightButton dark;
+    for (platform::PushButton* const button :
+         {static_cast<platform::PushButton*>(&cursor), static_cast<platform::PushButton*>(&dark)}) {
+        button->setImage(TPImages::checkboxOn.image());
+        EXPECT_EQ(alpha(*button), 255);
+        button->setDown(true);
+        EXPECT_NEAR(alpha(*button), 128, 1);
+        button->setDown(false);
+    }
+    dark.setEnabled(false);
+    EXPECT_NEAR(alpha(dark), 128, 1);
+}
+
+TEST(StyledCheckBox, ClicksAlternateAndNeverMix) {
+    StyledCheckBox box(QStringLiteral("Box"));
+    box.setState(ControlState::mixed);
+    EXPECT_EQ(box.doubleValue(), -1);
+    for (const ControlState expected : {ControlState::on, ControlState::off, ControlState::on}) {
+        box.click();
+        EXPECT_EQ(box.state(), expected);
+    }
+}
+
+TEST(StyledCheckBox, BoxAndTitleStandInTheMiddleWhereTheirRulesSay) {
+    StyledCheckBox box(QStringLiteral("A title"));
+    auto& cell = static_cast<StyledCheckBoxCell&>(box.cell());
+    const QRectF bounds(0, 0, 30, 31);
+    const QRectF image = cell.imageRect(bounds);
+    EXPECT_EQ(image.size(), QSizeF(16, 16));
+    EXPECT_EQ(image.top(), 7);
+    cell.setXOffset(2.5);
+    EXPECT_EQ(cell.imageRect(bounds), image.translated(2.5, 0));
+    EXPECT_GT(cell.titleRect(bounds).right(), 30) << "as wide as the title, whatever room there is";
+}
+
+TEST(FavouriteCheckBox, ShowsItsStarAndDimsWhileHeld) {
+    FavouriteCheckBox star;
+    const auto& cell = static_cast<const FavouriteCheckBoxCell&>(star.cell());
+    EXPECT_EQ(&cell.image(), cell.style().buttonImage(StyledControlState::defaultState));
+    EXPECT_EQ(&cell.alternateImage(), cell.style().buttonImage(StyledControlState::on));
+    EXPECT_NE(&cell.image(), &cell.alternateImage());
+    star.resize(star.sizeHint());
+    show(star);
+    const QImage empty = picture(star);
+    QTest::mousePress(&star, Qt::LeftButton);
+    EXPECT_EQ(star.alphaValue(), 0.5);
+    QTest::mouseRelease(&star, Qt::LeftButton);
+    EXPECT_EQ(star.alphaValue(), 1);
+    EXPECT_EQ(star.state(), ControlState::on);
+    EXPECT_GT(difference(empty, picture(star)), 100);
+}
+
+class ToolButtonTest : public testing::Test {
+protected:
+    ToolButtonTest() {
+        m_button.setAction(ActionCounter::first, &m_target);
+        m_button.setSecondaryAction(ActionCounter::second);
+        m_button.setSecondaryTarget(&m_target);
+        m_button.resize(30, 24);
+        show(m_button);
+        QApplication::setDoubleClickInterval(60);
+    }
+
+    ~ToolButtonTest() override { QApplication::setDoubleClickInterval(400); }
+
+    bool holdIsSent() {
+        return QTest::qWaitFor([this] { return m_target.secondCount > 0; }, 300);
+    }
+
+    ActionCounter m_target;
+    ToolButton m_button;
+};
+
+TEST_F(ToolButtonTest, QuickClickSendsTheActionAndHoldTheSecondOne) {
+    QTest::mouseClick(&m_button, Qt::LeftButton);
+    EXPECT_EQ(m_target.count, 1);
+    EXPECT_FALSE(holdIsSent());
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    EXPECT_TRUE(holdIsSent());
+    EXPECT_FALSE(m_button.isDown());
+    QTest::mouseRelease(&m_button, Qt::LeftButton);
+    EXPECT_EQ(m_target.count, 1);
+    EXPECT_EQ(m_target.secondCount, 1);
+}
+
+TEST_F(ToolButtonTest, NoHoldWithoutAnActionAfterAnEndOrOnADoubleClick) {
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    m_button.setEnabled(false);
+    EXPECT_FALSE(holdIsSent());
+    m_button.setEnabled(true);
+
+    QTest::mouseClick(&m_button, Qt::LeftButton);
+    QMouseEvent second(QEvent::MouseButtonDblClick, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&m_button, &second);
+    EXPECT_FALSE(holdIsSent());
+    QTest::mouseRelease(&m_button, Qt::LeftButton, {}, {5, 5});
+
+    m_button.setSecondaryAction(std::nullopt);
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    EXPECT_FALSE(holdIsSent());
+    EXPECT_TRUE(m_button.isDown());
+}
+
+TEST_F(ToolButtonTest, MenuKeyReachesWhatHoldingDoes) {
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(&m_button, &key);
+    EXPECT_EQ(m_target.secondCount, 1);
+    SpiedMenu menu;
+    m_button.setMenu(&menu);
+    QTest::mousePress(&m_button, Qt::RightButton);
+    EXPECT_EQ(menu.openedAt(m_button), QPoint(0, 28));
+}
+
+TEST(ClickableImageView, ClicksAndDimsOnlyWhileEnabled) {
+    ClickableImageView view(TPImages::checkboxOn.image(), QStringLiteral("Picture"));
+    view.resize(16, 16);
+    show(view);
+    int clicks = 0;
+    const auto token = view.clicked()->sink([&](std::monostate) { ++clicks; });
+    QTest::mousePress(&view, Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(view.alphaValue(), 0.5);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(view.alphaValue(), 1);
+    EXPECT_EQ(clicks, 1);
+    QTest::mousePress(&view, Qt::LeftButton, {}, {8, 8});
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {40, 8});
+    EXPECT_EQ(clicks, 1);
+    QTest::keyClick(&view, Qt::Key_Space);
+    EXPECT_EQ(clicks, 2);
+    QTest::mousePress(&view, Qt::LeftButton, {}, {8, 8});
+    view.setEnabled(false);
+    EXPECT_EQ(view.alphaValue(), 1);
+    view.setEnabled(true);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST(NoDividerSplitView, PartsTouch) {
+    NoDividerSplitView split;
+    auto* const left = new QWidget;
+    auto* const right = new QWidget;
+    split.addWidget(left);
+    split.addWidget(right);
+    split.resize(200, 100);
+    show(split);
+    EXPECT_EQ(left->geometry().right() + 1, right->geometry().left());
+    const QImage image = picture(split);
+    EXPECT_EQ(image.pixel(left->width() - 1, 50), image.pixel(10, 50));
+}
