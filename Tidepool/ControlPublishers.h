@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Controls/PopUpButton.h"
 #include "Platform/Controls/PushButton.h"
 #include "Tidepool/NSControlPublisher.h"
 
@@ -12,6 +13,12 @@ namespace tidepool {
 template <std::derived_from<platform::PushButton> Button>
 platform::AnyPublisher<platform::ControlState> statePublisher(Button& button) {
     return publisher(button)->map([](Button* const& sender) { return sender->state(); });
+}
+
+/// The selected item of a pop-up button, or null.
+template <std::derived_from<platform::PopUpButton> Button>
+platform::AnyPublisher<platform::MenuItem*> selectedItemPublisher(Button& button) {
+    return publisher(button)->map([](Button* const& sender) { return sender->selectedItem(); });
 }
 
 /// The value of a control as a number.

@@ -43,8 +43,8 @@ PopUpButton::PopUpButton(bool pullsDown, QWidget* parent)
 PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
     : PushButton({}, std::move(cell), parent),
       m_pullsDown(static_cast<PopUpButtonCell&>(this->cell()).pullsDown()) {
-    setMenu(std::make_unique<Menu>());
     installPopUpButtonAccessibility();
+    setMenu(std::make_unique<Menu>());
 }
 
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {

@@ -55,9 +55,8 @@ void PopUpButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
     QColor color = controlTextColor();
     if (!isEnabled())
         color.setAlphaF(color.alphaF() / 2);
-    painter.setPen(color);
-    preparedTitle(titleFont())
-        .draw(painter, frame, layoutDirection() == Qt::LeftToRight ? Qt::AlignLeft : Qt::AlignRight);
+    const auto alignment = layoutDirection() == Qt::LeftToRight ? Qt::AlignLeft : Qt::AlignRight;
+    preparedTitle(titleFont()).draw(painter, frame, {color.rgba(), alignment});
 }
 
 } // namespace platform

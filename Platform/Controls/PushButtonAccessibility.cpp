@@ -50,8 +50,11 @@ private:
     PushButton& m_button;
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
-    auto* const button = dynamic_cast<PushButton*>(object);
+/// Asked for the class of the object and for each that it derives from, the nearest first; a subclass may
+/// have an interface of its own.
+QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
+    auto* const button =
+        className == QLatin1String("platform::PushButton") ? dynamic_cast<PushButton*>(object) : nullptr;
     return button != nullptr ? new PushButtonInterface(*button) : nullptr;
 }
 

@@ -1,3 +1,4 @@
+#include "Platform/Controls/PopUpButton.h"
 #include "Tidepool/BackButton.h"
 #include "Tidepool/ClickableImageView.h"
 #include "Tidepool/CornerButton.h"
@@ -5,6 +6,7 @@
 #include "Tidepool/DarkHighlightButton.h"
 #include "Tidepool/FavouriteCheckBox.h"
 #include "Tidepool/NoDividerSplitView.h"
+#include "Tidepool/PopUpCyclingButton.h"
 #include "Tidepool/StyledCheckBox.h"
 #include "Tidepool/TPImages.h"
 #include "Tidepool/ToolButton.h"
@@ -132,6 +134,24 @@ TEST(CursorButton, IsHalfAsOpaqueWhilePressed) {
     }
     dark.setEnabled(false);
     EXPECT_NEAR(alpha(dark), 128, 1);
+}
+
+TEST(PopUpCyclingButton, StepsItsPopUpButtonAndTreatsOthersAsUsual) {
+    platform::PopUpButton popUp;
+    for (const char16_t* const title : {u"A", u"B", u"C"})
+        popUp.addItem(QString::fromUtf16(title));
+    PopUpCyclingButton button;
+    button.resize(20, 20);
+    show(button);
+    button.setAction(ActionCounter::first, &popUp);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("B"));
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("A"));
+    ActionCounter other;
+    button.setTarget(&other);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(other.count, 1);
 }
 
 TEST(StyledCheckBox, ClicksAlternateAndNeverMix) {

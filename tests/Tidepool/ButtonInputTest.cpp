@@ -3,6 +3,7 @@
 #include "Tidepool/CursorButton.h"
 #include "Tidepool/DarkHighlightButton.h"
 #include "Tidepool/FavouriteCheckBox.h"
+#include "Tidepool/PopUpCyclingButton.h"
 #include "Tidepool/StyledCheckBox.h"
 #include "Tidepool/ToolButton.h"
 #include "Tidepool/VantorPushButton.h"
@@ -57,9 +58,9 @@ protected:
     QPointer<Button> m_button;
 };
 
-using Buttons =
-    testing::Types<platform::PushButton, StyledButton, StyledCheckBox, FavouriteCheckBox, BackButton,
-                   CornerButton, CursorButton, DarkHighlightButton, ToolButton, VantorPushButton>;
+using Buttons = testing::Types<platform::PushButton, StyledButton, StyledCheckBox, FavouriteCheckBox,
+                               BackButton, CornerButton, CursorButton, DarkHighlightButton,
+                               PopUpCyclingButton, ToolButton, VantorPushButton>;
 TYPED_TEST_SUITE(ButtonInputTest, Buttons);
 
 } // namespace

@@ -72,6 +72,19 @@ TEST(NSControlPublisher, IsOneForEachControlAndEndsWithIt) {
     EXPECT_EQ(kept->control(), nullptr);
 }
 
+TEST(NSControlPublisher, TellsTheSelectedItemOfAPopUpButton) {
+    platform::PopUpButton popUp;
+    popUp.addItem(QStringLiteral("A"));
+    popUp.addItem(QStringLiteral("B"));
+    QStringList selected;
+    const auto token = selectedItemPublisher(popUp)->sink(
+        [&](platform::MenuItem* const& item) { selected.append(item->title()); });
+    popUp.selectNextItem();
+    popUp.selectItem(0); // a program's selection is no action
+    popUp.selectNextItem();
+    EXPECT_EQ(selected, (QStringList{QStringLiteral("B"), QStringLiteral("B")}));
+}
+
 TEST(NSControlPublisher, TheLastTargetWins) {
     StyledCheckBox box;
     ActionCounter counter;

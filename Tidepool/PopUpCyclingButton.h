@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Tidepool/CursorButton.h"
+
+namespace tidepool {
+
+/// Steps through the items of the pop-up button that is its target: forward, or back with Shift. Other
+/// targets get its action.
+class PopUpCyclingButton : public CursorButton {
+    Q_OBJECT
+
+public:
+    using CursorButton::sendAction;
+
+    explicit PopUpCyclingButton(QWidget* parent = nullptr);
+
+    bool sendAction(std::optional<platform::Selector> action, QObject* target) override;
+};
+
+} // namespace tidepool
