@@ -10,6 +10,7 @@
 #include <QSettings>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace gallery;

@@ -7,6 +7,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 
 #include <utility>
 
@@ -58,14 +59,14 @@ void ColorCard::paintEvent(QPaintEvent*) {
     painter.setPen(tidepool::TPColorsAK::grey30.color());
     painter.drawPath(outline);
 
-    const Qt::Alignment leading = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    const auto leading = static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
     painter.setPen(textColor(TextRole::heading));
     painter.setFont(platform::systemFont(13, QFont::Medium));
     painter.drawText(QRectF(0, swatchHeight + 8, width(), 18), leading | Qt::AlignVCenter, m_color.name);
     painter.setPen(textColor(TextRole::caption));
     painter.setFont(textFont(TextRole::caption));
-    painter.drawText(QRectF(0, swatchHeight + 28, width(), 30),
-                     int(leading | Qt::AlignTop) | Qt::TextWordWrap, m_color.comment);
+    painter.drawText(QRectF(0, swatchHeight + 28, width(), 30), leading | Qt::AlignTop | Qt::TextWordWrap,
+                     m_color.comment);
 }
 
 } // namespace gallery

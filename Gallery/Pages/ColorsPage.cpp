@@ -5,7 +5,6 @@
 #include "Gallery/Pages/ColorCard.h"
 #include "Gallery/Pages/ContrastTable.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 
 namespace gallery {
@@ -37,9 +36,12 @@ const QList<Family>& families() {
     return list;
 }
 
-bool isOf(const Family& family, const QString& name) {
-    return std::any_of(family.prefixes.begin(), family.prefixes.end(),
-                       [&](const QString& prefix) { return name.startsWith(prefix); });
+QStringList namesOf(const Family& family) {
+    QStringList names;
+    for (const KitAsset& color : kitColors())
+        if (color.nameBeginsWithOneOf(family.prefixes))
+            names << color.name;
+    return names;
 }
 
 QWidget* makeCards(const Family& family) {
@@ -50,18 +52,10 @@ QWidget* makeCards(const Family& family) {
     grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(12);
     for (const KitAsset& color : kitColors())
-        if (isOf(family, color.name))
+        if (color.nameBeginsWithOneOf(family.prefixes))
             grid->addWidget(new ColorCard(color), grid->count() / columns, grid->count() % columns);
     grid->setColumnStretch(columns, 1);
     return cards;
-}
-
-QStringList namesOf(const Family& family) {
-    QStringList names;
-    for (const KitAsset& color : kitColors())
-        if (isOf(family, color.name))
-            names << color.name;
-    return names;
 }
 
 QWidget* makePage(const GallerySettings&) {

@@ -36,8 +36,9 @@ QRectF mirrored(const QWidget& widget, QRectF place) {
     return place;
 }
 
-Qt::Alignment aligned(const QWidget& widget, Qt::Alignment alignment) {
-    return QStyle::visualAlignment(widget.layoutDirection(), alignment) | Qt::AlignVCenter;
+/// Text flags for a line in the middle of its row.
+int aligned(const QWidget& widget, Qt::Alignment alignment) {
+    return static_cast<int>(QStyle::visualAlignment(widget.layoutDirection(), alignment) | Qt::AlignVCenter);
 }
 
 /// The names of the columns.

@@ -47,11 +47,10 @@ QWidget* makeSpecimens(const QList<KitAsset>& images) {
 QList<KitAsset> takeFamily(const Family& family, QList<KitAsset>& images) {
     QList<KitAsset> taken;
     images.removeIf([&](const KitAsset& image) {
-        const bool isOf = std::any_of(family.prefixes.begin(), family.prefixes.end(),
-                                      [&](const QString& prefix) { return image.name.startsWith(prefix); });
-        if (isOf)
+        const bool isTaken = image.nameBeginsWithOneOf(family.prefixes);
+        if (isTaken)
             taken.append(image);
-        return isOf;
+        return isTaken;
     });
     return taken;
 }

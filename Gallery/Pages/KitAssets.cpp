@@ -33,6 +33,11 @@ QList<KitAsset> readAssets(const QString& kind) {
 
 } // namespace
 
+bool KitAsset::nameBeginsWithOneOf(const QStringList& prefixes) const {
+    return std::any_of(prefixes.begin(), prefixes.end(),
+                       [this](const QString& prefix) { return name.startsWith(prefix); });
+}
+
 const QList<KitAsset>& kitColors() {
     static const auto assets = readAssets(QStringLiteral("colors"));
     return assets;

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace gallery {
 
@@ -12,6 +13,8 @@ namespace gallery {
 struct KitAsset {
     QString name;
     QString comment;
+
+    bool nameBeginsWithOneOf(const QStringList& prefixes) const;
 };
 
 /// In the manifest's order.

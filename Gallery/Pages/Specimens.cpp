@@ -1,13 +1,9 @@
 #include "Gallery/Pages/Specimens.h"
 
 #include "Gallery/Pages/StyleClasses.h"
-#include "Platform/Controls/ButtonStyle.h"
 #include "Tidepool/TPColors.h"
 
 #include <QPainter>
-
-#include <algorithm>
-#include <utility>
 
 namespace gallery {
 
@@ -27,8 +23,8 @@ void Swatch::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
 }
 
-ImageSwatch::ImageSwatch(platform::Image image, QWidget* parent)
-    : QWidget(parent), m_image(std::move(image).tinted(TPColorsAK::grey85)) {
+ImageSwatch::ImageSwatch(const platform::Image& image, QWidget* parent)
+    : QWidget(parent), m_image(image.tinted(TPColorsAK::grey85)) {
     setFixedSize(m_image.size().toSize());
 }
 

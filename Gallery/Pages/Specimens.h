@@ -26,7 +26,7 @@ class ImageSwatch : public QWidget {
     Q_OBJECT
 
 public:
-    explicit ImageSwatch(platform::Image image, QWidget* parent = nullptr);
+    explicit ImageSwatch(const platform::Image& image, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -4,6 +4,7 @@
 #include "Gallery/Window/PageDelegate.h"
 #include "Gallery/Window/PageFilter.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
