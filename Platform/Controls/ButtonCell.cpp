@@ -72,8 +72,9 @@ bool ButtonCell::showsMnemonic() const {
 
 CellContent ButtonCell::content() const {
     const QSizeF title = this->title().isEmpty() ? QSizeF() : preparedTitle(titleFont()).size();
+    const bool isCentered = isFramed() || m_imagePosition == ImagePosition::imageOnly;
     return {imageSize(), title, m_imagePosition, layoutDirection(),
-            isFramed() ? Qt::AlignHCenter : Qt::AlignLeading};
+            isCentered ? Qt::AlignHCenter : Qt::AlignLeading};
 }
 
 QRectF ButtonCell::contentRect(const QRectF& bounds) const {
