@@ -84,12 +84,16 @@ QRectF ButtonCell::contentRect(const QRectF& bounds) const {
     return bounds.adjusted(margin, 0, -margin, 0);
 }
 
+CellFrames ButtonCell::arranged(const QRectF& bounds) const {
+    return arrange(content(), contentRect(bounds));
+}
+
 QRectF ButtonCell::titleRect(const QRectF& bounds) const {
-    return arrange(content(), contentRect(bounds)).title;
+    return arranged(bounds).title;
 }
 
 QRectF ButtonCell::imageRect(const QRectF& bounds) const {
-    return arrange(content(), contentRect(bounds)).image;
+    return arranged(bounds).image;
 }
 
 QSizeF ButtonCell::cellSize() const {
