@@ -112,7 +112,7 @@ void ButtonCell::draw(QPainter& painter, const QRectF& frame) const {
 
 void ButtonCell::drawInterior(QPainter& painter, const QRectF& frame) const {
     const QRectF interior = drawingRect(frame);
-    if (m_imagePosition != ImagePosition::noImage)
+    if (m_imagePosition != ImagePosition::noImage && !imageSize().isEmpty())
         drawImage(painter, imageRect(interior));
     if (m_imagePosition != ImagePosition::imageOnly && !title().isEmpty())
         drawTitle(painter, titleRect(interior));
