@@ -1,0 +1,98 @@
+#include "Platform/AudioUnits/AUParameterNode.h"
+
+#include <atomic>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+AUParameterObserverToken nextToken() {
+    static std::atomic<std::uint64_t> last = 0;
+    return {++last};
+}
+
+} // namespace
+
+AUParameterNode::AUParameterNode(QString identifier, QString displayName)
+    : m_identifier(std::move(identifier)), m_displayName(std::move(displayName)) {}
+
+void AUParameterNode::setParent(const std::weak_ptr<const AUParameterNode>& parent) {
+    m_links.edit([&parent](Links& links) { links.parent = parent; });
+}
+
+void AUParameterNode::setImplementorValueObserver(AUImplementorValueObserver observer) {
+    m_links.edit([&observer](Links& links) { links.observeValue = std::move(observer); });
+}
+
+void AUParameterNode::setImplementorStringFromValueCallback(AUImplementorStringFromValueCallback callback) {
+    m_links.edit([&callback](Links& links) { links.stringFromValue = std::move(callback); });
+}
+
+void AUParameterNode::setImplementorValueFromStringCallback(AUImplementorValueFromStringCallback callback) {
+    m_links.edit([&callback](Links& links) { links.valueFromString = std::move(callback); });
+}
+
+AUParameterObserverToken AUParameterNode::tokenByAddingParameterObserver(AUParameterObserver observer) {
+    return tokenByAddingParameterAutomationObserver(
+        [observer = std::move(observer)](const AUParameterAutomationEvent& event) {
+            observer(event.address, event.value);
+        });
+}
+
+AUParameterObserverToken
+AUParameterNode::tokenByAddingParameterAutomationObserver(AUParameterAutomationObserver observer) {
+    const AUParameterObserverToken token = nextToken();
+    m_links.edit([&](Links& links) { links.observers.push_back({token, std::move(observer)}); });
+    return token;
+}
+
+void AUParameterNode::removeParameterObserver(AUParameterObserverToken token) {
+    m_links.edit([token](Links& links) {
+        std::erase_if(links.observers, [token](const Observer& known) { return known.token == token; });
+    });
+}
+
+template <typename Callback, typename Use>
+bool AUParameterNode::withNearest(Callback Links::*callback, Use use) const {
+    return m_links.read([&](const Links& links) {
+        if (links.*callback) {
+            use(links.*callback);
+            return true;
+        }
+        const auto parent = links.parent.lock();
+        return parent && parent->withNearest(callback, use);
+    });
+}
+
+void AUParameterNode::tellImplementor(AUParameter& parameter, AUValue value) const {
+    withNearest(&Links::observeValue, [&](const auto& observe) { observe(parameter, value); });
+}
+
+void AUParameterNode::tellObservers(const AUParameterAutomationEvent& event,
+                                    AUParameterObserverToken originator) const {
+    m_links.read([&](const Links& links) {
+        for (const Observer& observer : links.observers)
+            if (observer.token != originator)
+                observer.tell(event);
+        if (const auto parent = links.parent.lock())
+            parent->tellObservers(event, originator);
+    });
+}
+
+std::optional<QString> AUParameterNode::implementorString(AUParameter& parameter,
+                                                          std::optional<AUValue> value) const {
+    std::optional<QString> text;
+    withNearest(&Links::stringFromValue,
+                [&](const auto& stringFromValue) { text = stringFromValue(parameter, value); });
+    return text;
+}
+
+std::optional<AUValue> AUParameterNode::implementorValue(AUParameter& parameter, const QString& text) const {
+    std::optional<AUValue> value;
+    withNearest(&Links::valueFromString,
+                [&](const auto& valueFromString) { value = valueFromString(parameter, text); });
+    return value;
+}
+
+} // namespace platform

@@ -1,0 +1,78 @@
+#include "Platform/AudioUnits/DisplayTarget.h"
+
+#include "Platform/AudioUnits/DisplayQueue.h"
+#include "Platform/Core/FatalError.h"
+
+#include <bit>
+
+namespace platform {
+
+DisplayTarget::DisplayTarget(DisplayQueue& queue) : m_queue(queue) {
+    m_queue.m_targets.fetch_add(1, std::memory_order_relaxed);
+}
+
+DisplayTarget::~DisplayTarget() {
+    m_queue.m_targets.fetch_sub(1, std::memory_order_relaxed);
+}
+
+void DisplayTarget::send(std::size_t source, float value) {
+    auto self = weak_from_this().lock();
+    if (!self)
+        fatalError("A parameter must be owned by a shared pointer");
+    const Number number = m_sent.fetch_add(2, std::memory_order_relaxed);
+    DisplayQueue::Update update{std::move(self), number, value, static_cast<std::uint32_t>(source)};
+    if (!m_queue.push(update))
+        keep(number, source, value);
+    m_queue.wake();
+}
+
+DisplayTarget::Word DisplayTarget::pack(Number number, float value) {
+    return number << 32 | std::bit_cast<std::uint32_t>(value);
+}
+
+// The latest number with the half that the word has.
+DisplayTarget::Number DisplayTarget::numberOf(Word word) const {
+    const Number latest = m_sent.load(std::memory_order_relaxed);
+    return latest - static_cast<std::uint32_t>(latest - (word >> 32));
+}
+
+float DisplayTarget::valueOf(Word word) {
+    return std::bit_cast<float>(static_cast<std::uint32_t>(word));
+}
+
+void DisplayTarget::keep(Number number, std::size_t source, float value) {
+    const Word word = pack(number, value);
+    Word kept = m_kept[source].load();
+    const auto isOlder = [&] {
+        return kept == 0 || static_cast<std::int32_t>((kept >> 32) - (word >> 32)) < 0;
+    };
+    while (isOlder() && !m_kept[source].compare_exchange_weak(kept, word)) {
+    }
+    if (!m_isListed.exchange(true))
+        m_queue.list(*this);
+}
+
+void DisplayTarget::showKept() {
+    // First: what is kept from here on lists this again.
+    m_isListed.exchange(false);
+    std::array<std::pair<Number, std::size_t>, sourceCount> order{};
+    std::array<Word, sourceCount> words{};
+    for (std::size_t source = 0; source < sourceCount; ++source) {
+        words[source] = m_kept[source].exchange(0);
+        order[source] = {words[source] == 0 ? 0 : numberOf(words[source]), source};
+    }
+    if (order[1] < order[0])
+        std::swap(order[0], order[1]);
+    for (const auto& [number, source] : order)
+        if (words[source] != 0)
+            showIfNewer(number, source, valueOf(words[source]));
+}
+
+void DisplayTarget::showIfNewer(Number number, std::size_t source, float value) {
+    if (number <= m_shown[source])
+        return;
+    m_shown[source] = number;
+    show(source, value);
+}
+
+} // namespace platform

@@ -1,0 +1,226 @@
+#include "Chorale/AudioParameter.h"
+
+#include "Chorale/SafeElement.h"
+#include "Platform/AudioUnits/DisplayQueue.h"
+#include "Platform/AudioUnits/HostTime.h"
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <thread>
+
+using chorale::AudioParameter;
+using chorale::ClosedRange;
+using chorale::ParameterEditor;
+using chorale::ParameterEditorState;
+using platform::AudioUnitParameterUnit;
+using platform::AUParameterAutomationEvent;
+using platform::AUParameterAutomationEventType;
+using testing::ElementsAre;
+
+namespace {
+
+constexpr auto ui = ParameterEditor::ui;
+constexpr auto host = ParameterEditor::parameterObserver;
+constexpr auto change = ParameterEditorState::change;
+constexpr auto begin = ParameterEditorState::beginInteractive;
+constexpr auto end = ParameterEditorState::endInteractive;
+constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
+
+std::shared_ptr<AudioParameter> parameter(AudioUnitParameterUnit units = AudioUnitParameterUnit::generic,
+                                          std::optional<QStringList> strings = {},
+                                          std::optional<QList<std::uint64_t>> dependents = {}) {
+    return std::make_shared<AudioParameter>(7, QStringLiteral("level"), QStringLiteral("Level"), units,
+                                            ClosedRange<float>(-10, 100), 5.F, std::move(strings),
+                                            std::move(dependents));
+}
+
+class AudioParameterTest : public testing::Test {
+protected:
+    AudioParameterTest() {
+        m_level->auParameter()->tokenByAddingParameterAutomationObserver(
+            [this](const auto& event) { m_events.push_back(event); });
+    }
+
+    std::vector<float> sent() const {
+        std::vector<float> values;
+        for (const auto& event : m_events)
+            values.push_back(event.value);
+        return values;
+    }
+
+    static void turn() { QCoreApplication::processEvents(); }
+
+    std::shared_ptr<AudioParameter> m_level = parameter();
+    QSignalSpy m_changes{m_level.get(), &AudioParameter::valueChanged};
+    std::vector<AUParameterAutomationEvent> m_events;
+};
+
+} // namespace
+
+TEST_F(AudioParameterTest, TellsTheHostAtOnceAndTheViewsOneTurnLater) {
+    const auto before = platform::audioGetCurrentHostTime();
+    m_level->setValue(6, ui, change);
+    ASSERT_EQ(m_events.size(), 1U);
+    EXPECT_EQ(m_events[0].value, 6);
+    EXPECT_EQ(m_events[0].address, 7U);
+    EXPECT_EQ(m_events[0].eventType, AUParameterAutomationEventType::value);
+    EXPECT_GE(m_events[0].hostTime, before);
+    EXPECT_LE(m_events[0].hostTime, platform::audioGetCurrentHostTime());
+    EXPECT_EQ(m_level->auParameter()->value(), 6);
+    EXPECT_EQ(m_level->value(), 5);
+    turn();
+    EXPECT_EQ(m_level->value(), 6);
+    EXPECT_EQ(m_changes.count(), 1);
+}
+
+TEST_F(AudioParameterTest, EqualChangeDoesNothingButGesturesAlwaysReachTheHost) {
+    m_level->setValue(5, ui, change);
+    EXPECT_TRUE(m_events.empty());
+    EXPECT_TRUE(platform::DisplayQueue::shared().isEmpty());
+    m_level->setValue(5, ui, begin);
+    m_level->setValue(5, ui, end);
+    ASSERT_EQ(m_events.size(), 2U);
+    EXPECT_EQ(m_events[0].eventType, AUParameterAutomationEventType::touch);
+    EXPECT_EQ(m_events[1].eventType, AUParameterAutomationEventType::release);
+    EXPECT_THAT(sent(), ElementsAre(5, 5));
+    turn();
+    EXPECT_EQ(m_changes.count(), 0) << "an equal value is nobody's news";
+}
+
+TEST_F(AudioParameterTest, ValuesAreClamped) {
+    m_level->setValue(1000, ui, change);
+    m_level->setValue(-1000, ui, change);
+    m_level->setValue(notANumber, ui, begin);
+    m_level->setValue(std::numeric_limits<float>::infinity(), ui, change);
+    EXPECT_THAT(sent(), ElementsAre(100, -10, -10, 100));
+    turn();
+    EXPECT_EQ(m_level->value(), 100);
+    EXPECT_DEATH(ClosedRange<float>(notANumber, 1), "^A range needs");
+    EXPECT_DEATH(ClosedRange<float>(0, notANumber), "^A range needs");
+    EXPECT_DEATH(ClosedRange<int>(1, 0), "^A range needs");
+}
+
+TEST_F(AudioParameterTest, PressAndReleaseInOneTurnBothReachTheHost) {
+    m_level->setValue(1, ui, change);
+    m_level->setValue(5, ui, change);
+    EXPECT_THAT(sent(), ElementsAre(1, 5)) << "the shown value is still the one to come back to";
+    turn();
+    EXPECT_EQ(m_level->value(), 5);
+}
+
+TEST_F(AudioParameterTest, HostsChangesAreShownAndNotEchoed) {
+    std::thread([this] { m_level->setValue(8, host, change); }).join();
+    turn();
+    EXPECT_EQ(m_level->value(), 8);
+    EXPECT_EQ(m_level->shownValue(), 8);
+    EXPECT_TRUE(m_events.empty());
+    EXPECT_EQ(m_level->auParameter()->value(), 5);
+}
+
+TEST_F(AudioParameterTest, UsersGestureWinsOverTheHost) {
+    m_level->setIsBeingInteractivelyEdited(true);
+    m_level->setValue(8, host, change);
+    turn();
+    EXPECT_EQ(m_level->value(), 5);
+    m_level->setValue(9, ui, change);
+    turn();
+    EXPECT_EQ(m_level->value(), 9);
+    m_level->setValue(8, host, change);
+    m_level->setIsBeingInteractivelyEdited(false);
+    turn();
+    EXPECT_EQ(m_level->value(), 8) << "what counts is whether the gesture lasts when it is shown";
+}
+
+TEST_F(AudioParameterTest, PropertiesNotifyOnlyWhenTheyChange) {
+    QSignalSpy editing(m_level.get(), &AudioParameter::isBeingInteractivelyEditedChanged);
+    m_level->setIsBeingInteractivelyEdited(false);
+    EXPECT_EQ(editing.count(), 0);
+    EXPECT_TRUE(m_level->setProperty("isBeingInteractivelyEdited", true));
+    EXPECT_EQ(editing.count(), 1);
+
+    QProperty<float> percent;
+    percent.setBinding([this] { return m_level->percent(); });
+    m_level->setProperty("value", 45.F);
+    EXPECT_FLOAT_EQ(percent, 0.5F) << "what is computed from the value follows it";
+    m_level->setValue(45.F);
+    EXPECT_EQ(m_changes.count(), 1);
+    EXPECT_TRUE(m_events.empty());
+    EXPECT_TRUE(m_level->bindableValue().isReadOnly());
+}
+
+TEST_F(AudioParameterTest, ModelMayGoAwayWhileItsValueIsOnTheWay) {
+    m_level->auParameter()->setValue(0);
+    m_level->setValue(6, ui, change);
+    const std::weak_ptr<AudioParameter> watched = m_level;
+    m_level.reset();
+    EXPECT_FALSE(watched.expired());
+    turn();
+    EXPECT_TRUE(watched.expired());
+    EXPECT_EQ(m_changes.count(), 1);
+}
+
+TEST(AudioParameterFlags, FollowFromWhatTheParameterHas) {
+    const QStringList names{QStringLiteral("a"), QStringLiteral("b")};
+    const auto flags = [](const std::shared_ptr<AudioParameter>& made) {
+        return made->auParameter()->flags();
+    };
+    EXPECT_EQ(flags(parameter(AudioUnitParameterUnit::decibels, names, QList<std::uint64_t>{3})),
+              0xD230'0000);
+    EXPECT_EQ(flags(parameter()), 0xC000'0000);
+    EXPECT_EQ(flags(parameter(AudioUnitParameterUnit::generic, QStringList(), QList<std::uint64_t>())),
+              0xC000'0000);
+    for (std::uint32_t unit = 0; unit <= 64; ++unit) {
+        const bool canRamp = unit == 13 || unit == 14 || unit == 20;
+        EXPECT_EQ(flags(parameter(static_cast<AudioUnitParameterUnit>(unit))),
+                  canRamp ? 0xC200'0000 : 0xC000'0000)
+            << unit;
+    }
+}
+
+TEST(AudioParameterHostParameter, HasWhatTheModelHas) {
+    const auto plain = parameter(AudioUnitParameterUnit::seconds)->auParameter();
+    EXPECT_EQ(plain->identifier(), QStringLiteral("level"));
+    EXPECT_EQ(plain->displayName(), QStringLiteral("Level"));
+    EXPECT_EQ(plain->minValue(), -10);
+    EXPECT_EQ(plain->maxValue(), 100);
+    EXPECT_EQ(plain->value(), 5);
+    EXPECT_EQ(plain->unitName(), QString()) << "seconds have no suffix, which is an empty name";
+    EXPECT_FALSE(plain->valueStrings());
+    EXPECT_FALSE(plain->dependentParameters());
+    const auto empty = parameter(AudioUnitParameterUnit::milliseconds, QStringList(), QList<std::uint64_t>());
+    EXPECT_EQ(empty->auParameter()->unitName(), QStringLiteral("MS"));
+    EXPECT_TRUE(empty->auParameter()->valueStrings());
+    EXPECT_TRUE(empty->auParameter()->dependentParameters()) << "an empty list stays one";
+}
+
+TEST(AudioParameterUnits, HaveTheirSuffixesAndScales) {
+    EXPECT_EQ(parameter(AudioUnitParameterUnit::percent)->displayableSuffix(), QStringLiteral("%"));
+    EXPECT_EQ(parameter(AudioUnitParameterUnit::hertz)->displayableSuffix(), QStringLiteral("Hz"));
+    EXPECT_EQ(parameter(AudioUnitParameterUnit::decibels)->displayableSuffix(), QStringLiteral("dB"));
+    AudioParameter pitch(1, {}, {}, AudioUnitParameterUnit::absoluteCents, {0, 12'700}, 6900);
+    EXPECT_EQ(pitch.displayableValue(), 69);
+    EXPECT_EQ(69 * pitch.saveScaleFactor(), 6900);
+    EXPECT_EQ(pitch.displayScaleFactor(), 0.01F);
+}
+
+TEST(AudioParameterDummy, IsInert) {
+    const auto dummy = AudioParameter::dummyParam();
+    EXPECT_TRUE(std::isnan(dummy->percent()));
+    EXPECT_EQ(dummy->auParameter()->flags(), 0xC000'0000);
+    EXPECT_EQ(dummy->auParameter()->unit(), AudioUnitParameterUnit::customUnit);
+    dummy->setValue(1, ui, change);
+    EXPECT_TRUE(platform::DisplayQueue::shared().isEmpty());
+}
+
+TEST(SafeElement, IsAbsentOutside) {
+    const std::vector<int> numbers{4, 5};
+    EXPECT_EQ(*chorale::safeElement(numbers, 1), 5);
+    EXPECT_EQ(chorale::safeElement(numbers, 2), nullptr);
+    EXPECT_EQ(chorale::safeElement(numbers, -1), nullptr);
+}

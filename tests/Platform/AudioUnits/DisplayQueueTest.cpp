@@ -1,0 +1,336 @@
+#include "Platform/AudioUnits/DisplayQueue.h"
+#include "Platform/AudioUnits/DisplayPump.h"
+#include "Platform/AudioUnits/DisplayTarget.h"
+#include "Platform/AudioUnits/RealtimeScope.h"
+#include "Platform/Core/MainThreadShared.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QWidget>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <poll.h>
+#include <sys/eventfd.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <functional>
+#include <optional>
+#include <thread>
+#include <utility>
+#include <vector>
+
+using platform::DisplayPump;
+using platform::DisplayQueue;
+using platform::DisplayTarget;
+using platform::ParameterVisibility;
+using platform::RealtimeScope;
+using testing::ElementsAre;
+using testing::Pair;
+
+namespace {
+
+class Target : public DisplayTarget {
+public:
+    using DisplayTarget::send;
+
+    explicit Target(DisplayQueue& queue) : DisplayTarget(queue) {}
+
+    void show(std::size_t source, float value) override {
+        shown.emplace_back(source, value);
+        if (whenShown)
+            whenShown();
+    }
+
+    std::vector<std::pair<std::size_t, float>> shown;
+    std::function<void()> whenShown;
+};
+
+bool isSignalled(const DisplayQueue& queue) {
+    pollfd state{.fd = queue.wakeUp().descriptor(), .events = POLLIN, .revents = 0};
+    return poll(&state, 1, 0) == 1;
+}
+
+void onAudioThread(const std::function<void()>& work) {
+    std::thread([&work] {
+        const RealtimeScope scope;
+        work();
+    }).join();
+}
+
+class DisplayQueueTest : public testing::Test {
+protected:
+    std::shared_ptr<Target> target() { return std::make_shared<Target>(m_queue); }
+
+    DisplayQueue m_queue{4};
+};
+
+} // namespace
+
+TEST_F(DisplayQueueTest, ShowsInOrderWhatWasSentBeforeTheTurn) {
+    const auto a = target();
+    const auto b = target();
+    std::string order;
+    a->whenShown = [&] {
+        order += 'a';
+        b->send(0, 9);
+    };
+    b->whenShown = [&] { order += 'b'; };
+    b->send(0, 1);
+    a->send(1, 2);
+    m_queue.drain();
+    EXPECT_EQ(order, "ba") << "what is sent during a turn waits for the next";
+    m_queue.drain();
+    EXPECT_EQ(order, "bab");
+    EXPECT_THAT(a->shown, ElementsAre(Pair(1, 2)));
+    EXPECT_TRUE(m_queue.isEmpty());
+}
+
+TEST_F(DisplayQueueTest, FullQueueKeepsTheLastValueOfEachSourceBehindTheRest) {
+    const auto early = target();
+    const auto late = target();
+    for (int i = 0; i < 4; ++i)
+        early->send(0, float(i));
+    late->send(1, 10);
+    late->send(0, 11);
+    late->send(1, 12);
+    early->send(0, 13);
+    std::vector<float> order;
+    early->whenShown = [&] { order.push_back(early->shown.back().second); };
+    late->whenShown = [&] { order.push_back(late->shown.back().second); };
+    m_queue.drain();
+    EXPECT_THAT(order, ElementsAre(0, 1, 2, 3, 11, 12, 13));
+    EXPECT_THAT(late->shown, ElementsAre(Pair(0, 11), Pair(1, 12)));
+}
+
+TEST_F(DisplayQueueTest, KeptValueNeverFollowsANewerOne) {
+    const auto filler = target();
+    const auto level = target();
+    filler->whenShown = [&, first = true]() mutable {
+        if (std::exchange(first, false)) // There is room again, before what was kept is shown.
+            level->send(0, 2);
+    };
+    for (int i = 0; i < 4; ++i)
+        filler->send(0, float(i));
+    level->send(0, 1);
+    m_queue.drain();
+    m_queue.drain();
+    EXPECT_EQ(level->shown.back().second, 2);
+
+    // And the other way round: the newer one is kept, the older one is still in the queue.
+    level->shown.clear();
+    filler->whenShown = [&, first = true]() mutable {
+        if (!std::exchange(first, false))
+            return;
+        level->send(0, 3);
+        level->send(0, 4);
+    };
+    for (int i = 0; i < 4; ++i)
+        filler->send(0, float(i));
+    m_queue.drain();
+    m_queue.drain();
+    EXPECT_EQ(level->shown.back().second, 4);
+}
+
+TEST_F(DisplayQueueTest, OrdinaryThreadsWakeOncePerTurnAndAudioThreadsNever) {
+    const auto level = target();
+    onAudioThread([&] {
+        const RealtimeScope nested;
+        level->send(0, 1);
+    });
+    EXPECT_FALSE(isSignalled(m_queue));
+    EXPECT_FALSE(m_queue.isEmpty());
+    EXPECT_FALSE(RealtimeScope::isActive());
+
+    level->send(0, 2);
+    EXPECT_TRUE(isSignalled(m_queue));
+    eventfd_t signals = 0;
+    level->send(0, 3);
+    eventfd_read(m_queue.wakeUp().descriptor(), &signals);
+    EXPECT_EQ(signals, 1U);
+    m_queue.drain();
+    EXPECT_FALSE(isSignalled(m_queue));
+    level->send(0, 4);
+    EXPECT_TRUE(isSignalled(m_queue)) << "a new turn, a new signal";
+}
+
+TEST_F(DisplayQueueTest, TargetLivesUntilItsValuesHaveBeenShown) {
+    auto level = target();
+    const std::weak_ptr<Target> watched = level;
+    for (int i = 0; i < 6; ++i)
+        level->send(0, float(i)); // The last two are kept outside the queue.
+    level.reset();
+    ASSERT_FALSE(watched.expired());
+    EXPECT_EQ(m_queue.targets(), 1);
+    m_queue.drain();
+    EXPECT_TRUE(watched.expired());
+    EXPECT_EQ(m_queue.targets(), 0);
+}
+
+TEST_F(DisplayQueueTest, QueueThatGoesAwayLetsGoOfItsTargets) {
+    std::weak_ptr<Target> watched;
+    {
+        DisplayQueue queue(2);
+        const auto level = std::make_shared<Target>(queue);
+        watched = level;
+        for (int i = 0; i < 4; ++i)
+            level->send(0, 1);
+    }
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST_F(DisplayQueueTest, TargetWithoutAnOwnerIsAnError) {
+    Target level(m_queue);
+    EXPECT_DEATH(level.send(0, 1), "^A parameter must be owned by a shared pointer\n$");
+}
+
+// Several threads against a queue that is far too small: the last value of every source of every thread must
+// arrive, in the order of its thread, however the turns fall.
+TEST_F(DisplayQueueTest, LastValuesSurviveAFlood) {
+    constexpr int threads = 4;
+    constexpr int changes = 20'000;
+    std::vector<std::shared_ptr<Target>> targets;
+    for (int i = 0; i < threads; ++i)
+        targets.push_back(target());
+    std::atomic<int> running = threads;
+    std::vector<std::thread> producers;
+    for (const auto& level : targets)
+        producers.emplace_back([&running, level, isAudio = level == targets[0]] {
+            std::optional<RealtimeScope> scope;
+            if (isAudio)
+                scope.emplace();
+            for (int i = 1; i <= changes; ++i)
+                level->send(std::size_t(i) % 2, float(i));
+            --running;
+        });
+    while (running > 0)
+        m_queue.drain();
+    for (auto& producer : producers)
+        producer.join();
+    m_queue.drain();
+    for (const auto& level : targets) {
+        std::array<float, 2> last{};
+        for (const auto& [source, value] : level->shown) {
+            EXPECT_GT(value, last[source]);
+            last[source] = value;
+        }
+        EXPECT_THAT(last, ElementsAre(changes, changes - 1));
+    }
+    EXPECT_TRUE(m_queue.isEmpty());
+}
+
+// One target that several threads change: nobody waits for anybody, and nothing is shown twice.
+TEST_F(DisplayQueueTest, ThreadsMayShareATarget) {
+    constexpr int changes = 20'000;
+    const auto level = target();
+    std::atomic<int> running = 3;
+    std::vector<std::thread> producers;
+    for (int i = 0; i < 3; ++i)
+        producers.emplace_back([&, i] {
+            for (int change = 0; change < changes; ++change)
+                level->send(0, float(3 * change + i));
+            --running;
+        });
+    while (running > 0)
+        m_queue.drain();
+    for (auto& producer : producers)
+        producer.join();
+    m_queue.drain();
+    std::vector<float> values;
+    for (const auto& [source, value] : level->shown)
+        values.push_back(value);
+    std::sort(values.begin(), values.end());
+    EXPECT_EQ(std::adjacent_find(values.begin(), values.end()), values.end());
+    EXPECT_GE(level->shown.back().second, 3.F * (changes - 1)) << "somebody's last value is the last one";
+}
+
+TEST_F(DisplayQueueTest, PumpShowsWhatOrdinaryThreadsSendAtOnce) {
+    DisplayPump pump(m_queue);
+    const auto level = target();
+    pump.start();
+    std::thread([&] { level->send(0, 1); }).join();
+    QCoreApplication::processEvents();
+    EXPECT_THAT(level->shown, ElementsAre(Pair(0, 1)));
+}
+
+TEST_F(DisplayQueueTest, PumpFindsWhatAnAudioThreadSendsWithinAQuarterOfASecond) {
+    DisplayPump pump(m_queue);
+    const auto level = target();
+    pump.start();
+    QTest::qWait(1); // Not because the loop is about to sleep.
+    std::thread audio([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+        const RealtimeScope scope;
+        level->send(0, 1);
+    });
+    QElapsedTimer sleep;
+    sleep.start();
+    int turns = 0;
+    while (level->shown.empty() && sleep.elapsed() < 2'000) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        ++turns;
+    }
+    audio.join();
+    EXPECT_LE(sleep.elapsed(), 500) << "250 ms, and what a busy machine adds";
+    EXPECT_GE(sleep.elapsed(), 30);
+    EXPECT_LE(turns, 3) << "nothing may tick while nothing is on screen";
+}
+
+TEST_F(DisplayQueueTest, PumpLooksBeforeTheLoopSleeps) {
+    DisplayPump pump(m_queue);
+    const auto level = target();
+    pump.start();
+    onAudioThread([&] { level->send(0, 1); });
+    QMetaObject::invokeMethod(
+        &pump, [] {}, Qt::QueuedConnection);
+    QElapsedTimer time;
+    time.start();
+    while (level->shown.empty())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_LT(time.elapsed(), 150) << "it must not have waited for the timer";
+}
+
+TEST_F(DisplayQueueTest, PumpWithoutTargetsSleeps) {
+    DisplayPump pump(m_queue);
+    auto level = target();
+    pump.start();
+    EXPECT_TRUE(pump.isRunning());
+    level.reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !pump.isRunning(); }, 2'000));
+}
+
+TEST(ParameterVisibilityTest, TicksOnlyWhileTheViewIsOnScreen) {
+    auto& pump = DisplayPump::shared();
+    const auto level = std::make_shared<Target>(DisplayQueue::shared());
+    pump.start();
+    QWidget window;
+    QWidget view(&window);
+    auto* visibility = new ParameterVisibility(view);
+    EXPECT_GE(pump.interval().count(), 100);
+    window.show();
+    EXPECT_EQ(pump.interval().count(), 16);
+    view.hide();
+    EXPECT_GE(pump.interval().count(), 100);
+    view.show();
+    EXPECT_EQ(pump.interval().count(), 16);
+    delete visibility;
+    EXPECT_GE(pump.interval().count(), 100) << "nothing keeps the tick alive";
+}
+
+TEST(MainThreadShared, DiesOnTheMainThread) {
+    struct Mortal {
+        ~Mortal() { isOnMainThread = platform::isMainThread(); }
+
+        std::optional<bool>& isOnMainThread;
+    };
+
+    std::optional<bool> isOnMainThread;
+    auto object = platform::makeMainThreadShared<Mortal>(isOnMainThread);
+    std::thread([held = std::move(object)]() mutable { held.reset(); }).join();
+    EXPECT_FALSE(isOnMainThread);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(isOnMainThread, true);
+}
