@@ -64,7 +64,6 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
     palette.setColor(QPalette::HighlightedText, m_valueColor);
     m_field->setPalette(palette);
     m_field->hide();
-    connect(m_field, &QLineEdit::returnPressed, this, &DialLabel::submit);
     connect(m_param.get(), &AudioParameter::valueChanged, this, [this] {
         updateValueString();
         updateGeometry();
@@ -246,12 +245,18 @@ bool DialLabel::eventFilter(QObject* watched, QEvent* event) {
         if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
             stopEditing();
     }
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-    if (!isKey || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
+        return handleKey(*static_cast<QKeyEvent*>(event));
+    return false;
+}
+
+bool DialLabel::handleKey(QKeyEvent& event) {
+    const bool submits = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (!submits && event.key() != Qt::Key_Escape)
         return false;
-    event->accept();
-    if (event->type() == QEvent::KeyPress)
-        leave();
+    event.accept();
+    if (event.type() == QEvent::KeyPress)
+        submits ? submit() : leave();
     return true;
 }
 

@@ -57,6 +57,8 @@ private:
     void paintValue(QPainter& painter) const;
     void paintField(QPainter& painter) const;
 
+    /// Of the field. True for a key that ends the typing.
+    bool handleKey(QKeyEvent& event);
     void updateValueString();
     void startEditing();
     void submit();

@@ -107,7 +107,7 @@ void ParameterDial::beginDrag(const QMouseEvent& press) {
     m_gesture = std::make_unique<ParameterGesture>(m_param);
     m_tracking =
         std::make_unique<platform::PointerTracking>(*this, [this](platform::PointerTracking::End end) {
-            if (end == platform::PointerTracking::End::cancelled)
+            if (end == platform::PointerTracking::End::escaped)
                 m_gesture->cancel();
             m_gesture.reset();
             update();
