@@ -200,6 +200,7 @@ void DialLabel::startEditing() {
     if (m_isEditing)
         return;
     m_isEditing = true;
+    m_hadFocus = hasFocus();
     m_field->show();
     m_field->setFocus(Qt::OtherFocusReason);
     m_field->selectAll();
@@ -224,6 +225,10 @@ void DialLabel::stopEditing() {
     if (!std::exchange(m_isEditing, false))
         return;
     qApp->removeEventFilter(this);
+    // A hidden field would hand the keyboard to whichever control comes next.
+    if (m_field->hasFocus() && m_hadFocus)
+        setFocus(Qt::OtherFocusReason);
+    m_field->clearFocus();
     m_field->hide();
     update();
 }

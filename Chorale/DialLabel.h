@@ -77,6 +77,7 @@ private:
     const std::function<void()> m_onEditingEnded;
     QLineEdit* m_field;
     bool m_isEditing = false;
+    bool m_hadFocus = false; // before the field took it
 };
 
 } // namespace chorale

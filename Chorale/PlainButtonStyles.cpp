@@ -34,7 +34,7 @@ void TabButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguratio
 
 void LogoButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     prepare(painter, configuration);
-    m_image.image().draw(painter, configuration.frame);
+    m_image.image().tinted(EditorAssets::tabSelected).draw(painter, configuration.frame);
 }
 
 } // namespace chorale

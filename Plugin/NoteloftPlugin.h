@@ -15,6 +15,9 @@ class NoteloftPlugin {
 public:
     static constexpr const char* uri = "http://quillfen.example/plugins/noteloft";
 
+    // The numbers are those of noteloft.ttl.
+    enum Port { midiIn, midiOut, transpose, velocity, chance, hold, enabled, portCount };
+
     explicit NoteloftPlugin(const LV2_URID_Map& map);
 
     void connect(std::uint32_t port, void* data);
@@ -24,9 +27,6 @@ public:
     void run(std::uint32_t frameCount);
 
 private:
-    // The numbers are those of noteloft.ttl.
-    enum Port { midiIn, midiOut, transpose, velocity, chance, hold, enabled, portCount };
-
     float control(Port port) const { return *static_cast<const float*>(m_ports[port]); }
 
     NoteSettings settings() const;

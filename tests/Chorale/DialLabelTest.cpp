@@ -139,6 +139,18 @@ TEST_F(DialLabelTest, KeysOpenTheFieldAndOthersReachTheHost) {
     EXPECT_TRUE(field()->hasFocus());
 }
 
+TEST_F(DialLabelTest, TheKeyboardGoesBackToWhereItWas) {
+    HostWatch host;
+    show(host, 0);
+    m_window.setFocus();
+    m_other.clearFocus();
+    type("42");
+    EXPECT_EQ(QApplication::focusWidget(), nullptr) << "to no other control";
+    m_label->setFocus();
+    type("43");
+    EXPECT_TRUE(m_label->hasFocus());
+}
+
 TEST_F(DialLabelTest, LooksAndSizeFollowTheParts) {
     HostWatch host(AudioUnitParameterUnit::decibels);
     const DialLabel& label = show(host, 1);

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Chorale/ParameterSettings.h"
+#include "Plugin/Editor/HostConnection.h"
+
+#include <QObject>
+
+#include <map>
+#include <memory>
+
+namespace noteloft::plugin {
+
+/// The models of the plug-in's control ports, tied to the host: what the user changes is written to it, what
+/// it changes is shown. An address is the index of its port. Main thread.
+class EditorParameters {
+public:
+    explicit EditorParameters(HostConnection& host);
+    ~EditorParameters();
+    EditorParameters(const EditorParameters&) = delete;
+    EditorParameters& operator=(const EditorParameters&) = delete;
+
+    const std::shared_ptr<chorale::AudioParameter>& transpose() const { return m_transpose; }
+
+    const std::shared_ptr<chorale::AudioParameter>& velocity() const { return m_velocity; }
+
+    const std::shared_ptr<chorale::AudioParameter>& chance() const { return m_chance; }
+
+    const std::shared_ptr<chorale::AudioParameter>& hold() const { return m_hold; }
+
+    /// The host's value of a port; ports that the editor does not show are ignored. While the user holds the
+    /// port it waits until the hand has gone.
+    void receive(std::uint32_t port, float value);
+
+private:
+    void send(const platform::AUParameterAutomationEvent& event);
+    void show(std::uint32_t port, float value);
+
+    HostConnection& m_host;
+    const std::shared_ptr<chorale::AudioParameter> m_transpose;
+    const std::shared_ptr<chorale::AudioParameter> m_velocity;
+    const std::shared_ptr<chorale::AudioParameter> m_chance;
+    const std::shared_ptr<chorale::AudioParameter> m_hold;
+    const std::shared_ptr<chorale::ChoraleAudioUnit> m_audioUnit;
+    const std::shared_ptr<chorale::ParameterSettings> m_settings;
+    platform::AUParameterObserverToken m_token{};
+    QObject m_later;                          // what is called later is dropped with it
+    std::map<std::uint32_t, float> m_waiting; // the host's last values of the ports that the user holds
+};
+
+} // namespace noteloft::plugin

@@ -1,0 +1,72 @@
+#include "Plugin/Editor/QtSession.h"
+
+#include <QApplication>
+#include <QEventLoop>
+
+#include <clocale>
+#include <string>
+
+namespace noteloft::plugin {
+
+namespace {
+
+bool& ownsApplication() {
+    static bool owns = false;
+    return owns;
+}
+
+/// Sets a variable of the environment while it lives.
+class EnvironmentVariable {
+public:
+    EnvironmentVariable(const char* name, const char* value)
+        : m_name(name), m_wasSet(qEnvironmentVariableIsSet(name)), m_before(qgetenv(name)) {
+        qputenv(name, value);
+    }
+
+    ~EnvironmentVariable() {
+        if (m_wasSet)
+            qputenv(m_name, m_before);
+        else
+            qunsetenv(m_name);
+    }
+
+    EnvironmentVariable(const EnvironmentVariable&) = delete;
+    EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
+
+private:
+    const char* const m_name;
+    const bool m_wasSet;
+    const QByteArray m_before;
+};
+
+} // namespace
+
+void QtSession::begin() {
+    if (QCoreApplication::instance() != nullptr)
+        return;
+    const std::string locale = std::setlocale(LC_ALL, nullptr);
+    // The host may run GLib's loop, which must not find Qt in it.
+    const EnvironmentVariable noGlib("QT_NO_GLIB", "1");
+    static int count = 3;
+    static char name[] = "noteloft";
+    static char option[] = "-platform";
+    static char platform[] = "xcb";
+    static char* arguments[] = {name, option, platform, nullptr};
+    new QApplication(count, arguments);
+    QApplication::setQuitOnLastWindowClosed(false);
+    std::setlocale(LC_ALL, locale.c_str());
+    ownsApplication() = true;
+}
+
+void QtSession::pump() {
+    static bool isPumping = false;
+    constexpr int limit = 10;
+    if (!ownsApplication() || isPumping)
+        return;
+    isPumping = true;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, limit);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    isPumping = false;
+}
+
+} // namespace noteloft::plugin

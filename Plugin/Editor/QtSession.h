@@ -1,0 +1,18 @@
+#pragma once
+
+namespace noteloft::plugin {
+
+/// Qt inside of a process that is somebody else's. Main thread of the host.
+namespace QtSession {
+
+/// Makes the application object if the host has none. It is never destroyed, since Qt cannot be started
+/// twice. The host's locale and environment are afterwards what they were.
+void begin();
+
+/// Lets Qt do what is due, for a few milliseconds at most; nothing if the host runs Qt's loop itself, or from
+/// within Qt.
+void pump();
+
+} // namespace QtSession
+
+} // namespace noteloft::plugin

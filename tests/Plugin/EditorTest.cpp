@@ -1,0 +1,251 @@
+// The editor in a host that knows nothing of Qt: a plain X11 window, a pointer and an idle loop.
+#include <lv2/ui/ui.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <xcb/xcb.h>
+#include <xcb/xtest.h>
+
+#include <dlfcn.h>
+
+#include <chrono>
+#include <clocale>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr std::uint32_t transposePort = 2;
+constexpr std::uint32_t holdPort = 5;
+
+const LV2UI_Descriptor& descriptor() {
+    static void* const library = dlopen(NOTELOFT_EDITOR, RTLD_NOW | RTLD_LOCAL);
+    static const auto find =
+        library == nullptr ? nullptr
+                           : reinterpret_cast<LV2UI_DescriptorFunction>(dlsym(library, "lv2ui_descriptor"));
+    if (find == nullptr) {
+        ADD_FAILURE() << dlerror();
+        std::abort();
+    }
+    return *find(0);
+}
+
+/// The X server as a host and a person use it.
+class Screen {
+public:
+    Screen() : m_connection(xcb_connect(nullptr, nullptr)) {
+        m_screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+    }
+
+    ~Screen() { xcb_disconnect(m_connection); }
+
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    /// Not managed by a window manager, so that it lies where it is put.
+    std::uint32_t makeWindow(std::int16_t x, std::int16_t y) {
+        const std::uint32_t window = xcb_generate_id(m_connection);
+        const std::uint32_t values[] = {1};
+        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, m_screen->root, x, y, 520, 300, 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, m_screen->root_visual, XCB_CW_OVERRIDE_REDIRECT,
+                          values);
+        xcb_map_window(m_connection, window);
+        flush();
+        return window;
+    }
+
+    void destroyWindow(std::uint32_t window) {
+        xcb_destroy_window(m_connection, window);
+        flush();
+    }
+
+    void movePointer(std::int16_t x, std::int16_t y) { send(XCB_MOTION_NOTIFY, 0, x, y); }
+
+    void press() { send(XCB_BUTTON_PRESS, 1); }
+
+    void release() { send(XCB_BUTTON_RELEASE, 1); }
+
+private:
+    void send(std::uint8_t type, std::uint8_t detail, std::int16_t x = 0, std::int16_t y = 0) {
+        xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, m_screen->root, x, y, 0);
+        flush();
+    }
+
+    /// Returns when the server has done it.
+    void flush() {
+        free(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    }
+
+    xcb_connection_t* m_connection;
+    const xcb_screen_t* m_screen = nullptr;
+};
+
+/// A host with one editor.
+class Host {
+public:
+    explicit Host(Screen& screen, std::int16_t x = 0) : m_screen(screen), m_window(screen.makeWindow(x, 0)) {
+        LV2UI_Widget widget = nullptr;
+        m_editor = descriptor().instantiate(&descriptor(), "http://quillfen.example/plugins/noteloft",
+                                            NOTELOFT_EDITOR_FOLDER, write, this, &widget, m_features);
+        EXPECT_NE(m_editor, nullptr);
+        EXPECT_NE(widget, nullptr);
+    }
+
+    ~Host() { close(false); }
+
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    void close(bool destroysWindowFirst) {
+        if (m_editor == nullptr)
+            return;
+        if (destroysWindowFirst) {
+            m_screen.destroyWindow(m_window);
+            idle(2);
+        }
+        descriptor().cleanup(std::exchange(m_editor, nullptr));
+        if (!destroysWindowFirst)
+            m_screen.destroyWindow(m_window);
+    }
+
+    void idle(int times = 10) {
+        const auto* const interface =
+            static_cast<const LV2UI_Idle_Interface*>(descriptor().extension_data(LV2_UI__idleInterface));
+        for (int i = 0; i < times && m_editor != nullptr; ++i) {
+            interface->idle(m_editor);
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
+    }
+
+    void send(std::uint32_t port, float value) {
+        descriptor().port_event(m_editor, port, sizeof value, 0, &value);
+        idle();
+    }
+
+    std::vector<std::string> take() { return std::exchange(m_heard, {}); }
+
+private:
+    static void write(LV2UI_Controller host, std::uint32_t port, std::uint32_t size, std::uint32_t format,
+                      const void* buffer) {
+        EXPECT_EQ(size, sizeof(float));
+        EXPECT_EQ(format, 0U);
+        const float value = *static_cast<const float*>(buffer);
+        static_cast<Host*>(host)->m_heard.push_back(std::to_string(port) + "=" +
+                                                    std::to_string(static_cast<int>(value)));
+    }
+
+    static void touch(LV2UI_Feature_Handle host, std::uint32_t port, bool isTouched) {
+        static_cast<Host*>(host)->m_heard.push_back((isTouched ? "touch " : "release ") +
+                                                    std::to_string(port));
+    }
+
+    Screen& m_screen;
+    const std::uint32_t m_window;
+    LV2UI_Touch m_touch{this, touch};
+    LV2_Feature m_parentFeature{LV2_UI__parent, reinterpret_cast<void*>(std::uintptr_t{m_window})};
+    LV2_Feature m_touchFeature{LV2_UI__touch, &m_touch};
+    const LV2_Feature* const m_features[3] = {&m_parentFeature, &m_touchFeature, nullptr};
+    LV2UI_Handle m_editor = nullptr;
+    std::vector<std::string> m_heard;
+};
+
+class EditorTest : public testing::Test {
+protected:
+    // The first dial's middle, and the hold button's.
+    static constexpr std::int16_t dialX = 89;
+    static constexpr std::int16_t dialY = 110;
+    static constexpr std::int16_t holdX = 430;
+    static constexpr std::int16_t holdY = 137;
+
+    void drag(Host& host, int upwards, const std::function<void()>& meanwhile = {}) {
+        m_screen.movePointer(dialX, dialY);
+        m_screen.press();
+        host.idle();
+        m_screen.movePointer(dialX, static_cast<std::int16_t>(dialY - upwards));
+        host.idle();
+        if (meanwhile)
+            meanwhile();
+        m_screen.release();
+        host.idle();
+    }
+
+    Screen m_screen;
+};
+
+} // namespace
+
+TEST_F(EditorTest, AppearsWithoutAWordToTheHostAndLeavesItsLocaleAlone) {
+    std::setlocale(LC_ALL, "C");
+    Host host(m_screen);
+    host.idle(20);
+    EXPECT_THAT(host.take(), IsEmpty());
+    EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "C");
+    EXPECT_EQ(std::getenv("QT_NO_GLIB"), nullptr);
+    EXPECT_EQ(descriptor().instantiate(&descriptor(), "", NOTELOFT_EDITOR_FOLDER, nullptr, nullptr, nullptr,
+                                       nullptr),
+              nullptr)
+        << "a host without a window for it";
+}
+
+TEST_F(EditorTest, ADragIsATouchValuesAndARelease) {
+    Host host(m_screen);
+    host.idle(20);
+    drag(host, 50);
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
+}
+
+TEST_F(EditorTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
+    Host host(m_screen);
+    host.idle(20);
+    host.send(transposePort, 6);
+    EXPECT_THAT(host.take(), IsEmpty());
+    drag(host, 25, [&] { host.send(transposePort, -10); });
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=6", "2=12", "2=12", "release 2"));
+    drag(host, 25);
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=-10", "2=-4", "2=-4", "release 2"));
+}
+
+TEST_F(EditorTest, HoldIsOneWhileItIsHeld) {
+    Host host(m_screen);
+    host.idle(20);
+    m_screen.movePointer(holdX, holdY);
+    m_screen.press();
+    host.idle();
+    EXPECT_THAT(host.take(), ElementsAre("5=1"));
+    host.send(holdPort, 1);
+    m_screen.release();
+    host.idle();
+    EXPECT_THAT(host.take(), ElementsAre("5=0"));
+}
+
+TEST_F(EditorTest, OpensAndClosesAHundredTimesInBothOrders) {
+    for (int i = 0; i < 100; ++i) {
+        Host host(m_screen);
+        host.idle(2);
+        host.close(i % 2 == 0);
+    }
+}
+
+TEST_F(EditorTest, TwoAtOnceDoNotHearOfEachOther) {
+    Host first(m_screen);
+    Host second(m_screen, 540);
+    first.idle(20);
+    drag(first, 50);
+    EXPECT_FALSE(first.take().empty());
+    EXPECT_THAT(second.take(), IsEmpty());
+    first.close(true);
+    second.idle();
+    m_screen.movePointer(540 + holdX, holdY);
+    m_screen.press();
+    second.idle();
+    EXPECT_THAT(second.take(), ElementsAre("5=1"));
+    m_screen.release();
+    second.idle();
+}
