@@ -41,9 +41,7 @@ void StyledButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
 }
 
 void StyledButtonCell::drawImage(QPainter& painter, const QRectF& frame) const {
-    const platform::Image& image = shownImage();
-    if (!image.isNull())
-        tidepool::drawImage(painter, frame, image.tinted(style().textColor(controlState())), *this);
+    tidepool::drawImage(painter, frame, shownImage().tinted(style().textColor(controlState())), *this);
 }
 
 } // namespace tidepool

@@ -1,5 +1,6 @@
 #include "Tidepool/StyledCheckBoxCell.h"
 
+#include "Platform/Controls/CellLayout.h"
 #include "Tidepool/CellDrawing.h"
 
 namespace tidepool {
@@ -19,11 +20,11 @@ QSizeF StyledCheckBoxCell::imageSize() const {
 }
 
 QRectF StyledCheckBoxCell::imageRect(const QRectF& bounds) const {
-    return verticallyCentered(ButtonCell::imageRect(bounds), bounds).translated(m_xOffset, 0);
+    return verticallyCentered(arranged(bounds).image, bounds).translated(m_xOffset, 0);
 }
 
 QRectF StyledCheckBoxCell::titleRect(const QRectF& bounds) const {
-    QRectF title = ButtonCell::titleRect(bounds);
+    QRectF title = arranged(bounds).title;
     const qreal width = preparedTitle(style().font()).size().width();
     if (layoutDirection() == Qt::RightToLeft)
         title.setLeft(title.right() - width);

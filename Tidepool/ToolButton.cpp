@@ -32,8 +32,8 @@ void ToolButton::setShowMoreIcon(bool shows) {
 }
 
 QSizeF ToolButton::intrinsicContentSize() const {
-    QSizeF size = PushButton::intrinsicContentSize();
     const ToolButtonCell& cell = toolCell();
+    QSizeF size = cell.cellSize();
     if (const platform::Image* bezel = cell.style().bezelImage(cell.controlState());
         bezel != nullptr && cell.isBordered())
         size.setWidth(std::max(size.width(), bezel->size().width()));

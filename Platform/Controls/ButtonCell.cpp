@@ -72,8 +72,9 @@ bool ButtonCell::showsMnemonic() const {
 
 CellContent ButtonCell::content() const {
     const QSizeF title = this->title().isEmpty() ? QSizeF() : preparedTitle(titleFont()).size();
+    const bool isCentered = isFramed() || m_imagePosition == ImagePosition::imageOnly;
     return {imageSize(), title, m_imagePosition, layoutDirection(),
-            isFramed() ? Qt::AlignHCenter : Qt::AlignLeading};
+            isCentered ? Qt::AlignHCenter : Qt::AlignLeading};
 }
 
 QRectF ButtonCell::contentRect(const QRectF& bounds) const {
@@ -83,12 +84,16 @@ QRectF ButtonCell::contentRect(const QRectF& bounds) const {
     return bounds.adjusted(margin, 0, -margin, 0);
 }
 
+CellFrames ButtonCell::arranged(const QRectF& bounds) const {
+    return arrange(content(), contentRect(bounds));
+}
+
 QRectF ButtonCell::titleRect(const QRectF& bounds) const {
-    return arrange(content(), contentRect(bounds)).title;
+    return arranged(bounds).title;
 }
 
 QRectF ButtonCell::imageRect(const QRectF& bounds) const {
-    return arrange(content(), contentRect(bounds)).image;
+    return arranged(bounds).image;
 }
 
 QSizeF ButtonCell::cellSize() const {
@@ -107,7 +112,7 @@ void ButtonCell::draw(QPainter& painter, const QRectF& frame) const {
 
 void ButtonCell::drawInterior(QPainter& painter, const QRectF& frame) const {
     const QRectF interior = drawingRect(frame);
-    if (m_imagePosition != ImagePosition::noImage)
+    if (m_imagePosition != ImagePosition::noImage && !imageSize().isEmpty())
         drawImage(painter, imageRect(interior));
     if (m_imagePosition != ImagePosition::imageOnly && !title().isEmpty())
         drawTitle(painter, titleRect(interior));

@@ -6,6 +6,7 @@
 namespace platform {
 
 struct CellContent;
+struct CellFrames;
 
 /// What a button draws itself with: a bezel, a title and an image. This one draws as the desktop's style
 /// does; cells with a look of their own override its steps.
@@ -84,6 +85,9 @@ public:
     virtual void drawImage(QPainter& painter, const QRectF& frame) const;
 
 protected:
+    /// Where both stand if no subclass says otherwise.
+    CellFrames arranged(const QRectF& bounds) const;
+
     /// Of the image and the alternate image the one that the state shows.
     const Image& shownImage() const;
 

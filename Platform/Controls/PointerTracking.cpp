@@ -15,7 +15,7 @@ PointerTracking::PointerTracking(QWidget& control, std::function<void(End)> onEn
 }
 
 PointerTracking::~PointerTracking() {
-    cancel();
+    interrupt();
 }
 
 bool PointerTracking::eventFilter(QObject* watched, QEvent* event) {
@@ -27,14 +27,14 @@ bool PointerTracking::eventFilter(QObject* watched, QEvent* event) {
             return false;
         event->accept();
         if (type == QEvent::KeyPress)
-            cancel();
+            end(End::escaped);
         return true;
     }
     const bool isOwn = watched == &m_control;
     if (isOwn && (type == QEvent::Hide || (type == QEvent::EnabledChange && !m_control.isEnabled())))
-        cancel();
+        interrupt();
     if (type == QEvent::WindowBlocked && watched == m_control.window())
-        cancel();
+        interrupt();
     return false;
 }
 

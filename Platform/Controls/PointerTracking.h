@@ -8,14 +8,14 @@ class QWidget;
 
 namespace platform {
 
-/// The pointer's hold on a control, from the press to its end. It ends exactly once: with the release, or
-/// else with a cancellation when Escape is pressed, the control is disabled or hidden, another window blocks
-/// its window, or this object goes. While it lasts Escape reaches nobody else. Main thread.
+/// The pointer's hold on a control, from the press to its end. It ends exactly once: with the release, by
+/// Escape, or interrupted when the control is disabled or hidden, another window blocks its window, or this
+/// object goes. While it lasts Escape reaches nobody else. Main thread.
 class PointerTracking : public QObject {
     Q_OBJECT
 
 public:
-    enum class End { released, cancelled };
+    enum class End { released, escaped, interrupted };
 
     /// `onEnd` may destroy the control, but not this object unless it is the control's.
     PointerTracking(QWidget& control, std::function<void(End)> onEnd);
@@ -25,7 +25,7 @@ public:
 
     void release() { end(End::released); }
 
-    void cancel() { end(End::cancelled); }
+    void interrupt() { end(End::interrupted); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -77,7 +77,7 @@ MenuItem& PopUpButton::addItem(const QString& title) {
 }
 
 int PopUpButton::indexOfSelectedItem() const {
-    MenuItem* item = m_selected;
+    MenuItem* item = selectedItem();
     while (item != nullptr && item->enclosingMenu() != m_menu)
         item = item->enclosingMenu() != nullptr ? qobject_cast<MenuItem*>(item->enclosingMenu()->menuAction())
                                                 : nullptr;
@@ -85,16 +85,16 @@ int PopUpButton::indexOfSelectedItem() const {
 }
 
 QString PopUpButton::titleOfSelectedItem() const {
-    return m_selected ? m_selected->title() : QString();
+    return selectedItem() != nullptr ? selectedItem()->title() : QString();
 }
 
 void PopUpButton::selectItem(MenuItem* item) {
-    if (m_selected && !m_pullsDown)
-        m_selected->setState(MenuItem::State::off);
+    if (selectedItem() != nullptr && !m_pullsDown)
+        selectedItem()->setState(MenuItem::State::off);
     const bool isKnown = m_menu != nullptr && flattenedItems(*m_menu).contains(item);
     m_selected = isKnown ? item : nullptr;
-    if (m_selected && !m_pullsDown)
-        m_selected->setState(MenuItem::State::on);
+    if (isKnown && !m_pullsDown)
+        item->setState(MenuItem::State::on);
     itemsChanged();
 }
 
@@ -166,7 +166,7 @@ void PopUpButton::finishChoice(MenuItem* item) {
 
 void PopUpButton::selectNextItem(QObject*) {
     const auto items = itemArray();
-    MenuItem* next = firstSelectable(items.begin() + indexOfSelectedItem() + 1, items.end());
+    MenuItem* next = firstSelectable(items.begin() + (indexOfSelectedItem() + 1), items.end());
     if (next == nullptr)
         next = items.value(0);
     choose(next);

@@ -38,7 +38,7 @@ public:
     MenuItem& addItem(const QString& title);
 
     /// Null for none.
-    MenuItem* selectedItem() const { return m_selected; }
+    MenuItem* selectedItem() const { return qobject_cast<MenuItem*>(m_selected); }
 
     /// For an item of a submenu, the index of the item with that submenu. -1 for none.
     int indexOfSelectedItem() const;
@@ -94,7 +94,7 @@ private:
 
     const bool m_pullsDown;
     Menu* m_menu = nullptr;
-    QPointer<MenuItem> m_selected;
+    QPointer<QAction> m_selected; // what is left of an item that is being destroyed is no item
     TypeAhead m_typeAhead;
 };
 

@@ -132,7 +132,7 @@ void PushButton::beginTracking(QMouseEvent&) {
 
 void PushButton::cancelTracking() {
     if (m_tracking)
-        m_tracking->cancel();
+        m_tracking->interrupt();
 }
 
 bool PushButton::popUpMenu(const QMouseEvent& press) {

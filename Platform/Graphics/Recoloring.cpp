@@ -19,7 +19,7 @@ float hueDistance(float a, float b) {
 }
 
 QRgb mixed(QRgb a, QRgb b, float part) {
-    const auto mix = [part](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * part)); };
+    const auto mix = [part](int x, int y) { return x + qRound(static_cast<float>(y - x) * part); };
     return qRgba(mix(qRed(a), qRed(b)), mix(qGreen(a), qGreen(b)), mix(qBlue(a), qBlue(b)), qAlpha(a));
 }
 

@@ -19,7 +19,15 @@ using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
 Desktop::Desktop() : m_connection(xcb_connect(nullptr, nullptr)) {
     m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-    waitUntil([this] { return !property(m_root, atom("_NET_SUPPORTING_WM_CHECK")).isEmpty(); });
+    // A window manager that is still starting can take a request and then sleep on it until the next event.
+    const std::uint32_t probe = xcb_generate_id(m_connection);
+    xcb_create_window(m_connection, 0, probe, m_root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, 0, 0,
+                      nullptr);
+    waitUntil([this, probe] {
+        requestFrameExtents(probe);
+        return !property(probe, atom("_NET_FRAME_EXTENTS")).isEmpty();
+    });
+    xcb_destroy_window(m_connection, probe);
 }
 
 Desktop::~Desktop() {
@@ -48,16 +56,24 @@ void Desktop::movePointer(QPoint position) {
     send(XCB_MOTION_NOTIFY, 0, position);
 }
 
-void Desktop::click(QPoint position) {
+void Desktop::pressPointer(QPoint position) {
     movePointer(position);
     send(XCB_BUTTON_PRESS, 1);
+}
+
+void Desktop::releasePointer(QPoint position) {
+    movePointer(position);
     send(XCB_BUTTON_RELEASE, 1);
+}
+
+void Desktop::click(QPoint position) {
+    pressPointer(position);
+    releasePointer(position);
 }
 
 void Desktop::drag(QPoint from, QPoint to) {
     constexpr int steps = 10;
-    movePointer(from);
-    send(XCB_BUTTON_PRESS, 1);
+    pressPointer(from);
     for (int i = 1; i <= steps; ++i)
         movePointer(from + (to - from) * i / steps);
     send(XCB_BUTTON_RELEASE, 1);
@@ -94,6 +110,18 @@ void Desktop::requestSize(std::uint32_t window, QSize size) {
     const std::uint32_t values[] = {static_cast<std::uint32_t>(size.width()),
                                     static_cast<std::uint32_t>(size.height())};
     xcb_configure_window(m_connection, window, XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, values);
+    xcb_flush(m_connection);
+}
+
+void Desktop::requestFrameExtents(std::uint32_t window) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom("_NET_REQUEST_FRAME_EXTENTS");
+    xcb_send_event(m_connection, 0, m_root,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&message));
     xcb_flush(m_connection);
 }
 

@@ -18,6 +18,7 @@ enum class Key : std::uint8_t {
     enter = 36,
     control = 37,
     m = 58,
+    down = 116,
     space = 65,
     f1 = 67,
     f10 = 76,
@@ -27,7 +28,7 @@ enum class Key : std::uint8_t {
 /// lists.
 class Desktop {
 public:
-    /// Waits for the window manager.
+    /// Waits until the window manager answers.
     Desktop();
     ~Desktop();
     Desktop(const Desktop&) = delete;
@@ -36,6 +37,8 @@ public:
     void press(Key key);
     void press(Key modifier, Key key);
     void movePointer(QPoint position);
+    void pressPointer(QPoint position);
+    void releasePointer(QPoint position);
     void click(QPoint position);
     void drag(QPoint from, QPoint to);
 
@@ -51,6 +54,7 @@ public:
     static void wait(int milliseconds);
 
 private:
+    void requestFrameExtents(std::uint32_t window);
     void send(std::uint8_t type, std::uint8_t detail, QPoint position = {});
     std::uint32_t atom(const char* name);
     QByteArray property(std::uint32_t window, std::uint32_t name);

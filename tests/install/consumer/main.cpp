@@ -1,12 +1,32 @@
 // Uses one thing of each installed module, as a plug-in maker's program would.
+#include "Panel.h"
+
 #include <Chorale/AssetResources.h>
 #include <Chorale/RocketFontModifier.h>
 #include <Tidepool/TPColors.h>
 #include <Tidepool/TPImages.h>
 #include <VantorShaders/MetalShaderViewController.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+
+namespace {
+
+bool panelWorks() {
+    Panel panel;
+    panel.show();
+    const auto buttons = panel.findChildren<QAbstractButton*>();
+    buttons[0]->click();
+    buttons[1]->click();
+    const bool isUsed = panel.applied == 1 && panel.isBypassed;
+    buttons[2]->click();
+    const QImage off = panel.grab().toImage();
+    buttons[3]->click();
+    return isUsed && panel.applied == 0 && panel.grab().toImage() != off;
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
@@ -20,5 +40,5 @@ int main(int argc, char** argv) {
                           !tidepool::TPImages::button.image().bitmap({60, 24}, 2).isNull() &&
                           chorale::EditorAssets::background.color().isValid() &&
                           effect.metalKitView() != nullptr;
-    return complete ? 0 : 1;
+    return complete && panelWorks() ? 0 : 1;
 }

@@ -1,0 +1,263 @@
+#include "Chorale/DialLabel.h"
+
+#include "Chorale/AudioParameter.h"
+#include "Chorale/ParameterText.h"
+#include "Chorale/RocketFontModifier.h"
+#include "Platform/Controls/ButtonStyle.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace chorale {
+
+namespace {
+
+constexpr qreal rowHeight = 40;
+/// The value row reaches into the line of the name.
+constexpr qreal rowOverlap = 10;
+/// Between the value and its suffix.
+constexpr qreal suffixGap = 4;
+constexpr qreal fieldRadius = 5;
+constexpr int fieldMargin = 4;
+constexpr int fieldTopMargin = 2;
+
+} // namespace
+
+DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, QColor valueColor,
+                     float labelFontSize, float valueFontSize, float editingFontSize, float width,
+                     bool showSuffix, bool showName, int decimalPlaces, std::function<void()> onEditingEnded,
+                     QWidget* parent)
+    : QWidget(parent),
+      m_param(std::move(param)),
+      m_labelColor(labelColor),
+      m_valueColor(valueColor),
+      m_labelFont(RocketFontModifier{labelFontSize}.font()),
+      m_valueFont(RocketFontModifier{valueFontSize}.font()),
+      m_width(width),
+      m_showSuffix(showSuffix),
+      m_showName(showName),
+      m_decimalPlaces(decimalPlaces),
+      m_onEditingEnded(std::move(onEditingEnded)),
+      m_field(new QLineEdit(this)) {
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::IBeamCursor);
+    follow(*this);
+    rocketFont(*m_field, editingFontSize);
+    m_field->setFrame(false);
+    m_field->setAlignment(Qt::AlignCenter);
+    m_field->setAccessibleName(m_param->name());
+    QPalette palette = m_field->palette();
+    palette.setColor(QPalette::Base, Qt::transparent);
+    palette.setColor(QPalette::Text, m_valueColor);
+    QColor selection = m_valueColor;
+    constexpr float selectionAlpha = 0.3F;
+    selection.setAlphaF(selectionAlpha);
+    palette.setColor(QPalette::Highlight, selection);
+    palette.setColor(QPalette::HighlightedText, m_valueColor);
+    m_field->setPalette(palette);
+    m_field->hide();
+    connect(m_param.get(), &AudioParameter::valueChanged, this, [this] {
+        updateValueString();
+        updateGeometry();
+    });
+    updateValueString();
+}
+
+DialLabel::~DialLabel() {
+    stopEditing();
+}
+
+QString DialLabel::valueString() const {
+    return m_field->text();
+}
+
+QString DialLabel::suffix() const {
+    return m_showSuffix ? m_param->displayableSuffix() : QString();
+}
+
+QString DialLabel::valueText() const {
+    const QString value = displayText(*m_param, m_decimalPlaces, locale());
+    return suffix().isEmpty() ? value : value + u' ' + suffix();
+}
+
+qreal DialLabel::nameHeight() const {
+    return m_showName ? QFontMetricsF(m_labelFont).height() : 0;
+}
+
+QRectF DialLabel::valueRow() const {
+    const qreal top = m_showName ? nameHeight() - rowOverlap : 0;
+    return {0, top, qreal(width()), rowHeight};
+}
+
+QRectF DialLabel::fieldFrame() const {
+    const QSizeF size(m_width, QFontMetricsF(m_field->font()).height() + 2 * fieldTopMargin);
+    QRectF frame(QPointF(), size);
+    frame.moveCenter(valueRow().center());
+    return frame;
+}
+
+QSize DialLabel::sizeHint() const {
+    const QFontMetricsF label(m_labelFont);
+    const QFontMetricsF value(m_valueFont);
+    const qreal name = m_showName ? label.horizontalAdvance(m_param->name().toUpper()) : 0;
+    const qreal row = value.horizontalAdvance(displayText(*m_param, m_decimalPlaces, locale())) +
+                      (suffix().isEmpty() ? 0 : suffixGap + value.horizontalAdvance(suffix()));
+    const qreal width = std::max({name, row, qreal(m_width)});
+    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(valueRow().bottom()))};
+}
+
+void DialLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (m_showName)
+        paintName(painter);
+    if (m_isEditing)
+        paintField(painter);
+    else
+        paintValue(painter);
+    constexpr qreal radius = 4;
+    if (hasFocus() && isActiveWindow())
+        platform::paintFocusRing(painter, QRectF(rect()), radius);
+}
+
+void DialLabel::paintName(QPainter& painter) const {
+    painter.setFont(m_labelFont);
+    painter.setPen(m_labelColor);
+    painter.drawText(QRectF(0, 0, width(), nameHeight()), Qt::AlignHCenter | Qt::AlignTop,
+                     m_param->name().toUpper());
+}
+
+void DialLabel::paintValue(QPainter& painter) const {
+    painter.setFont(m_valueFont);
+    painter.setPen(m_valueColor);
+    const QFontMetricsF metrics(m_valueFont);
+    const QString value = displayText(*m_param, m_decimalPlaces, locale());
+    const qreal valueWidth = metrics.horizontalAdvance(value);
+    const qreal rowWidth =
+        valueWidth + (suffix().isEmpty() ? 0 : suffixGap + metrics.horizontalAdvance(suffix()));
+    QRectF row = valueRow();
+    row.setLeft((width() - rowWidth) / 2);
+    painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, value);
+    row.setLeft(row.left() + valueWidth + suffixGap);
+    painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, suffix());
+}
+
+void DialLabel::paintField(QPainter& painter) const {
+    QColor fill = m_valueColor;
+    constexpr float fillAlpha = 0.08F;
+    fill.setAlphaF(fillAlpha);
+    QColor edge = m_valueColor;
+    constexpr float edgeAlpha = 0.45F;
+    edge.setAlphaF(edgeAlpha);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(edge);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(fieldFrame().adjusted(0.5, 0.5, -0.5, -0.5), fieldRadius, fieldRadius);
+}
+
+void DialLabel::resizeEvent(QResizeEvent*) {
+    m_field->setGeometry(fieldFrame().marginsRemoved({fieldMargin, 1, fieldMargin, 1}).toRect());
+}
+
+void DialLabel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LocaleChange) {
+        updateGeometry();
+        update();
+    }
+}
+
+void DialLabel::mousePressEvent(QMouseEvent* event) {
+    event->setAccepted(event->button() == Qt::LeftButton);
+}
+
+void DialLabel::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        startEditing();
+}
+
+void DialLabel::keyPressEvent(QKeyEvent* event) {
+    const bool edits =
+        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
+    if (edits)
+        startEditing();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void DialLabel::updateValueString() {
+    m_field->setText(editingText(*m_param, m_decimalPlaces));
+}
+
+void DialLabel::startEditing() {
+    if (m_isEditing)
+        return;
+    m_isEditing = true;
+    m_field->show();
+    m_field->setFocus(Qt::OtherFocusReason);
+    m_field->selectAll();
+    qApp->installEventFilter(this);
+    update();
+}
+
+void DialLabel::submit() {
+    if (const std::optional<float> value = editedValue(*m_param, valueString()))
+        m_param->setValue(*value, ParameterEditor::ui, ParameterEditorState::change);
+    leave();
+}
+
+void DialLabel::leave() {
+    if (m_onEditingEnded)
+        m_onEditingEnded();
+    updateValueString();
+    stopEditing();
+}
+
+void DialLabel::stopEditing() {
+    if (!std::exchange(m_isEditing, false))
+        return;
+    qApp->removeEventFilter(this);
+    m_field->hide();
+    update();
+}
+
+bool DialLabel::eventFilter(QObject* watched, QEvent* event) {
+    if (!m_isEditing)
+        return false;
+    const bool isElsewhere = watched->isWidgetType() && watched != m_field && watched != this &&
+                             QApplication::activePopupWidget() == nullptr;
+    if (event->type() == QEvent::MouseButtonPress && isElsewhere) {
+        stopEditing();
+        return false;
+    }
+    if (watched != m_field)
+        return false;
+    if (event->type() == QEvent::FocusOut) {
+        // Neither the field's own menu nor another window takes the field away.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            stopEditing();
+    }
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
+        return handleKey(*static_cast<QKeyEvent*>(event));
+    return false;
+}
+
+bool DialLabel::handleKey(QKeyEvent& event) {
+    const bool submits = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (!submits && event.key() != Qt::Key_Escape)
+        return false;
+    event.accept();
+    if (event.type() == QEvent::KeyPress)
+        submits ? submit() : leave();
+    return true;
+}
+
+} // namespace chorale

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "Chorale/ParameterView.h"
+
+#include <QColor>
+#include <QWidget>
+
+#include <functional>
+
+class QLineEdit;
+
+namespace chorale {
+
+class AudioParameter;
+
+/// The name and the value of a parameter. A click, or Return or F2 with the keyboard on it, opens a field to
+/// type a new value into: Return writes it, Escape and a click elsewhere do not. Sizes are points.
+class DialLabel : public QWidget, public ParameterView {
+    Q_OBJECT
+
+public:
+    /// `width` is that of the field. `onEditingEnded` is called when Return or Escape ends the typing; it may
+    /// be empty.
+    DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, QColor valueColor,
+              float labelFontSize, float valueFontSize, float editingFontSize, float width, bool showSuffix,
+              bool showName, int decimalPlaces, std::function<void()> onEditingEnded,
+              QWidget* parent = nullptr);
+    ~DialLabel() override;
+
+    bool isEditing() const { return m_isEditing; }
+
+    /// The text in the field.
+    QString valueString() const;
+
+    const std::shared_ptr<AudioParameter>& parameter() const override { return m_param; }
+
+    QString valueText() const override;
+    QSize sizeHint() const override;
+
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QString suffix() const;
+    qreal nameHeight() const;
+    QRectF valueRow() const;
+    QRectF fieldFrame() const;
+    void paintName(QPainter& painter) const;
+    void paintValue(QPainter& painter) const;
+    void paintField(QPainter& painter) const;
+
+    /// Of the field. True for a key that ends the typing.
+    bool handleKey(QKeyEvent& event);
+    void updateValueString();
+    void startEditing();
+    void submit();
+    void leave();
+    void stopEditing();
+
+    const std::shared_ptr<AudioParameter> m_param;
+    const QColor m_labelColor;
+    const QColor m_valueColor;
+    const QFont m_labelFont;
+    const QFont m_valueFont;
+    const float m_width;
+    const bool m_showSuffix;
+    const bool m_showName;
+    const int m_decimalPlaces;
+    const std::function<void()> m_onEditingEnded;
+    QLineEdit* m_field;
+    bool m_isEditing = false;
+};
+
+} // namespace chorale

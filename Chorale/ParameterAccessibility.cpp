@@ -1,0 +1,73 @@
+#include "Chorale/ParameterAccessibility.h"
+
+#include "Chorale/AudioParameter.h"
+#include "Chorale/ParameterSteps.h"
+#include "Chorale/ParameterView.h"
+
+#include <QAccessibleWidget>
+
+namespace chorale {
+
+namespace {
+
+class ParameterViewInterface : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    ParameterViewInterface(QWidget& widget, ParameterView& view)
+        : QAccessibleWidget(&widget, QAccessible::Dial), m_view(view) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? m_view.valueText() : QAccessibleWidget::text(kind);
+    }
+
+    QStringList actionNames() const override {
+        return widget()->isEnabled() ? QStringList{increaseAction(), decreaseAction()} : QStringList();
+    }
+
+    void doAction(const QString& name) override {
+        if (!actionNames().contains(name))
+            QAccessibleWidget::doAction(name);
+        else
+            step(m_view.parameter(), name == increaseAction() ? 1 : -1);
+    }
+
+    QVariant currentValue() const override { return m_view.parameter()->displayableValue(); }
+
+    void setCurrentValue(const QVariant& value) override {
+        m_view.parameter()->setValue(value.toFloat() * m_view.parameter()->saveScaleFactor(),
+                                     ParameterEditor::ui, ParameterEditorState::change);
+    }
+
+    QVariant minimumValue() const override { return shown(m_view.parameter()->valueRange().lowerBound()); }
+
+    QVariant maximumValue() const override { return shown(m_view.parameter()->valueRange().upperBound()); }
+
+    QVariant minimumStepSize() const override { return shown(stepSize(*m_view.parameter())); }
+
+private:
+    float shown(float value) const { return value * m_view.parameter()->displayScaleFactor(); }
+
+    ParameterView& m_view;
+};
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* const view = dynamic_cast<ParameterView*>(object);
+    return view != nullptr ? new ParameterViewInterface(dynamic_cast<QWidget&>(*object), *view) : nullptr;
+}
+
+} // namespace
+
+void installParameterAccessibility() {
+    static const bool installed = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
+    Q_UNUSED(installed);
+}
+
+} // namespace chorale

@@ -1,0 +1,221 @@
+#include "Chorale/ParameterDial.h"
+
+#include "Chorale/AudioParameter.h"
+#include "Chorale/DialPainter.h"
+#include "Chorale/ParameterGesture.h"
+#include "Chorale/ParameterSteps.h"
+#include "Chorale/ParameterText.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace chorale {
+
+namespace {
+
+/// How far a drag goes from one end of the range to the other, in points.
+constexpr double fullDrag = 200;
+constexpr double fineFactor = 0.1;
+constexpr float pageSteps = 10;
+
+double angle(QPointF position, QPointF center) {
+    return std::atan2(position.x() - center.x(), center.y() - position.y());
+}
+
+/// How many steps a key goes; to an end of the range for an infinite number of them; 0 for other keys.
+float stepsOf(const QKeyEvent& event) {
+    constexpr float end = std::numeric_limits<float>::infinity();
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+        return 1;
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+        return -1;
+    case Qt::Key_PageUp:
+        return pageSteps;
+    case Qt::Key_PageDown:
+        return -pageSteps;
+    case Qt::Key_Home:
+        return -end;
+    case Qt::Key_End:
+        return end;
+    default:
+        return 0;
+    }
+}
+
+bool isReset(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace;
+}
+
+} // namespace
+
+ParameterDial::ParameterDial(std::shared_ptr<AudioParameter> param, qreal diameter, QColor accent,
+                             QWidget* parent)
+    : QWidget(parent), m_param(std::move(param)), m_diameter(diameter), m_accent(accent) {
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    follow(*this);
+    connect(m_param.get(), &AudioParameter::isBeingInteractivelyEditedChanged, this,
+            QOverload<>::of(&QWidget::update));
+}
+
+ParameterDial::~ParameterDial() {
+    m_tracking.reset();
+}
+
+QString ParameterDial::valueText() const {
+    if (const auto& names = m_param->valueStrings(); names && !names->isEmpty())
+        return hostText(m_param->value(), names);
+    const QString value = displayText(*m_param, m_decimalPlaces, locale());
+    const QString suffix = m_param->displayableSuffix();
+    return suffix.isEmpty() ? value : value + u' ' + suffix;
+}
+
+QSize ParameterDial::sizeHint() const {
+    const int side = static_cast<int>(std::ceil(m_diameter));
+    return {side, side};
+}
+
+void ParameterDial::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QRectF frame(0, 0, m_diameter, m_diameter);
+    frame.moveCenter(QRectF(rect()).center());
+    const auto& range = m_param->valueRange();
+    const bool isBipolar = range.lowerBound() < 0 && range.upperBound() > 0;
+    const float span = range.upperBound() - range.lowerBound();
+    paintDial(painter, frame,
+              {.value = span > 0 ? m_param->percent() : 0,
+               .origin = isBipolar ? -range.lowerBound() / span : 0,
+               .accent = m_accent,
+               .isHeld = m_gesture != nullptr,
+               .isEnabled = isEnabled(),
+               .isFocused = hasFocus() && isActiveWindow()});
+}
+
+void ParameterDial::beginDrag(const QMouseEvent& press) {
+    m_last = press.position();
+    m_position = std::isnan(m_param->percent()) ? 0 : m_param->percent();
+    m_gesture = std::make_unique<ParameterGesture>(m_param);
+    m_tracking =
+        std::make_unique<platform::PointerTracking>(*this, [this](platform::PointerTracking::End end) {
+            if (end == platform::PointerTracking::End::escaped)
+                m_gesture->cancel();
+            m_gesture.reset();
+            update();
+        });
+    update();
+}
+
+double ParameterDial::moved(QPointF to) {
+    const QPointF from = std::exchange(m_last, to);
+    if (m_dragMode == DragMode::vertical)
+        return (from.y() - to.y()) / fullDrag;
+    const QPointF center = QRectF(rect()).center();
+    const double turned = angle(to, center) - angle(from, center);
+    return std::remainder(turned, 2 * std::numbers::pi) / dialSweep;
+}
+
+void ParameterDial::apply() {
+    const auto& range = m_param->valueRange();
+    const double value = range.lowerBound() + m_position * (range.upperBound() - range.lowerBound());
+    const bool hasDetents = m_param->valueStrings() && !m_param->valueStrings()->isEmpty();
+    m_gesture->setValue(static_cast<float>(hasDetents ? std::round(value) : value));
+}
+
+void ParameterDial::reset() {
+    ParameterGesture(m_param).setValue(m_param->defaultValue());
+}
+
+void ParameterDial::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        event->ignore();
+    else if (event->modifiers().testFlag(Qt::AltModifier))
+        reset();
+    else
+        beginDrag(*event);
+}
+
+void ParameterDial::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_tracking || !m_tracking->isActive()) {
+        event->ignore();
+        return;
+    }
+    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier);
+    m_position = std::clamp(m_position + moved(event->position()) * (isFine ? fineFactor : 1), 0.0, 1.0);
+    apply();
+}
+
+void ParameterDial::mouseReleaseEvent(QMouseEvent* event) {
+    if (m_tracking && event->button() == Qt::LeftButton)
+        m_tracking->release();
+    else
+        event->ignore();
+}
+
+void ParameterDial::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        reset();
+    else
+        event->ignore();
+}
+
+void ParameterDial::wheelEvent(QWheelEvent* event) {
+    constexpr int notch = 120;
+    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier);
+    // Some desktops turn the wheel's axis while Shift or Alt is held.
+    const QPoint delta = event->angleDelta();
+    m_wheel += (delta.y() != 0 ? delta.y() : delta.x()) * (event->inverted() ? -1 : 1);
+    const bool hasDetents = m_param->valueStrings() && !m_param->valueStrings()->isEmpty();
+    const float steps = hasDetents ? static_cast<float>(m_wheel / notch)
+                                   : static_cast<float>(m_wheel) / notch * (isFine ? 0.1F : 1.0F);
+    m_wheel = hasDetents ? m_wheel % notch : 0;
+    if (steps != 0)
+        step(m_param, steps);
+    event->accept();
+}
+
+void ParameterDial::stepOnce(float count) {
+    if (!m_gesture)
+        m_gesture = std::make_unique<ParameterGesture>(m_param);
+    const auto& range = m_param->valueRange();
+    if (std::isinf(count))
+        m_gesture->setValue(count > 0 ? range.upperBound() : range.lowerBound());
+    else
+        step(m_param, count);
+}
+
+void ParameterDial::keyPressEvent(QKeyEvent* event) {
+    const float count = stepsOf(*event);
+    if (m_tracking && m_tracking->isActive())
+        QWidget::keyPressEvent(event);
+    else if (isReset(*event))
+        reset();
+    else if (count != 0)
+        stepOnce(event->modifiers().testFlag(Qt::ShiftModifier) && !std::isinf(count) ? count * 0.1F : count);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void ParameterDial::keyReleaseEvent(QKeyEvent* event) {
+    if (stepsOf(*event) == 0)
+        QWidget::keyReleaseEvent(event);
+    else if (!event->isAutoRepeat() && !(m_tracking && m_tracking->isActive()))
+        m_gesture.reset();
+}
+
+void ParameterDial::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (!m_tracking || !m_tracking->isActive())
+        m_gesture.reset();
+}
+
+} // namespace chorale

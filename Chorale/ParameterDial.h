@@ -1,0 +1,74 @@
+#pragma once
+
+#include "Chorale/ParameterView.h"
+#include "Platform/Controls/PointerTracking.h"
+
+#include <QColor>
+#include <QWidget>
+
+namespace chorale {
+
+class AudioParameter;
+class ParameterGesture;
+
+/// Turns a parameter. Drag up and down, or in a circle; hold Shift for a tenth of the speed; turn the wheel;
+/// double-click, or click with Alt, for the default; with the keyboard on it use the arrows, Page Up, Page
+/// Down, Home, End and Delete. Values with names are detents. Escape takes a drag back. Each drag and each
+/// key that is held is one gesture to the host. Every other key is left to the host.
+class ParameterDial : public QWidget, public ParameterView {
+    Q_OBJECT
+
+public:
+    enum class DragMode { vertical, circular };
+
+    /// `diameter` is in points; `accent` is the colour of the value.
+    ParameterDial(std::shared_ptr<AudioParameter> param, qreal diameter, QColor accent,
+                  QWidget* parent = nullptr);
+    ~ParameterDial() override;
+
+    DragMode dragMode() const { return m_dragMode; }
+
+    void setDragMode(DragMode mode) { m_dragMode = mode; }
+
+    /// How many fractional digits the value is told with. 1 until set.
+    void setDecimalPlaces(int places) { m_decimalPlaces = places; }
+
+    const std::shared_ptr<AudioParameter>& parameter() const override { return m_param; }
+
+    QString valueText() const override;
+    QSize sizeHint() const override;
+
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void beginDrag(const QMouseEvent& press);
+    void reset();
+    /// Part of the range that the pointer has moved by since it was last seen.
+    double moved(QPointF to);
+    void apply();
+    void stepOnce(float count);
+
+    const std::shared_ptr<AudioParameter> m_param;
+    const qreal m_diameter;
+    const QColor m_accent;
+    DragMode m_dragMode = DragMode::vertical;
+    int m_decimalPlaces = 1;
+    double m_position = 0;                       // the drag's place in the range, between detents too
+    QPointF m_last;                              // where the pointer was seen last
+    int m_wheel = 0;                             // eighths of a degree not yet turned into a step
+    std::unique_ptr<ParameterGesture> m_gesture; // of a drag or a key
+    std::unique_ptr<platform::PointerTracking> m_tracking; // of a drag
+};
+
+} // namespace chorale

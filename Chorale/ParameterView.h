@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+class QWidget;
+
+namespace chorale {
+
+class AudioParameter;
+
+/// A widget that shows one parameter. Assistive technology sees its name, its value as people read it, and
+/// can change it by steps.
+class ParameterView {
+public:
+    virtual ~ParameterView() = default;
+
+    virtual const std::shared_ptr<AudioParameter>& parameter() const = 0;
+
+    /// The value as the widget shows it, with its unit.
+    virtual QString valueText() const = 0;
+
+protected:
+    /// To be called by the constructor of the widget that this is mixed into. Repaints it and tells assistive
+    /// technology when the value changes.
+    void follow(QWidget& view);
+};
+
+} // namespace chorale

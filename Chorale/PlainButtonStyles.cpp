@@ -1,0 +1,40 @@
+#include "Chorale/PlainButtonStyles.h"
+
+#include "Chorale/AssetResources.h"
+#include "Chorale/RocketFontModifier.h"
+
+#include <QPainter>
+
+namespace chorale {
+
+namespace {
+
+constexpr qreal pressedOpacity = 0.7;
+constexpr qreal focusRadius = 4;
+
+/// What all buttons without a bezel do.
+void prepare(QPainter& painter, const platform::ButtonConfiguration& configuration) {
+    painter.setOpacity(configuration.isPressed ? pressedOpacity : 1);
+    if (configuration.isFocused)
+        platform::paintFocusRing(painter, configuration.frame, focusRadius);
+}
+
+} // namespace
+
+QFont TabButtonStyle::font() const {
+    constexpr qreal size = 16;
+    return RocketFontModifier{size}.font();
+}
+
+void TabButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
+    prepare(painter, configuration);
+    painter.setPen(m_isSelected ? EditorAssets::tabSelected.color() : EditorAssets::tabUnselected.color());
+    painter.drawText(configuration.frame, Qt::AlignCenter, configuration.label);
+}
+
+void LogoButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
+    prepare(painter, configuration);
+    m_image.image().draw(painter, configuration.frame);
+}
+
+} // namespace chorale

@@ -1,0 +1,41 @@
+#include "Chorale/UpdateButtonStyle.h"
+
+#include "Chorale/AssetResources.h"
+#include "Chorale/RocketFontModifier.h"
+
+#include <QPainter>
+
+namespace chorale {
+
+namespace {
+
+constexpr qreal sidePadding = 4;
+constexpr qreal topPadding = 2;
+constexpr qreal radius = 4;
+constexpr qreal pressedOpacity = 0.8;
+
+} // namespace
+
+QFont UpdateButtonStyle::font() const {
+    constexpr qreal size = 13;
+    return RocketFontModifier{size}.font();
+}
+
+QSizeF UpdateButtonStyle::size(QSizeF label) const {
+    return {label.width() + 2 * sidePadding, label.height() + topPadding};
+}
+
+void UpdateButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
+    painter.setOpacity(configuration.isPressed ? pressedOpacity : 1);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(EditorAssets::updateBackground.color());
+    painter.drawRoundedRect(configuration.frame, radius, radius);
+    painter.setPen(EditorAssets::background.color());
+    painter.drawText(configuration.frame.adjusted(sidePadding, topPadding, -sidePadding, 0), Qt::AlignCenter,
+                     configuration.label);
+    if (configuration.isFocused)
+        platform::paintFocusRing(painter, configuration.frame, radius);
+}
+
+} // namespace chorale

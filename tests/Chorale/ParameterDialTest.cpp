@@ -1,0 +1,167 @@
+#include "Chorale/ParameterDial.h"
+#include "tests/Chorale/HostWatch.h"
+#include "tests/support/Pixels.h"
+
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using chorale::ParameterDial;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class ParameterDialTest : public testing::Test {
+protected:
+    ParameterDial& show(HostWatch& host) {
+        m_dial = std::make_unique<ParameterDial>(host.parameter, 60, Qt::blue);
+        m_dial->resize(60, 60);
+        m_dial->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_dial.get()));
+        return *m_dial;
+    }
+
+    void press(QPoint position = {30, 30}) { QTest::mousePress(m_dial.get(), Qt::LeftButton, {}, position); }
+
+    void move(QPoint position, Qt::KeyboardModifiers modifiers = {}) {
+        QMouseEvent event(QEvent::MouseMove, QPointF(position), m_dial->mapToGlobal(QPointF(position)),
+                          Qt::NoButton, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(m_dial.get(), &event);
+    }
+
+    void release() { QTest::mouseRelease(m_dial.get(), Qt::LeftButton); }
+
+    void wheel(int eighths, Qt::KeyboardModifiers modifiers = {}) {
+        QWheelEvent event({30, 30}, {30, 30}, {}, {0, eighths}, {}, modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m_dial.get(), &event);
+    }
+
+    std::unique_ptr<ParameterDial> m_dial;
+};
+
+} // namespace
+
+TEST_F(ParameterDialTest, ADragIsOneGesture) {
+    HostWatch host;
+    show(host);
+    press();
+    EXPECT_TRUE(host.parameter->isBeingInteractivelyEdited());
+    move({30, 10}); // a tenth of the way
+    move({30, -10});
+    release();
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 15", "value 25", "release 25"));
+    EXPECT_FALSE(host.parameter->isBeingInteractivelyEdited());
+}
+
+TEST_F(ParameterDialTest, ShiftIsFineAndEndsAreEnds) {
+    HostWatch host;
+    show(host);
+    press();
+    move({30, 10}, Qt::ShiftModifier);
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 6"));
+    move({30, -2000});
+    move({30, -1980});
+    EXPECT_THAT(host.take(), ElementsAre("value 100", "value 90"));
+}
+
+TEST_F(ParameterDialTest, EscapeTakesTheDragBackAndDestructionLetsGo) {
+    HostWatch host;
+    show(host);
+    press();
+    move({30, 10});
+    QTest::keyClick(m_dial.get(), Qt::Key_Escape);
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 15", "value 5", "release 5"));
+    move({30, -10});
+    release();
+    EXPECT_THAT(host.take(), IsEmpty());
+    press();
+    move({30, 10});
+    m_dial->hide();
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 15", "release 15")) << "only Escape takes it back";
+    m_dial->show();
+    press();
+    m_dial.reset();
+    EXPECT_THAT(host.take(), ElementsAre("touch 15", "release 15"));
+    EXPECT_FALSE(host.parameter->isBeingInteractivelyEdited());
+}
+
+TEST_F(ParameterDialTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
+    HostWatch host;
+    show(host);
+    press();
+    move({30, 10});
+    host.send(77);
+    EXPECT_EQ(host.parameter->value(), 15);
+    release();
+    host.send(77);
+    EXPECT_EQ(host.parameter->value(), 77);
+}
+
+TEST_F(ParameterDialTest, DragsInACircle) {
+    HostWatch host;
+    show(host).setDragMode(ParameterDial::DragMode::circular);
+    press({30, 0});
+    move({60, 30}); // a quarter of a circle is a third of the range
+    release();
+    HostWatch::turn();
+    EXPECT_NEAR(host.parameter->value(), 38.3, 0.2);
+}
+
+TEST_F(ParameterDialTest, DoubleClickAndAltClickReset) {
+    HostWatch host;
+    show(host);
+    host.send(50);
+    QTest::mouseClick(m_dial.get(), Qt::LeftButton, Qt::AltModifier);
+    EXPECT_THAT(host.take(), ElementsAre("touch 50", "value 5", "release 5"));
+    host.send(50);
+    QTest::mouseDClick(m_dial.get(), Qt::LeftButton);
+    host.take();
+    EXPECT_EQ(host.parameter->value(), 5);
+}
+
+TEST_F(ParameterDialTest, WheelStepsAndCollectsPartsOfANotch) {
+    HostWatch host;
+    show(host);
+    wheel(120);
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 6", "release 6"));
+    HostWatch names(platform::AudioUnitParameterUnit::indexed, 2, 0,
+                    QStringList{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+    show(names);
+    wheel(60);
+    EXPECT_THAT(names.take(), IsEmpty());
+    wheel(60);
+    EXPECT_EQ(names.take(), (std::vector<std::string>{"touch 0", "value 1", "release 1"}));
+    EXPECT_EQ(m_dial->valueText(), QStringLiteral("B"));
+}
+
+TEST_F(ParameterDialTest, KeysStepInOneGestureAndOthersReachTheHost) {
+    HostWatch host;
+    show(host);
+    QTest::keyPress(m_dial.get(), Qt::Key_Up);
+    QTest::keyPress(m_dial.get(), Qt::Key_Up); // repeated by the keyboard
+    QTest::keyRelease(m_dial.get(), Qt::Key_Up);
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 6", "value 7", "release 7"));
+    QTest::keyClick(m_dial.get(), Qt::Key_End);
+    QTest::keyClick(m_dial.get(), Qt::Key_PageDown);
+    host.take();
+    EXPECT_EQ(host.parameter->value(), 90);
+    QTest::keyClick(m_dial.get(), Qt::Key_Delete);
+    host.take();
+    EXPECT_EQ(host.parameter->value(), 5);
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, {});
+    QApplication::sendEvent(m_dial.get(), &space);
+    EXPECT_FALSE(space.isAccepted());
+}
+
+TEST_F(ParameterDialTest, ShowsTheValueAndThatItIsHeld) {
+    HostWatch host;
+    show(host);
+    const QImage low = picture(*m_dial);
+    host.send(90);
+    const QImage high = picture(*m_dial);
+    EXPECT_GT(difference(low, high), 60);
+    press();
+    EXPECT_GT(difference(high, picture(*m_dial)), 10);
+}

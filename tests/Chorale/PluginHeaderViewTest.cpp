@@ -1,0 +1,103 @@
+#include "Chorale/PluginHeaderView.h"
+
+#include "Chorale/MakerLinks.h"
+#include "Chorale/TabButton.h"
+#include "tests/Chorale/HostWatch.h"
+
+#include <QDesktopServices>
+#include <QLabel>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using chorale::PluginHeaderView;
+using chorale::TabButton;
+using chorale::UpdateAvailableDetails;
+using testing::ElementsAre;
+
+namespace {
+
+const QUrl updatePage(QStringLiteral("https://updates.example/noteloft"));
+
+HostWatch pages() {
+    return HostWatch(platform::AudioUnitParameterUnit::indexed, 2, 0,
+                     QStringList{QStringLiteral("Scale"), QStringLiteral("Chord"), QStringLiteral("Human")});
+}
+
+std::vector<bool> selection(const PluginHeaderView& header) {
+    std::vector<bool> selected;
+    for (const TabButton* tab : header.findChildren<TabButton*>())
+        selected.push_back(tab->isSelected());
+    return selected;
+}
+
+QStringList titles(const PluginHeaderView& header) {
+    QStringList titles;
+    for (const QAbstractButton* button : header.findChildren<QAbstractButton*>())
+        titles << button->text();
+    return titles;
+}
+
+/// Gets the links in place of the browser.
+class Browser : public QObject {
+    Q_OBJECT
+
+public:
+    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
+
+    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
+
+    Q_INVOKABLE void open(const QUrl& url) { opened << url; }
+
+    QList<QUrl> opened;
+};
+
+} // namespace
+
+TEST(PluginHeaderView, TabsAreAnOrdinaryParameter) {
+    HostWatch host = pages();
+    PluginHeaderView header(updatePage, QStringLiteral("1.0"), host.parameter, std::nullopt);
+    EXPECT_EQ(header.height(), 46);
+    EXPECT_EQ(titles(header).mid(1),
+              (QStringList{QStringLiteral("SCALE"), QStringLiteral("CHORD"), QStringLiteral("HUMAN")}));
+    EXPECT_THAT(selection(header), ElementsAre(true, false, false));
+    header.findChildren<TabButton*>()[2]->click();
+    EXPECT_THAT(host.take(), ElementsAre("value 2"));
+    EXPECT_THAT(selection(header), ElementsAre(false, false, true));
+    host.send(1);
+    EXPECT_THAT(selection(header), ElementsAre(false, true, false));
+    host.send(1.5);
+    EXPECT_THAT(selection(header), ElementsAre(false, false, false));
+}
+
+TEST(PluginHeaderView, WithoutNamesUpdateOrMenuThereIsOnlyTheVersion) {
+    HostWatch host;
+    const PluginHeaderView header(updatePage, QStringLiteral("1.0"), host.parameter, std::nullopt);
+    EXPECT_EQ(header.findChildren<QAbstractButton*>().size(), 1) << "the logo";
+    ASSERT_EQ(header.findChildren<QLabel*>().size(), 1);
+    EXPECT_EQ(header.findChild<QLabel*>()->text(), QStringLiteral("1.0"));
+}
+
+TEST(PluginHeaderView, LinksOpenInTheBrowserAndTheMenuIsMadeOnce) {
+    const Browser browser;
+    HostWatch host;
+    int made = 0;
+    const PluginHeaderView header(updatePage, QStringLiteral("1.0"), host.parameter,
+                                  UpdateAvailableDetails{QStringLiteral("2.1")}, [&]() -> QWidget* {
+                                      ++made;
+                                      auto* const menu = new QWidget;
+                                      menu->setObjectName(QStringLiteral("menu"));
+                                      return menu;
+                                  });
+    const auto buttons = header.findChildren<QAbstractButton*>();
+    ASSERT_EQ(buttons.size(), 2);
+    EXPECT_EQ(buttons[1]->text(), QStringLiteral("2.1 AVAILABLE"));
+    buttons[0]->click();
+    buttons[1]->click();
+    EXPECT_EQ(browser.opened, (QList<QUrl>{chorale::MakerLinks::website(), updatePage}));
+    EXPECT_EQ(made, 1);
+    EXPECT_NE(header.findChild<QWidget*>(QStringLiteral("menu")), nullptr);
+}
+
+#include "PluginHeaderViewTest.moc"

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "PowerButtonCell.h"
+
+#include <Tidepool/StyledButton.h>
+
+/// Switches the effect on and off.
+class PowerButton : public tidepool::StyledButton {
+    Q_OBJECT
+
+public:
+    explicit PowerButton(QWidget* parent = nullptr);
+};

@@ -1,0 +1,22 @@
+#include "PowerButtonCell.h"
+
+#include <Tidepool/TPColors.h>
+
+#include <QPainter>
+
+PowerButtonCellStyle::PowerButtonCellStyle() {
+    setBezelImages({});
+    setBackgroundColor(tidepool::TPColors::grey30);
+    setHighlightedBackgroundColor(tidepool::TPColors::Vantor::aqua);
+}
+
+PowerButtonCell::PowerButtonCell() {
+    setButtonType(ButtonType::pushOnPushOff);
+}
+
+void PowerButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(style().backgroundColor(controlState()));
+    painter.drawEllipse(frame.adjusted(4, 4, -4, -4));
+}
