@@ -1,5 +1,7 @@
 #include "Chorale/ParameterSettings.h"
 
+#include "Platform/AudioUnits/DisplayQueue.h"
+#include "Platform/AudioUnits/RealtimeScope.h"
 #include "Platform/Core/Bundle.h"
 
 #include <QCoreApplication>
@@ -10,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <limits>
 #include <thread>
 #include <utility>
@@ -164,6 +167,50 @@ TEST_F(ParameterSettingsTest, SettingsMayGoAway) {
     EXPECT_TRUE(watched.expired());
     hostParameter(0).setValue(8);
     EXPECT_TRUE(m_unit->applied.empty());
+}
+
+// For the thread sanitizer: host, audio unit and screen at once, while the audio unit is replaced.
+TEST_F(ParameterSettingsTest, ThreadsMayChangeEverythingAtOnce) {
+    class CountingUnit : public ChoraleAudioUnit {
+    public:
+        void applyParameterValue(platform::AUParameterAddress, float) override { ++applied; }
+
+        std::atomic<long> applied = 0;
+    };
+
+    const QList<std::shared_ptr<AudioParameter>> parameters{parameter(0), parameter(1), parameter(2)};
+    m_settings->setupParameters(parameters);
+    auto unit = std::make_shared<CountingUnit>();
+    m_settings->configureAudioUnit(unit);
+    m_settings->setupParameterTreeListeners();
+    constexpr int changes = 5'000;
+    std::atomic<int> running = 3;
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 3; ++thread)
+        threads.emplace_back([&, thread] {
+            const platform::RealtimeScope scope;
+            for (int i = 1; i <= changes; ++i) {
+                const auto& changed = parameters[(i + thread) % 3];
+                if (thread == 0)
+                    changed->setValue(float(i % 100), ParameterEditor::ui, ParameterEditorState::change);
+                else
+                    changed->auParameter()->setValue(float(i % 100));
+            }
+            --running;
+        });
+    while (running > 0) {
+        turn();
+        unit = std::make_shared<CountingUnit>();
+        m_settings->configureAudioUnit(unit);
+        m_settings->setupParameterTreeListeners();
+    }
+    for (auto& thread : threads)
+        thread.join();
+    parameters[0]->auParameter()->setValue(42);
+    platform::DisplayQueue::shared().drain();
+    platform::DisplayQueue::shared().drain();
+    EXPECT_EQ(parameters[0]->value(), 42);
+    EXPECT_GE(unit->applied, 4) << "the last unit has its initial values, and the last change";
 }
 
 TEST_F(ParameterSettingsTest, HostReadsTexts) {
