@@ -9,8 +9,8 @@ void BackButton::setAlphaValue(qreal alpha) {
     StyledButton::setAlphaValue(alpha);
     if (alpha > 0 && isHidden())
         show();
-    else if (alpha == 0 && !isHidden())
-        hide();
+    else if (alpha == 0)
+        hide(); // also one that was never shown, which its window would show
 }
 
 QMarginsF BackButton::alignmentRectInsets() const {

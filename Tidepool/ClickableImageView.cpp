@@ -1,21 +1,22 @@
 #include "Tidepool/ClickableImageView.h"
 
+#include "Tidepool/ButtonCellStyle.h"
+#include "Tidepool/CellDrawing.h"
+#include "Tidepool/ClickableImageViewAccessibility.h"
+#include "Tidepool/StyleReference.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include <utility>
 
 namespace tidepool {
 
-namespace {
-
-constexpr qreal pressed = 0.5;
-
-} // namespace
-
 ClickableImageView::ClickableImageView(platform::Image image, const QString& description, QWidget* parent)
     : ImageView(std::move(image), description, parent),
       m_clicked(std::make_shared<platform::PassthroughSubject<std::monostate>>()) {
+    installClickableImageViewAccessibility();
     setFocusPolicy(Qt::TabFocus);
     clickGestureRecognizer();
 }
@@ -24,37 +25,43 @@ const std::shared_ptr<platform::PassthroughSubject<std::monostate>>& ClickableIm
     return m_clicked;
 }
 
+void ClickableImageView::click() {
+    // A subscriber may destroy the view.
+    const auto clicked = m_clicked;
+    clicked->send(std::monostate());
+}
+
 platform::ClickGestureRecognizer& ClickableImageView::clickGestureRecognizer() {
+    constexpr qreal pressed = 0.5;
     if (!m_recognizer)
         m_recognizer = std::make_unique<platform::ClickGestureRecognizer>(
-            *this, [this] { m_clicked->send(std::monostate()); });
+            *this, [this] { click(); }, [this](bool isPressed) { setAlphaValue(isPressed ? pressed : 1); });
     return *m_recognizer;
+}
+
+void ClickableImageView::paintEvent(QPaintEvent* event) {
+    ImageView::paintEvent(event);
+    if (!hasFocus() || !isActiveWindow())
+        return;
+    QPainter painter(this);
+    drawFocusRing(painter, QRectF(rect()), StyleReference().get<ButtonCellStyle>(this).focusRingColor());
 }
 
 void ClickableImageView::mousePressEvent(QMouseEvent* event) {
     event->setAccepted(event->button() == Qt::LeftButton && isEnabled());
-    if (event->isAccepted())
-        setAlphaValue(pressed);
 }
 
 void ClickableImageView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && isEnabled())
-        setAlphaValue(1);
+    event->setAccepted(event->button() == Qt::LeftButton && isEnabled());
 }
 
 void ClickableImageView::keyPressEvent(QKeyEvent* event) {
     const bool presses =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (presses && !event->isAutoRepeat())
-        m_clicked->send(std::monostate());
+        click();
     else
         ImageView::keyPressEvent(event);
-}
-
-void ClickableImageView::changeEvent(QEvent* event) {
-    ImageView::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        setAlphaValue(1);
 }
 
 } // namespace tidepool

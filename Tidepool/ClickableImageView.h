@@ -19,14 +19,17 @@ public:
     /// One event for each click; they carry nothing.
     const std::shared_ptr<platform::PassthroughSubject<std::monostate>>& clicked();
 
+    /// As if the user had clicked.
+    void click();
+
     /// As on every control that says so, the click that activates the window counts.
     bool acceptsFirstMouse() const { return true; }
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     platform::ClickGestureRecognizer& clickGestureRecognizer();

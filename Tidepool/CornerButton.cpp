@@ -23,17 +23,24 @@ QMenu* CornerButton::offeredMenu() const {
     return m_alternateMenu != nullptr ? m_alternateMenu.data() : StyledButton::offeredMenu();
 }
 
+void CornerButton::performClick() {
+    if (m_alternateMenu != nullptr)
+        popUp(*m_alternateMenu, positionUnder(*this));
+    else
+        StyledButton::performClick();
+}
+
 void CornerButton::beginTracking(QMouseEvent& event) {
     if (m_alternateMenu == nullptr)
         StyledButton::beginTracking(event);
     else if (event.type() == QEvent::MouseButtonPress)
-        popUp(*m_alternateMenu, positionUnder(*this));
+        performClick();
 }
 
 bool CornerButton::popUpMenu(const QMouseEvent& press) {
     if (!asksForMenu(press) || m_alternateMenu == nullptr)
         return StyledButton::popUpMenu(press);
-    popUp(*m_alternateMenu, positionUnder(*this));
+    performClick();
     return true;
 }
 
@@ -41,7 +48,7 @@ void CornerButton::keyPressEvent(QKeyEvent* event) {
     const bool presses =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (presses && m_alternateMenu != nullptr)
-        popUp(*m_alternateMenu, positionUnder(*this));
+        performClick(); // at once: a menu does not wait for the release
     else
         StyledButton::keyPressEvent(event);
 }

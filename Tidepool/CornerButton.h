@@ -20,6 +20,7 @@ public:
     QMenu* offeredMenu() const override;
 
 protected:
+    void performClick() override;
     void beginTracking(QMouseEvent& event) override;
     bool popUpMenu(const QMouseEvent& press) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -16,11 +16,13 @@ using Environment = platform::Environment<std::shared_ptr<const StyleSet>>;
 
 void StyleSet::apply(QWidget& root, std::shared_ptr<const StyleSet> set) {
     Environment::set(root, std::move(set));
-    root.update();
-    for (QWidget* const widget : root.findChildren<QWidget*>()) {
-        widget->updateGeometry();
-        widget->update();
-    }
+    const auto refresh = [](QWidget& widget) {
+        widget.updateGeometry();
+        widget.update();
+    };
+    refresh(root);
+    for (QWidget* const widget : root.findChildren<QWidget*>())
+        refresh(*widget);
 }
 
 const StyleSet* StyleSet::of(const QWidget* widget) {

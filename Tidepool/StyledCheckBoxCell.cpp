@@ -20,7 +20,7 @@ QSizeF StyledCheckBoxCell::imageSize() const {
 }
 
 QRectF StyledCheckBoxCell::imageRect(const QRectF& bounds) const {
-    return verticallyCentered(arranged(bounds).image, bounds).translated(m_xOffset, 0);
+    return integral(verticallyCentered(arranged(bounds).image, bounds)).translated(m_xOffset, 0);
 }
 
 QRectF StyledCheckBoxCell::titleRect(const QRectF& bounds) const {

@@ -111,11 +111,16 @@ void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {
     const int margin = menu.style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, &menu);
     if (item != nullptr)
         point -= QPoint(isRightToLeft ? -margin : margin, margin);
-    if (isRightToLeft)
+    const QPointer<QAction> shown(item);
+    if (isRightToLeft) {
+        // What its delegate puts into it decides how wide it is.
+        if (auto* const filled = qobject_cast<Menu*>(&menu))
+            filled->updateItems();
         point.rx() -= menu.sizeHint().expandedTo(menu.minimumSize()).width();
-    menu.popup(view.mapToGlobal(point), item);
-    if (item != nullptr)
-        menu.setActiveAction(item);
+    }
+    menu.popup(view.mapToGlobal(point), shown);
+    if (shown)
+        menu.setActiveAction(shown);
 }
 
 QList<MenuItem*> flattenedItems(const Menu& menu) {

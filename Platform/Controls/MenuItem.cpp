@@ -80,8 +80,9 @@ void MenuItem::notify(void (Menu::*signal)(MenuItem*)) {
     QList<QPointer<Menu>> menus;
     for (auto* menu = enclosingMenu(); menu != nullptr; menu = menu->supermenu())
         menus << menu;
+    const QPointer<MenuItem> self(this);
     for (const auto& menu : menus)
-        if (menu)
+        if (menu && self)
             Q_EMIT(menu->*signal)(this);
 }
 

@@ -159,6 +159,13 @@ void PopUpButton::choose(MenuItem* item) {
     Q_EMIT itemChosen(item);
 }
 
+void PopUpButton::chooseAndSend(MenuItem* item) {
+    const QPointer<PopUpButton> self(this);
+    choose(item);
+    if (self)
+        sendAction();
+}
+
 void PopUpButton::finishChoice(MenuItem* item) {
     if (!item->action)
         sendAction();
@@ -169,8 +176,7 @@ void PopUpButton::selectNextItem(QObject*) {
     MenuItem* next = firstSelectable(items.begin() + (indexOfSelectedItem() + 1), items.end());
     if (next == nullptr)
         next = items.value(0);
-    choose(next);
-    sendAction();
+    chooseAndSend(next);
 }
 
 void PopUpButton::selectPreviousItem(QObject*) {
@@ -179,8 +185,7 @@ void PopUpButton::selectPreviousItem(QObject*) {
         fatalError("selectPreviousItem: no item is selected");
     const auto items = itemArray();
     MenuItem* previous = firstSelectable(items.rend() - selected, items.rend());
-    choose(previous != nullptr ? previous : items.back());
-    sendAction();
+    chooseAndSend(previous != nullptr ? previous : items.back());
 }
 
 void PopUpButton::step(int from, int by) {
@@ -261,6 +266,10 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void PopUpButton::performClick() {
+    openMenu();
+}
+
 void PopUpButton::beginTracking(QMouseEvent&) {
     openMenu();
 }
@@ -288,10 +297,9 @@ QSizeF PopUpButton::intrinsicContentSize() const {
     return size;
 }
 
-void PopUpButton::draw(QPainter& painter) {
-    PushButton::draw(painter);
-    if (hasFocus())
-        paintFocusRing(painter, focusRingMaskBounds(), 4);
+void PopUpButton::drawFocus(QPainter& painter) {
+    constexpr qreal radius = 4;
+    paintFocusRing(painter, focusRingMaskBounds(), radius);
 }
 
 } // namespace platform

@@ -74,7 +74,8 @@ protected:
     /// For subclasses with a cell of their own.
     PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent);
 
-    void draw(QPainter& painter) override;
+    void performClick() override;
+    void drawFocus(QPainter& painter) override;
     void beginTracking(QMouseEvent& event) override;
     bool popUpMenu(const QMouseEvent& press) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -88,6 +89,7 @@ private:
     void itemsChanged();
     int titleOverhang() const;
     void choose(MenuItem* item);
+    void chooseAndSend(MenuItem* item);
     void finishChoice(MenuItem* item);
     void step(int from, int by);
     void selectTyped(const QString& text);

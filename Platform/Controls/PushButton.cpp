@@ -26,7 +26,7 @@ PushButton::PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, Q
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_cell->setControlView(this);
-    connect(this, &QAbstractButton::clicked, this, [this] { Control::sendAction(); });
+    connect(this, &QAbstractButton::clicked, this, [this] { performClick(); });
 }
 
 PushButton::~PushButton() {
@@ -39,7 +39,7 @@ ButtonCell& PushButton::cell() const {
     m_cell->setFont(font());
     m_cell->setLayoutDirection(layoutDirection());
     m_cell->setEnabled(isEnabled());
-    m_cell->setHighlighted(isDown() || m_showsMenu);
+    m_cell->setHighlighted(isDown() || m_openMenu != nullptr);
     return *m_cell;
 }
 
@@ -103,6 +103,10 @@ void PushButton::nextCheckState() {
         setState(m_cell->nextState());
 }
 
+void PushButton::performClick() {
+    Control::sendAction();
+}
+
 void PushButton::draw(QPainter& painter) {
     cell().draw(painter, QRectF(rect()));
 }
@@ -143,14 +147,16 @@ bool PushButton::popUpMenu(const QMouseEvent& press) {
 }
 
 void PushButton::popUp(QMenu& menu, QPoint position, QAction* item) {
-    const auto show = [this](bool shows) {
-        m_showsMenu = shows;
-        update();
-    };
-    show(true);
-    connect(
-        &menu, &QMenu::aboutToHide, this, [show] { show(false); }, Qt::SingleShotConnection);
+    connect(&menu, &QMenu::aboutToHide, this, &PushButton::menuClosed, Qt::UniqueConnection);
+    connect(&menu, &QMenu::destroyed, this, qOverload<>(&QWidget::update), Qt::UniqueConnection);
+    m_openMenu = &menu;
+    update();
     platform::popUp(menu, item, position, *this);
+}
+
+void PushButton::menuClosed() {
+    m_openMenu = nullptr;
+    update();
 }
 
 void PushButton::mousePressEvent(QMouseEvent* event) {
@@ -176,10 +182,13 @@ void PushButton::mouseReleaseEvent(QMouseEvent* event) {
     }
     const bool isInside = hitButton(event->position().toPoint());
     m_tracking->release();
-    if (isInside)
-        click();
-    else
+    if (isInside) {
+        // Not `click`, which would begin with another press.
+        setDown(true);
+        QAbstractButton::mouseReleaseEvent(event);
+    } else {
         Q_EMIT released();
+    }
 }
 
 void PushButton::keyPressEvent(QKeyEvent* event) {

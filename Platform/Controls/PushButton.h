@@ -76,6 +76,9 @@ Q_SIGNALS:
     void stateChanged(platform::ControlState state);
 
 protected:
+    /// What a click does, whichever way it was made: sends the action.
+    virtual void performClick();
+
     virtual void draw(QPainter& painter);
 
     /// Shows that the keyboard is on the button: a ring within `focusRingMaskBounds`.
@@ -112,9 +115,11 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void menuClosed();
+
     std::unique_ptr<ButtonCell> m_cell;
     QPointer<QMenu> m_menu;
-    bool m_showsMenu = false;
+    QPointer<QMenu> m_openMenu; // while it is open
     qreal m_alphaValue = 1;
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
 };

@@ -5,6 +5,7 @@
 #include "tests/support/Pixels.h"
 
 #include <QApplication>
+#include <QSignalSpy>
 #include <QStyleHints>
 #include <QTest>
 #include <QVBoxLayout>
@@ -127,6 +128,39 @@ TEST_F(MenuTest, DelegateFillsItEachTimeUntilItIsGone) {
     filler.reset();
     open();
     EXPECT_EQ(m_menu.items().size(), 1);
+}
+
+TEST_F(MenuTest, FromRightToLeftItEndsWhereWhatItIsFilledWithEnds) {
+    class : public platform::MenuDelegate {
+        void menuNeedsUpdate(Menu& menu) override {
+            menu.removeAllItems();
+            menu.addItem(QStringLiteral("A title that is long"));
+        }
+    } filler;
+
+    m_menu.setDelegate(&filler);
+    m_window.setLayoutDirection(Qt::RightToLeft);
+    const QPoint point(300, 20);
+    popUp(m_menu, nullptr, point, m_window);
+    EXPECT_EQ(m_menu.geometry().right() + 1, m_window.mapToGlobal(point).x());
+}
+
+TEST_F(MenuTest, TheItemToShowMayBeReplacedByTheDelegate) {
+    Filler filler;
+    MenuItem& item = m_menu.addItem(QStringLiteral("Old"));
+    m_menu.setDelegate(&filler);
+    popUp(m_menu, &item, {20, 20}, m_window);
+    EXPECT_EQ(m_menu.activeAction(), nullptr);
+}
+
+TEST_F(MenuTest, NobodyHearsOfAnItemThatHasGone) {
+    MenuItem& folder = m_menu.addItem(QStringLiteral("Folder"));
+    folder.setSubmenu(std::make_unique<Menu>());
+    MenuItem& item = folder.submenu()->addItem(QStringLiteral("Item"));
+    QObject::connect(folder.submenu(), &Menu::willSendAction, [](MenuItem* chosen) { delete chosen; });
+    QSignalSpy outer(&m_menu, &Menu::willSendAction);
+    item.trigger();
+    EXPECT_EQ(outer.count(), 0);
 }
 
 TEST_F(MenuTest, SubmenusOpenByKeyAndTellTheirSupermenu) {

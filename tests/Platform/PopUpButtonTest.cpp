@@ -1,8 +1,11 @@
 #include "Platform/Controls/PopUpButton.h"
+#include "Platform/Controls/ButtonStyle.h"
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -243,6 +246,35 @@ TEST_F(PopUpButtonTest, CyclingWrapsWithinOneItemAndNone) {
     fill(QStringLiteral("Ab"));
     EXPECT_EQ(cycled(next), QStringLiteral("A"));
     EXPECT_EQ(cycled(previous), QStringLiteral("B")) << "though it is disabled";
+}
+
+TEST_F(PopUpButtonTest, MayBeDestroyedByItsChoice) {
+    auto* const button = new PopUpButton;
+    button->setAction(chosen, &m_owner);
+    button->addItem(QStringLiteral("A"));
+    QObject::connect(button, &PopUpButton::itemChosen, button, [button] { delete button; });
+    button->selectNextItem();
+    EXPECT_TRUE(m_owner.selected.isEmpty());
+}
+
+TEST_F(PopUpButtonTest, TheMnemonicOfItsLabelOpensTheMenu) {
+    fill(QStringLiteral("AB"));
+    QLabel label(QStringLiteral("&Choice"), &m_window);
+    label.setBuddy(&m_button);
+    label.show();
+    QTest::keyClick(&m_window, Qt::Key_C, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_button.menu()->isVisible(); }));
+    EXPECT_TRUE(m_owner.selected.isEmpty()) << "nothing has been chosen yet";
+}
+
+TEST_F(PopUpButtonTest, HasOneRingWhileItHasTheKeyboard) {
+    m_button.clearFocus();
+    QImage expected = picture(m_button);
+    QPainter painter(&expected);
+    platform::paintFocusRing(painter, m_button.focusRingMaskBounds(), 4);
+    painter.end();
+    m_button.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(difference(picture(m_button), expected), 0);
 }
 
 TEST_F(PopUpButtonDeathTest, CyclingBackFromNothingIsFatal) {

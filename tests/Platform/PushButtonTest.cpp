@@ -116,3 +116,16 @@ TEST(PushButton, MenuKeyOpensItsMenu) {
     menu.close();
     EXPECT_FALSE(button.cell().isHighlighted());
 }
+
+TEST(PushButton, IsNotHighlightedForAMenuThatHasGone) {
+    auto menu = std::make_unique<QMenu>();
+    menu->addAction(QStringLiteral("Item"));
+    PushButton button;
+    button.setMenu(menu.get());
+    button.resize(40, 24);
+    button.show();
+    QTest::mousePress(&button, Qt::RightButton);
+    EXPECT_TRUE(button.cell().isHighlighted());
+    menu.reset();
+    EXPECT_FALSE(button.cell().isHighlighted());
+}

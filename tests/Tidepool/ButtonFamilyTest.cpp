@@ -13,6 +13,8 @@
 #include "tests/support/ActionCounter.h"
 #include "tests/support/Pixels.h"
 
+#include <QAccessible>
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QTest>
 
@@ -53,6 +55,16 @@ TEST(BackButton, AlphaShowsAndHidesIt) {
     EXPECT_FALSE(button.isHidden()) << "above 0 shows a hidden button";
 }
 
+TEST(BackButton, StaysHiddenIfItWasTransparentBeforeItsWindowWasShown) {
+    QWidget window;
+    QHBoxLayout layout(&window);
+    auto* const button = new BackButton(QStringLiteral("Back"));
+    button->setAlphaValue(0);
+    layout.addWidget(button);
+    show(window);
+    EXPECT_TRUE(button->isHidden());
+}
+
 TEST(BackButton, PointsToWhereLinesBegin) {
     BackButton button;
     button.resize(60, 28);
@@ -83,6 +95,7 @@ TEST(CornerButton, OpensItsMenuUnderItself) {
     EXPECT_TRUE(opens([&] { QTest::mousePress(&button, Qt::LeftButton, Qt::ControlModifier); }));
     EXPECT_TRUE(opens([&] { QTest::keyClick(&button, Qt::Key_Space); }));
     EXPECT_TRUE(opens([&] { QTest::keyClick(&button, Qt::Key_Return); }));
+    EXPECT_TRUE(opens([&] { button.click(); })) << "as its mnemonic and assistive technology do";
     EXPECT_EQ(target.count, 0);
     button.setAlternateMenu(nullptr);
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -193,6 +206,13 @@ TEST(FavouriteCheckBox, ShowsItsStarAndDimsWhileHeld) {
     EXPECT_GT(difference(empty, picture(star)), 100);
 }
 
+TEST(FavouriteCheckBox, StandsOnWholePoints) {
+    FavouriteCheckBox star;
+    const QRectF image = star.cell().imageRect(QRectF(0, 0, 31, 31));
+    EXPECT_EQ(image, QRectF(image.toRect()));
+    EXPECT_TRUE(image.contains(QRectF(7.5, 7.5, 16, 16).center()));
+}
+
 class ToolButtonTest : public testing::Test {
 protected:
     ToolButtonTest() {
@@ -276,6 +296,61 @@ TEST(ClickableImageView, ClicksAndDimsOnlyWhileEnabled) {
     view.setEnabled(true);
     QTest::mouseRelease(&view, Qt::LeftButton, {}, {8, 8});
     EXPECT_EQ(clicks, 2);
+}
+
+class ClickableImageViewTest : public testing::Test {
+protected:
+    ClickableImageViewTest() {
+        m_view->setParent(&m_window);
+        m_window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        m_token = m_view->clicked()->sink([this](std::monostate) { ++m_clicks; });
+    }
+
+    void press() { QTest::mousePress(m_view, Qt::LeftButton, {}, {8, 8}); }
+
+    void release() { QTest::mouseRelease(m_view, Qt::LeftButton, {}, {8, 8}); }
+
+    QWidget m_window;
+    QPointer<ClickableImageView> m_view =
+        new ClickableImageView(TPImages::checkboxOn.image(), QStringLiteral("Picture"));
+    int m_clicks = 0;
+    platform::AnyCancellable m_token;
+};
+
+TEST_F(ClickableImageViewTest, HidingAndEscapeEndThePress) {
+    press();
+    m_view->hide();
+    EXPECT_EQ(m_view->alphaValue(), 1);
+    m_view->show();
+    press();
+    QTest::keyClick(&m_window, Qt::Key_Escape);
+    EXPECT_EQ(m_view->alphaValue(), 1);
+    release();
+    EXPECT_EQ(m_clicks, 0);
+}
+
+TEST_F(ClickableImageViewTest, MayBeDestroyedByItsClick) {
+    const auto destroyer = m_view->clicked()->sink([this](std::monostate) { delete m_view; });
+    press();
+    release();
+    EXPECT_EQ(m_view, nullptr);
+    EXPECT_EQ(m_clicks, 1);
+}
+
+TEST_F(ClickableImageViewTest, ShowsThatItHasTheKeyboard) {
+    m_view->clearFocus();
+    const QImage without = picture(*m_view);
+    m_view->setFocus(Qt::TabFocusReason);
+    EXPECT_GT(difference(without, picture(*m_view)), 60);
+}
+
+TEST_F(ClickableImageViewTest, AssistiveTechnologyPressesIt) {
+    QAccessibleInterface* const view = QAccessible::queryAccessibleInterface(m_view);
+    EXPECT_EQ(view->role(), QAccessible::Button);
+    EXPECT_EQ(view->text(QAccessible::Name), QStringLiteral("Picture"));
+    view->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(m_clicks, 1);
 }
 
 TEST(NoDividerSplitView, PartsTouch) {

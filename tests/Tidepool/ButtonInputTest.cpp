@@ -17,6 +17,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 using namespace tidepool;
 
 namespace {
@@ -74,6 +76,17 @@ TYPED_TEST(ButtonInputTest, ClickSendsTheActionOnRelease) {
     EXPECT_EQ(this->m_target.count, 1);
     EXPECT_EQ(this->m_target.lastSender, this->m_button.data());
     EXPECT_TRUE(this->m_field.hasFocus()); // a click leaves the keyboard where it is
+}
+
+TYPED_TEST(ButtonInputTest, AClickIsOnePress) {
+    const std::array<std::pair<const char*, void (QAbstractButton::*)()>, 2> signals{
+        {{"pressed", &QAbstractButton::pressed}, {"released", &QAbstractButton::released}}};
+    for (const auto& [name, signal] : signals) {
+        QSignalSpy spy(this->m_button.data(), signal);
+        this->press();
+        this->release(this->inside());
+        EXPECT_EQ(spy.count(), 1) << name;
+    }
 }
 
 TYPED_TEST(ButtonInputTest, LeavingAndReleasingOutsideSendsNothing) {

@@ -6,6 +6,7 @@
 #include "tests/support/AllocationCounter.h"
 #include "tests/support/Pixels.h"
 
+#include <QHBoxLayout>
 #include <QPaintEvent>
 #include <QTest>
 
@@ -263,6 +264,22 @@ TEST(StyleSet, HoldsForAWindowAndGivesWayToAnOwnStyle) {
     button.setParent(nullptr);
     EXPECT_EQ(color(button), sharedStyle<ButtonCellStyle>().textColor());
     StyleSet::apply(window, nullptr);
+}
+
+TEST(StyleSet, MayChangeTheSizeOfWhatItIsGivenTo) {
+    QWidget window;
+    QHBoxLayout layout(&window);
+    auto* const button = new StyledButton(QStringLiteral("OK"));
+    layout.addWidget(button);
+    const QSize margins = layout.sizeHint() - button->sizeHint();
+    const auto large = std::make_shared<ButtonCellStyle>();
+    QFont font = large->font();
+    font.setPixelSize(60);
+    large->setFont(font);
+    const auto set = std::make_shared<StyleSet>();
+    set->set<ButtonCellStyle>(large);
+    StyleSet::apply(*button, set);
+    EXPECT_EQ(layout.sizeHint(), button->sizeHint() + margins);
 }
 
 TEST(StyledButtonStyle, AccessorsThatAMakerOverridesReachTheScreen) {
