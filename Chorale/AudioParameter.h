@@ -5,6 +5,7 @@
 #include "Chorale/ParameterEditorState.h"
 #include "Platform/AudioUnits/AUParameterTree.h"
 #include "Platform/AudioUnits/DisplayTarget.h"
+#include "Platform/Core/MainThreadShared.h"
 
 #include <QBindable>
 #include <QObject>

@@ -1,10 +1,10 @@
-"""Checks that the code in the documents is code that a test builds."""
+"""Checks that the code in the documents is code that a test or the plug-in builds."""
 import pathlib
 import re
 import unittest
 
 ROOT = pathlib.Path(__file__).parents[2]
-CONSUMER = ROOT / "tests/install/consumer"
+BUILT = [ROOT / "tests/install/consumer", ROOT / "Plugin/Editor"]
 
 
 def without_space(text):
@@ -13,12 +13,14 @@ def without_space(text):
 
 class DocumentedCode(unittest.TestCase):
     def test_is_built(self):
-        built = [without_space(path.read_text()) for path in sorted(CONSUMER.iterdir())]
-        blocks = re.findall(r"^```(?:cpp|cmake)\n(.*?)^```$", (ROOT / "docs/tidepool.md").read_text(), re.M | re.S)
-        self.assertGreater(len(blocks), 5)
-        for block in blocks:
-            with self.subTest(block=block):
-                self.assertTrue(any(without_space(block) in source for source in built))
+        built = [without_space(path.read_text()) for folder in BUILT for path in sorted(folder.iterdir())]
+        for document in ("tidepool.md", "chorale.md"):
+            text = (ROOT / "docs" / document).read_text()
+            blocks = re.findall(r"^```(?:cpp|cmake)\n(.*?)^```$", text, re.M | re.S)
+            self.assertGreater(len(blocks), 3)
+            for block in blocks:
+                with self.subTest(document=document, block=block):
+                    self.assertTrue(any(without_space(block) in source for source in built))
 
 
 if __name__ == "__main__":
