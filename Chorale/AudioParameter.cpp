@@ -44,7 +44,7 @@ AudioUnitParameterOptions flags(const AudioParameter& parameter) {
 }
 
 std::shared_ptr<platform::AUParameter> hostParameter(const AudioParameter& parameter) {
-    const auto host = platform::AUParameterTree::createParameter(
+    auto host = platform::AUParameterTree::createParameter(
         {.identifier = parameter.identifier(),
          .name = parameter.name(),
          .address = parameter.address(),

@@ -39,7 +39,7 @@ std::shared_ptr<AUParameter> AUParameterTree::createParameter(AUParameterDescrip
 std::shared_ptr<AUParameterGroup>
 AUParameterTree::createGroup(QString identifier, QString displayName,
                              QList<std::shared_ptr<AUParameterNode>> children) {
-    const std::shared_ptr<AUParameterGroup> group(
+    std::shared_ptr<AUParameterGroup> group(
         new AUParameterGroup(std::move(identifier), std::move(displayName), std::move(children)),
         DeleteOnMainThread());
     group->adoptChildren();
@@ -48,8 +48,7 @@ AUParameterTree::createGroup(QString identifier, QString displayName,
 
 std::shared_ptr<AUParameterTree>
 AUParameterTree::createTree(QList<std::shared_ptr<AUParameterNode>> children) {
-    const std::shared_ptr<AUParameterTree> tree(new AUParameterTree(std::move(children)),
-                                                DeleteOnMainThread());
+    std::shared_ptr<AUParameterTree> tree(new AUParameterTree(std::move(children)), DeleteOnMainThread());
     tree->adoptChildren();
     return tree;
 }
