@@ -5,6 +5,7 @@
 #include "Chorale/ParameterView.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace chorale {
 

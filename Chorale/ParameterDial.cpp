@@ -23,6 +23,7 @@ namespace {
 /// How far a drag goes from one end of the range to the other, in points.
 constexpr double fullDrag = 200;
 constexpr double fineFactor = 0.1;
+constexpr float fineStep = 0.1F;
 constexpr float pageSteps = 10;
 
 double angle(QPointF position, QPointF center) {
@@ -73,8 +74,8 @@ ParameterDial::~ParameterDial() {
 }
 
 QString ParameterDial::valueText() const {
-    if (const auto& names = m_param->valueStrings(); names && !names->isEmpty())
-        return hostText(m_param->value(), names);
+    if (hasDetents())
+        return hostText(m_param->value(), m_param->valueStrings());
     const QString value = displayText(*m_param, m_decimalPlaces, locale());
     const QString suffix = m_param->displayableSuffix();
     return suffix.isEmpty() ? value : value + u' ' + suffix;
@@ -124,11 +125,14 @@ double ParameterDial::moved(QPointF to) {
     return std::remainder(turned, 2 * std::numbers::pi) / dialSweep;
 }
 
+bool ParameterDial::hasDetents() const {
+    return m_param->valueStrings() && !m_param->valueStrings()->isEmpty();
+}
+
 void ParameterDial::apply() {
     const auto& range = m_param->valueRange();
     const double value = range.lowerBound() + m_position * (range.upperBound() - range.lowerBound());
-    const bool hasDetents = m_param->valueStrings() && !m_param->valueStrings()->isEmpty();
-    m_gesture->setValue(static_cast<float>(hasDetents ? std::round(value) : value));
+    m_gesture->setValue(static_cast<float>(hasDetents() ? std::round(value) : value));
 }
 
 void ParameterDial::reset() {
@@ -174,10 +178,11 @@ void ParameterDial::wheelEvent(QWheelEvent* event) {
     // Some desktops turn the wheel's axis while Shift or Alt is held.
     const QPoint delta = event->angleDelta();
     m_wheel += (delta.y() != 0 ? delta.y() : delta.x()) * (event->inverted() ? -1 : 1);
-    const bool hasDetents = m_param->valueStrings() && !m_param->valueStrings()->isEmpty();
-    const float steps = hasDetents ? static_cast<float>(m_wheel / notch)
-                                   : static_cast<float>(m_wheel) / notch * (isFine ? 0.1F : 1.0F);
-    m_wheel = hasDetents ? m_wheel % notch : 0;
+    // Only whole notches reach the next name; a number follows any part of one.
+    float steps = static_cast<float>(m_wheel) / notch * (isFine ? fineStep : 1);
+    if (hasDetents())
+        steps = std::trunc(static_cast<float>(m_wheel) / notch);
+    m_wheel = hasDetents() ? m_wheel % notch : 0;
     if (steps != 0)
         step(m_param, steps);
     event->accept();
@@ -195,14 +200,14 @@ void ParameterDial::stepOnce(float count) {
 
 void ParameterDial::keyPressEvent(QKeyEvent* event) {
     const float count = stepsOf(*event);
-    if (m_tracking && m_tracking->isActive())
+    const bool isDragged = m_tracking && m_tracking->isActive();
+    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier) && !hasDetents();
+    if (isDragged || (count == 0 && !isReset(*event)))
         QWidget::keyPressEvent(event);
-    else if (isReset(*event))
+    else if (count == 0)
         reset();
-    else if (count != 0)
-        stepOnce(event->modifiers().testFlag(Qt::ShiftModifier) && !std::isinf(count) ? count * 0.1F : count);
     else
-        QWidget::keyPressEvent(event);
+        stepOnce(isFine ? count * fineStep : count);
 }
 
 void ParameterDial::keyReleaseEvent(QKeyEvent* event) {

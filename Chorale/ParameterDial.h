@@ -52,6 +52,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    bool hasDetents() const;
     void beginDrag(const QMouseEvent& press);
     void reset();
     /// Part of the range that the pointer has moved by since it was last seen.

@@ -3,6 +3,8 @@
 #include "Chorale/AudioParameter.h"
 #include "Chorale/ParameterAccessibility.h"
 
+#include "Platform/AudioUnits/DisplayPump.h"
+
 #include <QAccessible>
 #include <QWidget>
 
@@ -10,6 +12,7 @@ namespace chorale {
 
 void ParameterView::follow(QWidget& view) {
     installParameterAccessibility();
+    new platform::ParameterVisibility(view);
     view.setAccessibleName(parameter()->name());
     QObject::connect(parameter().get(), &AudioParameter::valueChanged, &view, [this, &view] {
         view.update();

@@ -7,6 +7,7 @@
 #include "Chorale/RocketFontModifier.h"
 #include "Chorale/TabButton.h"
 #include "Chorale/UpdateButtonStyle.h"
+#include "Platform/AudioUnits/DisplayPump.h"
 
 #include <QDesktopServices>
 #include <QGridLayout>
@@ -42,6 +43,7 @@ PluginHeaderView::PluginHeaderView(QUrl appUpdateURL, const QString& pluginVersi
                                    const std::function<QWidget*()>& menu, QWidget* parent)
     : QWidget(parent), m_appUpdateURL(std::move(appUpdateURL)), m_tabParameter(std::move(tabParameter)) {
     setFixedHeight(barHeight);
+    new platform::ParameterVisibility(*this);
     // The three rows lie over each other, so that the tabs stay in the middle of the bar.
     auto* const layers = new QGridLayout(this);
     layers->setContentsMargins(leadingPadding, 0, trailingPadding, 0);
