@@ -6,10 +6,12 @@
 #include "Chorale/ParameterDial.h"
 #include "Chorale/ParameterHoldButton.h"
 #include "Chorale/PluginHeaderView.h"
+#include "Chorale/RocketFontModifier.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -44,11 +46,18 @@ QVBoxLayout* makeDial(const Parameter& parameter) {
 }
 
 QVBoxLayout* makeHold(const Parameter& parameter) {
-    auto* const column = new QVBoxLayout;
-    auto* const button =
-        new chorale::ParameterHoldButton(parameter, EditorImages::hold, EditorImages::holdDown);
-    column->addWidget(button, 0, Qt::AlignCenter);
-    return column;
+    auto* const place = new QWidget;
+    place->setFixedHeight(static_cast<int>(dialDiameter));
+    auto* const middle = new QHBoxLayout(place);
+    middle->setContentsMargins({});
+    middle->addWidget(
+        new chorale::ParameterHoldButton(parameter, EditorImages::hold, EditorImages::holdDown));
+    auto* const name = new QLabel(parameter->name().toUpper());
+    chorale::rocketFont(*name, nameSize);
+    QPalette palette = name->palette();
+    palette.setColor(QPalette::WindowText, EditorColors::label.color());
+    name->setPalette(palette);
+    return makeColumn(place, name);
 }
 
 } // namespace

@@ -162,7 +162,7 @@ protected:
     static constexpr std::int16_t dialX = 89;
     static constexpr std::int16_t dialY = 110;
     static constexpr std::int16_t holdX = 430;
-    static constexpr std::int16_t holdY = 137;
+    static constexpr std::int16_t holdY = 110;
 
     void drag(Host& host, int upwards, const std::function<void()>& meanwhile = {}) {
         m_screen.movePointer(dialX, dialY);
