@@ -4,6 +4,7 @@
 #include "Gallery/Pages/ColorsPage.h"
 #include "Gallery/Pages/ImageButtonsPage.h"
 #include "Gallery/Pages/ImagesPage.h"
+#include "Gallery/Pages/MenusPage.h"
 #include "Gallery/Pages/PushButtonsPage.h"
 #include "Gallery/Pages/StatesPage.h"
 #include "Gallery/Pages/ToolButtonsPage.h"
@@ -13,7 +14,7 @@ namespace gallery {
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
         colorsPage(),     imagesPage(),      statesPage(),       pushButtonsPage(),
-        checkBoxesPage(), toolButtonsPage(), imageButtonsPage(),
+        checkBoxesPage(), toolButtonsPage(), imageButtonsPage(), menusPage(),
     };
     return pages;
 }

@@ -1,9 +1,12 @@
 #include "Gallery/StyleSet.h"
 
+#include "Gallery/Layout/Text.h"
+#include "Tidepool/CheckBoxCellStyle.h"
 #include "Tidepool/ControlAssets.h"
 #include "Tidepool/KitStyles.h"
 #include "Tidepool/TPColors.h"
 
+#include <QApplication>
 #include <QPalette>
 
 namespace gallery {
@@ -13,6 +16,8 @@ using tidepool::TPColorsAK;
 void useAppearance(GallerySettings::StyleSet set) {
     const bool isLight = set == GallerySettings::StyleSet::light;
     platform::setAppearance(isLight ? platform::Appearance::light : platform::Appearance::dark);
+    // Menus and tool tips are windows of their own.
+    QApplication::setPalette(kitPalette());
 }
 
 QPalette kitPalette() {
@@ -25,7 +30,7 @@ QPalette kitPalette() {
     palette.setColor(QPalette::ButtonText, TPColorsAK::grey85);
     palette.setColor(QPalette::PlaceholderText, TPColorsAK::grey60);
     palette.setColor(QPalette::Highlight, tidepool::SignalColors::systemHighlight);
-    palette.setColor(QPalette::HighlightedText, TPColorsAK::grey100);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, TPColorsAK::grey40);
     return palette;
@@ -33,6 +38,16 @@ QPalette kitPalette() {
 
 std::shared_ptr<const tidepool::StyleSet> kitStyles(const GallerySettings& settings) {
     return tidepool::makeStyleSet(platform::currentAppearance(), accentOf(settings));
+}
+
+std::shared_ptr<const tidepool::StyleSet> formStyles(const GallerySettings& settings) {
+    const auto box = std::make_shared<tidepool::CheckBoxCellStyle>();
+    box->setFont(textFont(TextRole::body));
+    if (const std::optional<QColor> accent = accentOf(settings))
+        tidepool::applyAccent(*box, *accent);
+    const auto set = std::make_shared<tidepool::StyleSet>();
+    set->set<tidepool::CheckBoxCellStyle>(box);
+    return set;
 }
 
 std::optional<QColor> accentOf(const GallerySettings& settings) {

@@ -6,11 +6,10 @@
 #include "Gallery/Pages/StateImageTable.h"
 #include "Gallery/Pages/StyleClasses.h"
 #include "Gallery/StyleSet.h"
-
+#include "Platform/Controls/PopUpButton.h"
 #include "Tidepool/KitStyles.h"
+#include "Tidepool/StyledCheckBox.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -18,6 +17,9 @@
 
 namespace gallery {
 
+using platform::ControlState;
+using platform::PopUpButton;
+using tidepool::StyledCheckBox;
 using tidepool::StyledControlState;
 
 namespace {
@@ -73,13 +75,14 @@ QWidget* StatesPage::makeChoice() {
     row->setContentsMargins({});
     row->setHorizontalSpacing(48);
     row->setVerticalSpacing(8);
-    auto* const classes = new QComboBox;
+    auto* const classes = new PopUpButton;
     for (const StyleClass& styleClass : styleClasses())
         classes->addItem(QString::fromLatin1(styleClass.name));
-    classes->setCurrentIndex(m_selection->styleClass);
+    classes->selectItem(m_selection->styleClass);
     classes->setMinimumWidth(280);
     classes->setAccessibleName(tr("Style class"));
-    connect(classes, &QComboBox::currentIndexChanged, this, &StatesPage::setStyleClass);
+    connect(classes, &PopUpButton::itemChosen, this,
+            [this, classes] { setStyleClass(classes->indexOfSelectedItem()); });
     row->addWidget(makeText(tr("Style class"), TextRole::caption), 0, 0);
     row->addWidget(classes, 1, 0, Qt::AlignTop);
     row->addWidget(makeText(tr("Flags"), TextRole::caption), 0, 1);
@@ -91,14 +94,16 @@ QWidget* StatesPage::makeChoice() {
 QWidget* StatesPage::makeFlags() {
     constexpr int columns = 4;
     auto* const flags = new QWidget;
+    tidepool::StyleSet::apply(*flags, formStyles(m_settings));
     auto* const grid = new QGridLayout(flags);
     grid->setContentsMargins({});
     grid->setHorizontalSpacing(28);
     grid->setVerticalSpacing(10);
     for (const StyledControlState flag : StyledControlState::all) {
-        auto* const box = new QCheckBox(flag.description());
-        box->setChecked(m_selection->state.contains(flag));
-        connect(box, &QCheckBox::toggled, this, [this, flag](bool isSet) { setFlags(flag, isSet); });
+        auto* const box = new StyledCheckBox(flag.description());
+        box->setState(m_selection->state.contains(flag) ? ControlState::on : ControlState::off);
+        connect(box, &StyledCheckBox::stateChanged, this,
+                [this, flag](ControlState state) { setFlags(flag, state == ControlState::on); });
         grid->addWidget(box, grid->count() / columns, grid->count() % columns);
     }
     return flags;

@@ -55,7 +55,6 @@ void GalleryWindow::showCurrentPage() {
     const GalleryPage& page = m_pages[static_cast<std::size_t>(m_current)];
     const GallerySettings settings = m_settings->settings();
     useAppearance(settings.styleSet);
-    setPalette(kitPalette());
     setWindowTitle(tr("%1 – Tidepool Gallery").arg(page.title));
     m_settings->showSettingsOf(page);
     m_preview->show(page, settings);

@@ -1,14 +1,19 @@
 #include "Gallery/Window/SettingsBar.h"
 
+#include "Gallery/StyleSet.h"
+#include "Platform/Controls/PopUpButton.h"
+#include "Tidepool/StyledCheckBox.h"
 #include "Tidepool/TPColors.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 
 namespace gallery {
+
+using platform::ControlState;
+using platform::PopUpButton;
+using tidepool::StyledCheckBox;
 
 SettingsBar::SettingsBar(QWidget* parent) : QWidget(parent), m_row(new QHBoxLayout(this)) {
     m_row->setContentsMargins(20, 10, 20, 10);
@@ -17,33 +22,43 @@ SettingsBar::SettingsBar(QWidget* parent) : QWidget(parent), m_row(new QHBoxLayo
     m_scale = addChoice(tr("Scale"), {QStringLiteral("1×"), QStringLiteral("2×")});
     m_rightToLeft = addBox(tr("Right to left"));
     m_size = addChoice(tr("Size"), {tr("Small"), tr("Regular"), tr("Large")});
-    m_size->setCurrentIndex(static_cast<int>(GallerySettings::ControlSize::regular));
+    m_size->selectItem(static_cast<int>(GallerySettings::ControlSize::regular));
     m_enabled = addBox(tr("Enabled"));
-    m_enabled->setChecked(true);
+    m_enabled->setState(ControlState::on);
     m_selected = addBox(tr("Selected"));
     m_row->addStretch();
+    m_noted = settings();
 }
 
-QCheckBox* SettingsBar::addBox(const QString& title) {
-    auto* const box = new QCheckBox(title);
+StyledCheckBox* SettingsBar::addBox(const QString& title) {
+    auto* const box = new StyledCheckBox(title);
     m_row->addWidget(box);
-    connect(box, &QCheckBox::toggled, this, &SettingsBar::settingsChanged);
+    connect(box, &StyledCheckBox::clicked, this, &SettingsBar::noteChange);
     return box;
 }
 
-QComboBox* SettingsBar::addChoice(const QString& title, const QStringList& choices) {
+PopUpButton* SettingsBar::addChoice(const QString& title, const QStringList& choices) {
     auto* const pair = new QHBoxLayout;
     pair->setSpacing(8);
     auto* const label = new QLabel(title);
-    auto* const choice = new QComboBox;
-    choice->addItems(choices);
+    auto* const choice = new PopUpButton;
+    for (const QString& name : choices)
+        choice->addItem(name);
     choice->setAccessibleName(title);
     label->setBuddy(choice);
     pair->addWidget(label);
     pair->addWidget(choice);
     m_row->addLayout(pair);
-    connect(choice, &QComboBox::currentIndexChanged, this, &SettingsBar::settingsChanged);
+    connect(choice, &PopUpButton::itemChosen, this, &SettingsBar::noteChange);
     return choice;
+}
+
+/// The same choice again changes nothing.
+void SettingsBar::noteChange() {
+    if (settings() == m_noted)
+        return;
+    m_noted = settings();
+    Q_EMIT settingsChanged();
 }
 
 void SettingsBar::paintEvent(QPaintEvent*) {
@@ -51,15 +66,16 @@ void SettingsBar::paintEvent(QPaintEvent*) {
 }
 
 GallerySettings SettingsBar::settings() const {
-    return {.isEnabled = m_enabled->isChecked(),
-            .isSelected = m_selected->isChecked(),
-            .size = static_cast<GallerySettings::ControlSize>(m_size->currentIndex()),
-            .styleSet = static_cast<GallerySettings::StyleSet>(m_styleSet->currentIndex()),
-            .scale = m_scale->currentIndex() + 1,
-            .isRightToLeft = m_rightToLeft->isChecked()};
+    return {.isEnabled = m_enabled->state() == ControlState::on,
+            .isSelected = m_selected->state() == ControlState::on,
+            .size = static_cast<GallerySettings::ControlSize>(m_size->indexOfSelectedItem()),
+            .styleSet = static_cast<GallerySettings::StyleSet>(m_styleSet->indexOfSelectedItem()),
+            .scale = m_scale->indexOfSelectedItem() + 1,
+            .isRightToLeft = m_rightToLeft->state() == ControlState::on};
 }
 
 void SettingsBar::showSettingsOf(const GalleryPage& page) {
+    tidepool::StyleSet::apply(*this, formStyles(settings()));
     m_enabled->setEnabled(page.hasStates);
     m_selected->setEnabled(page.hasStates);
     m_size->setEnabled(page.hasSizes);

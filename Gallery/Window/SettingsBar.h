@@ -4,10 +4,15 @@
 
 #include <QWidget>
 
-class QCheckBox;
-class QComboBox;
 class QHBoxLayout;
-class QLabel;
+
+namespace platform {
+class PopUpButton;
+}
+
+namespace tidepool {
+class StyledCheckBox;
+}
 
 namespace gallery {
 
@@ -20,7 +25,7 @@ public:
 
     GallerySettings settings() const;
 
-    /// Offers what the page heeds.
+    /// Offers what the page heeds, in the look of the settings.
     void showSettingsOf(const GalleryPage& page);
 
 Q_SIGNALS:
@@ -30,16 +35,19 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QCheckBox* addBox(const QString& title);
-    QComboBox* addChoice(const QString& title, const QStringList& choices);
+    tidepool::StyledCheckBox* addBox(const QString& title);
+    platform::PopUpButton* addChoice(const QString& title, const QStringList& choices);
+
+    void noteChange();
 
     QHBoxLayout* m_row;
-    QCheckBox* m_enabled;
-    QCheckBox* m_selected;
-    QComboBox* m_size;
-    QComboBox* m_styleSet;
-    QComboBox* m_scale;
-    QCheckBox* m_rightToLeft;
+    tidepool::StyledCheckBox* m_enabled;
+    tidepool::StyledCheckBox* m_selected;
+    platform::PopUpButton* m_size;
+    platform::PopUpButton* m_styleSet;
+    platform::PopUpButton* m_scale;
+    tidepool::StyledCheckBox* m_rightToLeft;
+    GallerySettings m_noted;
 };
 
 } // namespace gallery

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QWidget>
 
 #include <array>
 
@@ -121,6 +122,8 @@ void ButtonCell::drawInterior(QPainter& painter, const QRectF& frame) const {
 void ButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
     QStyleOptionButton option;
     option.rect = frame.toAlignedRect();
+    if (controlView() != nullptr)
+        option.palette = controlView()->palette();
     option.state.setFlag(QStyle::State_Enabled, isEnabled());
     option.state.setFlag(isHighlighted() && m_highlightsBy != none ? QStyle::State_Sunken
                                                                    : QStyle::State_Raised);

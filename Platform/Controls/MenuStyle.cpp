@@ -25,8 +25,10 @@ constexpr qreal panelRadius = 9;
 QColor panelColor(const QPalette& palette) {
     const QColor window = palette.color(QPalette::Window);
     const QColor button = palette.color(QPalette::Button);
-    return QColor::fromRgbF((window.redF() + button.redF()) / 2, (window.greenF() + button.greenF()) / 2,
-                            (window.blueF() + button.blueF()) / 2);
+    const QColor base = palette.color(QPalette::Base);
+    const QColor& lighter = button.lightnessF() > base.lightnessF() ? button : base;
+    return QColor::fromRgbF((window.redF() + lighter.redF()) / 2, (window.greenF() + lighter.greenF()) / 2,
+                            (window.blueF() + lighter.blueF()) / 2);
 }
 
 } // namespace

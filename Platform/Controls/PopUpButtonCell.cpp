@@ -34,6 +34,13 @@ QSizeF PopUpButtonCell::cellSize() const {
     return {titleMargin + preparedTitle(titleFont()).size().width() + arrowsWidth, naturalHeight};
 }
 
+QColor PopUpButtonCell::contentColor() const {
+    QColor color = controlTextColor();
+    if (!isEnabled())
+        color.setAlphaF(color.alphaF() / 2);
+    return color;
+}
+
 void PopUpButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
     ButtonCell::drawBezel(painter, frame);
     const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
@@ -41,7 +48,7 @@ void PopUpButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
     const QPointF center(x, frame.center().y());
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(controlTextColor(), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(contentColor(), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     if (m_pullsDown) {
         drawArrow(painter, center - QPointF(0, 1.5), 3);
     } else {
@@ -52,11 +59,8 @@ void PopUpButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
 }
 
 void PopUpButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
-    QColor color = controlTextColor();
-    if (!isEnabled())
-        color.setAlphaF(color.alphaF() / 2);
     const auto alignment = layoutDirection() == Qt::LeftToRight ? Qt::AlignLeft : Qt::AlignRight;
-    preparedTitle(titleFont()).draw(painter, frame, {color.rgba(), alignment});
+    preparedTitle(titleFont()).draw(painter, frame, {contentColor().rgba(), alignment});
 }
 
 } // namespace platform

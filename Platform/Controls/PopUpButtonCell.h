@@ -19,6 +19,9 @@ public:
     void drawTitle(QPainter& painter, const QRectF& frame) const override;
 
 private:
+    /// Of the title and the arrows.
+    QColor contentColor() const;
+
     const bool m_pullsDown;
 };
 

@@ -4,11 +4,12 @@
 #include "Gallery/PagePicture.h"
 #include "Gallery/Window/PageList.h"
 #include "Gallery/Window/SettingsBar.h"
+#include "Platform/Controls/PopUpButton.h"
 #include "Platform/Graphics/Appearance.h"
+#include "Tidepool/StyledCheckBox.h"
 #include "tests/support/PictureComparison.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
 #include <QLabel>
@@ -65,6 +66,10 @@ protected:
                 return widget;
         ADD_FAILURE() << "nothing is named " << accessibleName;
         return nullptr;
+    }
+
+    void choose(const char* setting, int index) {
+        find<platform::PopUpButton>(setting)->itemArray()[index]->trigger();
     }
 
     QLineEdit& search() { return *find<QLineEdit>("Search pages"); }
@@ -128,11 +133,11 @@ TEST_F(GalleryWindowTest, SaysWhenNothingIsFoundAndKeepsThePage) {
 TEST_F(GalleryWindowTest, SettingsReachThePageAtOnceAndKeepItsPlace) {
     m_window.showPage(QStringLiteral("Buttons"));
     auto* const bar = m_window.findChild<gallery::SettingsBar*>();
-    const auto boxes = bar->findChildren<QCheckBox*>();
-    for (QCheckBox* box : boxes)
+    const auto boxes = bar->findChildren<tidepool::StyledCheckBox*>();
+    for (tidepool::StyledCheckBox* box : boxes)
         box->click();
     m_window.findChild<QScrollArea*>()->verticalScrollBar()->setValue(700);
-    find<QComboBox>("Style")->setCurrentIndex(1);
+    choose("Style", 1);
     const GallerySettings expected{.isEnabled = false,
                                    .isSelected = true,
                                    .styleSet = GallerySettings::StyleSet::light,
@@ -143,12 +148,20 @@ TEST_F(GalleryWindowTest, SettingsReachThePageAtOnceAndKeepItsPlace) {
     EXPECT_EQ(m_window.findChild<QScrollArea*>()->verticalScrollBar()->value(), 700);
     m_window.showPage(QStringLiteral("Boxes"));
     EXPECT_EQ(m_window.findChild<QScrollArea*>()->verticalScrollBar()->value(), 0) << "of another page";
-    for (QCheckBox* box : boxes)
+    for (const tidepool::StyledCheckBox* box : boxes)
         EXPECT_EQ(box->isEnabled(), box->text() == u"Right to left") << "what the page does not heed";
 }
 
+TEST_F(GalleryWindowTest, TheSameChoiceAgainLeavesThePageAlone) {
+    const QPointer<PageView> view = m_window.findChild<PageView*>();
+    choose("Style", 0);
+    EXPECT_NE(view, nullptr);
+    choose("Style", 1);
+    EXPECT_EQ(view, nullptr);
+}
+
 TEST_F(GalleryWindowTest, MagnifiedPagesStayAlive) {
-    find<QComboBox>("Scale")->setCurrentIndex(1);
+    choose("Scale", 1);
     auto* const view = m_window.findChild<QGraphicsView*>();
     ASSERT_NE(view, nullptr);
     QApplication::processEvents();

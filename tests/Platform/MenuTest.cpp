@@ -278,6 +278,19 @@ TEST(MenuStyle, ShowsMarksHeadersAndWhatIsDisabled) {
     EXPECT_LT(menu.sizeHint().width(), 500) << "a long title is shortened";
 }
 
+TEST(MenuStyle, PanelsAreLighterThanTheWindowBelow) {
+    const QPalette light(QColor(0xdc, 0xdc, 0xe0), QColor(0xec, 0xec, 0xf4));
+    const QPalette dark(QColor(0x2c, 0x2b, 0x3b), QColor(0x1c, 0x1b, 0x28));
+    for (QPalette palette : {light, dark}) {
+        const bool isDark = palette.window().color().lightness() < 128;
+        palette.setColor(QPalette::Base, isDark ? Qt::black : Qt::white);
+        Menu menu;
+        menu.setPalette(palette);
+        menu.resize(40, 40);
+        EXPECT_GT(QColor(picture(menu).pixel(20, 20)).lightness(), palette.window().color().lightness());
+    }
+}
+
 TEST(KeyEquivalent, NamesTheKeys) {
     const auto keys = [](const QString& key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         return keyEquivalent(key, modifiers).toString(QKeySequence::PortableText);

@@ -267,6 +267,14 @@ TEST_F(PopUpButtonTest, TheMnemonicOfItsLabelOpensTheMenu) {
     EXPECT_TRUE(m_owner.selected.isEmpty()) << "nothing has been chosen yet";
 }
 
+TEST_F(PopUpButtonTest, ItsArrowsAreDimmedWithIt) {
+    const QPoint tip(m_button.width() - 10, 7); // of the upper arrow
+    const QRgb enabled = picture(m_button).pixel(tip);
+    m_button.setEnabled(false);
+    const QRgb disabled = picture(m_button).pixel(tip);
+    EXPECT_GT(difference(enabled, disabled), 30);
+}
+
 TEST_F(PopUpButtonTest, HasOneRingWhileItHasTheKeyboard) {
     m_button.clearFocus();
     QImage expected = picture(m_button);

@@ -1,5 +1,6 @@
 #include "Platform/Controls/PushButton.h"
 #include "tests/support/ActionCounter.h"
+#include "tests/support/Pixels.h"
 
 #include <QAccessible>
 #include <QMenu>
@@ -128,4 +129,12 @@ TEST(PushButton, IsNotHighlightedForAMenuThatHasGone) {
     EXPECT_TRUE(button.cell().isHighlighted());
     menu.reset();
     EXPECT_FALSE(button.cell().isHighlighted());
+}
+
+TEST(PushButton, HasABezelInTheColorsOfItsOwnPalette) {
+    PushButton button;
+    button.resize(60, 24);
+    const QRgb usual = picture(button).pixel(30, 12);
+    button.setPalette(QPalette(Qt::red));
+    EXPECT_GT(difference(picture(button).pixel(30, 12), usual), 60);
 }
