@@ -48,9 +48,9 @@ void addLengths(LiveRow& row) {
     }
 }
 
-/// Says which item of the menu, or of its submenus, was chosen.
+/// Says which item of the menu, or of its submenus, was chosen, before its action may say more.
 void sayChoices(LiveRow& row, platform::Menu& menu) {
-    QObject::connect(&menu, &platform::Menu::didSendAction, &row,
+    QObject::connect(&menu, &platform::Menu::willSendAction, &row,
                      [&row](const platform::MenuItem* item) { row.say(item->title()); });
 }
 
@@ -70,7 +70,7 @@ void addContextMenu(LiveRow& row) {
                                          TPMenuItem::separator(),
                                          {.title = QStringLiteral("Delete")}})
                            .release();
-    QObject::connect(track, &QObject::destroyed, menu, &QObject::deleteLater);
+    menu->setParent(track, menu->windowFlags()); // a window of its own that goes with the button
     sayChoices(row, *menu);
     track->setMenu(menu);
 }
