@@ -42,6 +42,7 @@ LV2UI_Handle instantiate(const LV2UI_Descriptor*, const char*, const char* bundl
     loadDisplayFont(QString::fromLocal8Bit(bundlePath));
     auto* const made = new EmbeddedEditor(HostConnection(write, controller, offered.touch),
                                           reinterpret_cast<std::uintptr_t>(offered.parent));
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): what the interface passes windows as
     *widget = reinterpret_cast<LV2UI_Widget>(made->window());
     if (offered.resize != nullptr)
         offered.resize->ui_resize(offered.resize->handle, made->size().width(), made->size().height());

@@ -149,6 +149,7 @@ private:
     Screen& m_screen;
     const std::uint32_t m_window;
     LV2UI_Touch m_touch{this, touch};
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): what the interface passes windows as
     LV2_Feature m_parentFeature{LV2_UI__parent, reinterpret_cast<void*>(std::uintptr_t{m_window})};
     LV2_Feature m_touchFeature{LV2_UI__touch, &m_touch};
     const LV2_Feature* const m_features[3] = {&m_parentFeature, &m_touchFeature, nullptr};
