@@ -32,8 +32,7 @@ using platform::DisplayQueue;
 namespace {
 
 constexpr int rounds = 11;
-constexpr int changes = 200'000;
-constexpr int blocks = 20;
+constexpr int blocks = 40;
 constexpr int changesInBlock = 1'024;
 constexpr int shown = 1'000;
 constexpr int many = 10'000;
@@ -101,13 +100,21 @@ void renderAudio(Work work, Drain drain) {
     drain();
 }
 
-void drainQueue() {
-    DisplayQueue::shared().drain();
-}
+struct OwnQueue {
+    static void drain() { DisplayQueue::shared().drain(); }
 
-void processEvents() {
-    QCoreApplication::processEvents();
-}
+    static bool isEmpty() { return DisplayQueue::shared().isEmpty(); }
+};
+
+/// An object that other threads send numbers by queued calls.
+struct Receiver : QObject {
+    static void drain() { QCoreApplication::processEvents(); }
+
+    /// Whether the last of a block has come; once.
+    bool isEmpty() { return value == changesInBlock - 1 && value.exchange(0) != 0; }
+
+    std::atomic<float> value = 0;
+};
 
 /// Times single calls, in nanoseconds, the clock's own cost included.
 class CallTimes {
@@ -132,58 +139,44 @@ private:
     std::vector<double> m_times;
 };
 
-/// As many changes as the thread can make: nanoseconds each.
-template <typename Change, typename Drain>
-void flood(Samples& samples, const std::string& name, Change change, Drain drain) {
-    double seconds = 0;
-    renderAudio(
-        [&] {
-            seconds = processorTime([&] {
-                for (int index = 0; index < changes; ++index)
-                    change(index);
-            });
-        },
-        drain);
-    samples[name].push_back(seconds / changes * 1e9);
-    CallTimes times(changes);
-    renderAudio(
-        [&] {
-            for (int index = 0; index < changes; ++index)
-                times.add([&] { change(index); });
-        },
-        drain);
-    times.report(samples, name);
-}
+/// When the main thread shows changes: while ever more come, while a block of them comes, or after each
+/// block. Except in a flood, a block waits for the one before, so that the queue is never full.
+enum class Shown { inFlood, meanwhile, afterwards };
 
-/// When the main thread shows what an audio block changed.
-enum class Shown { meanwhile, afterwards };
-
-/// Blocks of changes, each shown before the next, so that the queue is never full.
-template <typename Change>
-void changeInBlocks(Samples& samples, const std::string& name, Change change, Shown when) {
-    CallTimes times(std::size_t(blocks) * changesInBlock);
-    std::atomic<bool> mayShow = true;
-    renderAudio(
-        [&] {
+/// Nanoseconds of the processor for each change, then the times of single calls.
+template <typename Change, typename Queue>
+void measureChanges(Samples& samples, const std::string& name, Change change, Queue& queue, Shown when) {
+    const auto inBlocks = [&](auto changeBlock) {
+        std::atomic<bool> mayShow = true;
+        const auto render = [&] {
             for (int block = 0; block < blocks; ++block) {
-                mayShow = when == Shown::meanwhile;
-                for (int index = 0; index < changesInBlock; ++index)
-                    times.add([&] { change(index); });
+                mayShow = when != Shown::afterwards;
+                changeBlock();
                 mayShow = true;
-                while (!DisplayQueue::shared().isEmpty()) {
+                while (when != Shown::inFlood && !queue.isEmpty()) {
                 }
             }
-        },
-        [&] {
+        };
+        renderAudio(render, [&] {
             if (mayShow)
-                drainQueue();
+                queue.drain();
         });
-    times.report(samples, name + (when == Shown::meanwhile ? " meanwhile" : " afterwards"));
+    };
+    double seconds = 0;
+    inBlocks([&] {
+        seconds += processorTime([&] {
+            for (int index = 0; index < changesInBlock; ++index)
+                change(index);
+        });
+    });
+    samples[name].push_back(seconds / (blocks * changesInBlock) * 1e9);
+    CallTimes times(std::size_t(blocks) * changesInBlock);
+    inBlocks([&] {
+        for (int index = 0; index < changesInBlock; ++index)
+            times.add([&] { change(index); });
+    });
+    times.report(samples, name);
 }
-
-struct Receiver : QObject {
-    float value = 0;
-};
 
 /// A small widget that paints its parameter's value.
 class Lamp : public QWidget {
@@ -273,6 +266,13 @@ void lookUp(Samples& samples, const Model& model) {
     samples["settings " + std::to_string(count)].push_back(inSettings / lookUps * 1e9);
 }
 
+void readClock(Samples& samples) {
+    CallTimes times(lookUps);
+    for (int index = 0; index < lookUps; ++index)
+        times.add([] {});
+    times.report(samples, "clock");
+}
+
 double residentMebibytes() {
     std::ifstream file("/proc/self/statm");
     double total = 0;
@@ -287,32 +287,25 @@ double median(Samples& samples, const std::string& name) {
     return values[values.size() / 2];
 }
 
-void printCalls(Samples& samples, const char* title, const std::string& name) {
-    std::printf("    %-34s %8.0f %8.0f\n", title, median(samples, name + " 50"),
-                median(samples, name + " 99"));
-}
-
-void printFlood(Samples& samples, const char* title, const std::string& name) {
-    std::printf("  %-36s %8.1f %8.2f   %6.1f times as fast as queued\n", title, median(samples, name),
-                1e3 / median(samples, name), median(samples, "queued") / median(samples, name));
+void printChanges(Samples& samples, const char* title, const std::string& way) {
+    std::printf("%-36s   ns each  million/s      50 %%      99 %%  to queued\n", title);
+    const double queued = median(samples, "queued" + way);
+    for (const char* const source : {"observer", "ui", "queued"}) {
+        const std::string name = source + way;
+        std::printf("  %-34s %9.1f %10.2f %9.0f %9.0f %10.1f\n", source, median(samples, name),
+                    1e3 / median(samples, name), median(samples, name + " 50"), median(samples, name + " 99"),
+                    queued / median(samples, name));
+    }
 }
 
 void print(Samples& samples) {
-    std::printf("median of %d rounds\n%d changes, the main thread drains         ns  million/s (aim 10)\n",
-                rounds, changes);
-    printFlood(samples, "from the audio unit", "observer");
-    printFlood(samples, "from the interface, with a tree", "ui");
-    std::printf("  %-36s %8.1f %8.2f   (aim: 20 times)\n", "queued call of Qt", median(samples, "queued"),
-                1e3 / median(samples, "queued"));
-    std::printf("  one call, with the clock, ns              50 %%     99 %% (aim 100)\n");
-    printCalls(samples, "nothing: the clock alone", "clock");
-    printCalls(samples, "from the audio unit, flood", "observer");
-    printCalls(samples, "  blocks of 1024, shown meanwhile", "observer meanwhile");
-    printCalls(samples, "  blocks of 1024, shown after each", "observer afterwards");
-    printCalls(samples, "from the interface, flood", "ui");
-    printCalls(samples, "  blocks of 1024, shown meanwhile", "ui meanwhile");
-    printCalls(samples, "  blocks of 1024, shown after each", "ui afterwards");
-    printCalls(samples, "queued call of Qt, flood", "queued");
+    std::printf("median of %d rounds; aims: 10 million/s, 99 %% within 100 ns, 20 times a queued call\n",
+                rounds);
+    printChanges(samples, "shown after each block of 1024", " afterwards");
+    printChanges(samples, "shown while a block of 1024 comes", " meanwhile");
+    printChanges(samples, "shown in a flood", " flood");
+    std::printf("the clock alone, in the percentiles, ns: %.0f, %.0f\n", median(samples, "clock 50"),
+                median(samples, "clock 99"));
     std::printf("to show %d changed parameters, ms: %.3f (aim 1)\n", shown, median(samples, "show"));
     std::printf("  with a widget each, ms: %.3f; the widgets' update alone: %.3f\n", median(samples, "paint"),
                 median(samples, "update"));
@@ -363,25 +356,25 @@ int main(int argc, char** argv) {
     Receiver receiver;
     const auto queued = [&](int index) {
         QMetaObject::invokeMethod(
-            &receiver, [&receiver, value = alternating(index)] { receiver.value = value; },
+            &receiver,
+            [&receiver, value = float(index)] { receiver.value.store(value, std::memory_order_relaxed); },
             Qt::QueuedConnection);
     };
 
+    OwnQueue ownQueue;
     Samples samples;
+    const auto changeEachWay = [&](const std::string& name, auto change, auto& queue) {
+        measureChanges(samples, name + " afterwards", change, queue, Shown::afterwards);
+        measureChanges(samples, name + " meanwhile", change, queue, Shown::meanwhile);
+        measureChanges(samples, name + " flood", change, queue, Shown::inFlood);
+    };
     measure({
-        [&] {
-            flood(
-                samples, "clock", [](int) {}, drainQueue);
-        },
-        [&] { flood(samples, "observer", observer, drainQueue); },
-        [&] { flood(samples, "ui", ui, drainQueue); },
-        [&] { flood(samples, "queued", queued, processEvents); },
-        [&] { changeInBlocks(samples, "observer", observer, Shown::meanwhile); },
-        [&] { changeInBlocks(samples, "observer", observer, Shown::afterwards); },
-        [&] { changeInBlocks(samples, "ui", ui, Shown::meanwhile); },
-        [&] { changeInBlocks(samples, "ui", ui, Shown::afterwards); },
-        [&] { samples["show"].push_back(timeToShow(thousand, drainQueue)); },
-        [&] { samples["paint"].push_back(timeToShow(watched, [] { paintLamps(drainQueue); })); },
+        [&] { changeEachWay("observer", observer, ownQueue); },
+        [&] { changeEachWay("ui", ui, ownQueue); },
+        [&] { changeEachWay("queued", queued, receiver); },
+        [&] { readClock(samples); },
+        [&] { samples["show"].push_back(timeToShow(thousand, OwnQueue::drain)); },
+        [&] { samples["paint"].push_back(timeToShow(watched, [] { paintLamps(OwnQueue::drain); })); },
         [&] {
             samples["update"].push_back(processorTime([&] { paintLamps([&] { window.updateAll(); }); }) *
                                         1e3);
