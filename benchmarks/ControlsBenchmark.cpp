@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QStyleOptionButton>
 #include <QTemporaryDir>
 
@@ -81,8 +82,15 @@ QWidget* styledButton(int index) {
     return button;
 }
 
+/// Says what its style is to draw.
+class PlainButton : public QPushButton {
+public:
+    using QPushButton::initStyleOption;
+    using QPushButton::QPushButton;
+};
+
 QWidget* plainButton(int index) {
-    auto* const button = new QPushButton(title(index));
+    auto* const button = new PlainButton(title(index));
     button->setCheckable(true);
     mix(*button, index, [](QPushButton& on) { on.setChecked(true); });
     return button;
@@ -116,7 +124,24 @@ void paintChildren(benchmark::State& state, Page& page, qreal scale) {
     }
 }
 
-/// The drawing alone: no widget is asked.
+/// The drawing alone, as the button's style does it.
+void drawByStyle(benchmark::State& state, Page& page) {
+    QImage image = makePage(1);
+    const QList<QPushButton*> buttons = page.window().findChildren<QPushButton*>();
+    for (auto _ : state) {
+        QPainter painter(&image);
+        for (QPushButton* const button : buttons) {
+            QStyleOptionButton option;
+            static_cast<PlainButton*>(button)->initStyleOption(&option);
+            const QTransform before = painter.transform();
+            painter.translate(button->pos());
+            button->style()->drawControl(QStyle::CE_PushButton, &option, &painter, button);
+            painter.setTransform(before);
+        }
+    }
+}
+
+/// The drawing alone: no widget paints.
 void drawCells(benchmark::State& state, Page& page) {
     QImage image = makePage(1);
     std::vector<std::pair<StyledButton*, QPointF>> buttons;
@@ -194,8 +219,11 @@ public:
             printRatio("plain", scale, own, ">= 4", false);
             printRatio("copy", scale, own, "<= 5", true);
         }
-        std::printf("  the drawing alone, without widgets: %.2f (%.1f times the copy)\n",
-                    median("cells", "1x"), median("cells", "1x") / median("copy", "1x"));
+        const double own = median("kit's drawing", "1x");
+        std::printf("  1x  the kit's drawing alone, no widget paints %.2f\n", own);
+        printRatio("style sheet's", "1x", own, ">= 6", false);
+        printRatio("plain's", "1x", own, ">= 4", false);
+        printRatio("copy", "1x", own, "<= 5", true);
         std::printf("state look-up: %.2f ns, %.0f allocations\n", median("look-up", "") * 1e6,
                     m_counters["allocations"]);
         std::printf("one state change: %.2f us, %.0f square points repainted\n", median("change", "") * 1e3,
@@ -211,7 +239,7 @@ private:
 
     void printRatio(const char* name, const char* scale, double own, const char* aim, bool isSlower) {
         const double other = median(name, scale);
-        std::printf("      %-12s %8.2f   %5.1f times as %s (aim %s)\n", name, other,
+        std::printf("      %-13s %8.2f   %5.1f times as %s (aim %s)\n", name, other,
                     isSlower ? own / other : other / own, isSlower ? "slow" : "fast", aim);
     }
 
@@ -253,7 +281,9 @@ int main(int argc, char** argv) {
         add("plain" + suffix, [&, scale](benchmark::State& state) { paintChildren(state, plain, scale); });
         add("copy" + suffix, [scale](benchmark::State& state) { copyPixels(state, scale); });
     }
-    add("cells 1x", [&](benchmark::State& state) { drawCells(state, kit); });
+    add("kit's drawing 1x", [&](benchmark::State& state) { drawCells(state, kit); });
+    add("style sheet's 1x", [&](benchmark::State& state) { drawByStyle(state, sheeted); });
+    add("plain's 1x", [&](benchmark::State& state) { drawByStyle(state, plain); });
     add("look-up", lookUp);
     add("change", [&](benchmark::State& state) { changeOneState(state, kit); });
 
