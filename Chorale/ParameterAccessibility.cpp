@@ -14,7 +14,7 @@ namespace {
 class ParameterViewInterface : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
     ParameterViewInterface(QWidget& widget, ParameterView& view)
-        : QAccessibleWidget(&widget, QAccessible::Dial), m_view(view) {}
+        : QAccessibleWidget(&widget, view.role()), m_view(view) {}
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface)

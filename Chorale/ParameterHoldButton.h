@@ -28,6 +28,9 @@ public:
     const std::shared_ptr<AudioParameter>& parameter() const override { return m_param; }
 
     QString valueText() const override;
+
+    QAccessible::Role role() const override { return QAccessible::Button; }
+
     QSize sizeHint() const override;
 
     QSize minimumSizeHint() const override { return sizeHint(); }

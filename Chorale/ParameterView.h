@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QString>
 
 #include <memory>
@@ -20,6 +21,9 @@ public:
 
     /// The value as the widget shows it, with its unit.
     virtual QString valueText() const = 0;
+
+    /// What assistive technology calls the widget.
+    virtual QAccessible::Role role() const { return QAccessible::Dial; }
 
 protected:
     /// To be called by the constructor of the widget that this is mixed into. Repaints it and tells assistive

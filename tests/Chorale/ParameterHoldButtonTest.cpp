@@ -59,6 +59,13 @@ TEST_F(ParameterHoldButtonTest, LetsGoHoweverThePressEnds) {
     EXPECT_EQ(m_host.take().back(), "value 0");
 }
 
+TEST_F(ParameterHoldButtonTest, IsAButtonToAssistiveTechnology) {
+    auto* const interface = QAccessible::queryAccessibleInterface(&m_button);
+    EXPECT_EQ(interface->role(), QAccessible::Button);
+    m_host.send(1);
+    EXPECT_EQ(interface->text(QAccessible::Value), QStringLiteral("On"));
+}
+
 TEST_F(ParameterHoldButtonTest, FollowsTheHostExactly) {
     m_host.send(1);
     EXPECT_TRUE(m_button.isPressed());
