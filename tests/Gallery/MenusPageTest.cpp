@@ -4,7 +4,6 @@
 #include "Platform/Core/RecentDocuments.h"
 
 #include <QSignalSpy>
-#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -23,7 +22,6 @@ TEST(MenusPage, TwoPopUpButtonsChooseTheSameValue) {
 }
 
 TEST(DemoDocuments, OpenByNameAndGoWithTheirMenu) {
-    QStandardPaths::setTestModeEnabled(true);
     auto& recent = platform::RecentDocuments::shared();
     auto documents = std::make_unique<gallery::DemoDocuments>();
     QSignalSpy opened(documents.get(), &gallery::DemoDocuments::opened);

@@ -1,7 +1,6 @@
 #include "Platform/Core/Bundle.h"
 
 #include <QApplication>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -12,12 +11,12 @@ int main(int argc, char** argv) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Qt warns on standard error, which death tests compare, where a machine has no run-time directory.
-    const QTemporaryDir runtimeDirectory;
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
-        qputenv("XDG_RUNTIME_DIR", runtimeDirectory.path().toUtf8());
+    // Tests run side by side: what one process stores, no other may find.
+    const QTemporaryDir home;
+    for (const char* const variable :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(variable, home.path().toUtf8());
     const QApplication application(argc, argv);
-    QStandardPaths::setTestModeEnabled(true);
 #ifdef NOTELOFT_MAIN_BUNDLE
     platform::Bundle::setMainDirectory(QStringLiteral(NOTELOFT_MAIN_BUNDLE));
 #endif
