@@ -8,10 +8,12 @@ using noteloft::plugin::NoteloftPlugin;
 
 namespace {
 
-LV2_Handle instantiate(const LV2_Descriptor*, double, const char*, const LV2_Feature* const* features) {
+LV2_Handle instantiate(const LV2_Descriptor*, double sampleRate, const char*,
+                       const LV2_Feature* const* features) {
     for (; features != nullptr && *features != nullptr; ++features)
         if (std::strcmp((*features)->URI, LV2_URID__map) == 0)
-            return new (std::nothrow) NoteloftPlugin(*static_cast<const LV2_URID_Map*>((*features)->data));
+            return new (std::nothrow)
+                NoteloftPlugin(sampleRate, *static_cast<const LV2_URID_Map*>((*features)->data));
     return nullptr;
 }
 

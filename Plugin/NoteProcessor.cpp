@@ -1,45 +1,32 @@
 #include "Plugin/NoteProcessor.h"
 
+#include "Plugin/MidiStatus.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace noteloft::plugin {
 
+using Kind = NoteSchedule::Kind;
+
 namespace {
 
-constexpr std::uint8_t noteOffStatus = 0x80;
-constexpr std::uint8_t noteOnStatus = 0x90;
-constexpr std::uint8_t keyPressureStatus = 0xA0;
-constexpr std::uint8_t controlStatus = 0xB0;
-constexpr std::uint8_t programStatus = 0xC0;
-constexpr std::uint8_t channelPressureStatus = 0xD0;
-constexpr std::uint8_t systemStatus = 0xF0;
-constexpr std::uint8_t allSoundOff = 120;
-constexpr std::uint8_t allNotesOff = 123;
-constexpr std::uint8_t defaultReleaseVelocity = 64;
-// Every start gives the same sequence, so that a rendering can be repeated.
-constexpr std::uint32_t randomSeed = 0x9E3779B9;
-
 bool isWellFormed(const std::uint8_t* bytes, std::uint32_t size) {
-    if (size == 0 || bytes[0] < noteOffStatus)
+    if (size == 0 || bytes[0] < midi::noteOff)
         return false;
-    if (bytes[0] >= systemStatus)
+    if (bytes[0] >= midi::system)
         return true;
     const auto status = bytes[0] & 0xF0;
-    const std::uint32_t expected = status == programStatus || status == channelPressureStatus ? 2 : 3;
+    const std::uint32_t expected = status == midi::program || status == midi::channelPressure ? 2 : 3;
     return size == expected && std::all_of(bytes + 1, bytes + size, [](auto byte) { return byte < 0x80; });
 }
 
 } // namespace
 
-NoteProcessor::NoteProcessor() : m_random(randomSeed) {
-    for (Channel& channel : m_channels)
-        channel.pitchOfKey.fill(noPitch);
-}
-
 void NoteProcessor::restart() {
-    m_endAll = true;
-    m_random = randomSeed;
+    m_restarts = true;
+    m_random = {};
+    m_lastWentDown = true;
 }
 
 void NoteProcessor::beginBlock(const NoteSettings& settings, MidiSink& sink) {
@@ -49,34 +36,41 @@ void NoteProcessor::beginBlock(const NoteSettings& settings, MidiSink& sink) {
         m_settings = {};
         m_settings.enabled = false;
     }
-    endWaiting(nowBypassed || m_endAll, sink);
-    m_endAll = false;
+    m_output.sendDue(0, sink);
+    if (nowBypassed || m_restarts) {
+        m_schedule.clear();
+        m_output.endAll(0, sink);
+    } else if (!m_settings.hold) {
+        m_output.endHeld(0, sink);
+    }
+    m_restarts = false;
 }
 
-void NoteProcessor::endWaiting(bool all, MidiSink& sink) {
-    for (int channel = 0; channel < channelCount; ++channel)
-        for (int pitch = 0; pitch < noteCount; ++pitch) {
-            const Voice voice = m_channels[channel].voices[pitch];
-            const bool released = voice == Voice::due || (voice == Voice::held && !m_settings.hold);
-            if (released || (all && voice != Voice::silent))
-                end(0, channel, pitch, defaultReleaseVelocity, sink);
-        }
+void NoteProcessor::endBlock(std::uint32_t frameCount, MidiSink& sink) {
+    playUntil(m_blockStart + frameCount - 1, sink);
+    m_blockStart += frameCount;
 }
 
 void NoteProcessor::process(std::uint32_t frame, const std::uint8_t* bytes, std::uint32_t size,
                             MidiSink& sink) {
     if (!isWellFormed(bytes, size))
         return;
+    playUntil(m_blockStart + frame, sink);
+    const std::uint8_t channel = bytes[0] & 0x0F;
     switch (bytes[0] & 0xF0) {
-    case noteOnStatus:
-        return bytes[2] == 0 ? noteOff(frame, bytes, sink) : noteOn(frame, bytes, sink);
-    case noteOffStatus:
-        return noteOff(frame, bytes, sink);
-    case keyPressureStatus:
+    case midi::noteOn:
+        if (bytes[2] == 0)
+            return release(frame, channel, bytes[1], midi::defaultReleaseVelocity, sink);
+        return press(frame, bytes, sink);
+    case midi::noteOff:
+        return release(frame, channel, bytes[1], bytes[2], sink);
+    case midi::keyPressure:
         return keyPressure(frame, bytes, sink);
-    case controlStatus:
-        if (bytes[1] == allSoundOff || bytes[1] >= allNotesOff)
-            endChannel(frame, bytes[0] & 0x0F, sink);
+    case midi::control:
+        if (bytes[1] == midi::allSoundOff || bytes[1] >= midi::allNotesOff) {
+            m_schedule.dropChannel(channel);
+            m_output.endChannel(frame, channel, sink);
+        }
         break;
     default:
         break;
@@ -84,91 +78,93 @@ void NoteProcessor::process(std::uint32_t frame, const std::uint8_t* bytes, std:
     sink.write(frame, bytes, size);
 }
 
-void NoteProcessor::noteOn(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {
-    const int index = bytes[0] & 0x0F;
-    Channel& channel = m_channels[index];
-    const int key = bytes[1];
-    const int pitch = transposed(key);
-    if (!letsThrough())
+void NoteProcessor::press(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {
+    const std::uint8_t channel = bytes[0] & 0x0F;
+    const std::uint8_t key = bytes[1];
+    if (m_random.next() >= m_settings.chance)
         return;
-    // A key may be struck again without a note-off, and after a change of the transposition.
-    const int previous = channel.pitchOfKey[key];
-    if (previous != noPitch)
-        end(frame, index, previous, defaultReleaseVelocity, sink);
-    if (channel.voices[pitch] != Voice::silent && !end(frame, index, pitch, defaultReleaseVelocity, sink))
-        return;
-    const std::uint8_t message[] = {bytes[0], static_cast<std::uint8_t>(pitch), scaled(bytes[2])};
-    if (!sink.write(frame, message, sizeof message))
-        return;
-    channel.voices[pitch] = Voice::sounding;
-    channel.pitchOfKey[key] = static_cast<std::int16_t>(pitch);
-    channel.keyOfPitch[pitch] = static_cast<std::int16_t>(key);
+    // A key may be struck again without a note-off.
+    release(frame, channel, key, midi::defaultReleaseVelocity, sink);
+    const ChordPitches chord(key, m_settings.harmony);
+    const auto pitches = chord.pitches();
+    const bool goesDown = pitches.size() > 1 && strumsDown();
+    Strike& strike = m_strikes[channel][key];
+    strike.number = ++m_lastStrike;
+    strike.count = pitches.size();
+    for (std::size_t turn = 0; turn < pitches.size(); ++turn) {
+        const std::uint8_t pitch = pitches[goesDown ? pitches.size() - 1 - turn : turn];
+        const double late = static_cast<double>(m_random.next()) * m_settings.timing;
+        const std::uint32_t delay = frames(static_cast<double>(turn) * m_settings.strum + late);
+        strike.parts[turn] = {pitch, delay};
+        schedule(frame, delay, Kind::begin, {strike.number, channel, pitch, shapedVelocity(bytes[2])}, sink);
+    }
 }
 
-void NoteProcessor::noteOff(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {
-    const int index = bytes[0] & 0x0F;
-    Channel& channel = m_channels[index];
-    const int key = bytes[1];
-    const int pitch = channel.pitchOfKey[key];
-    if (pitch == noPitch)
-        return;
-    if (m_settings.hold) {
-        channel.pitchOfKey[key] = noPitch;
-        channel.voices[pitch] = Voice::held;
-        return;
+void NoteProcessor::release(std::uint32_t frame, std::uint8_t channel, std::uint8_t key,
+                            std::uint8_t velocity, MidiSink& sink) {
+    Strike& strike = m_strikes[channel][key];
+    for (std::size_t turn = 0; turn < strike.count; ++turn) {
+        const Strike::Part& part = strike.parts[turn];
+        schedule(frame, part.delay, Kind::end, {strike.number, channel, part.pitch, velocity}, sink);
     }
-    const bool isNoteOn = (bytes[0] & 0xF0) == noteOnStatus;
-    end(frame, index, pitch, isNoteOn ? defaultReleaseVelocity : bytes[2], sink);
+    strike.count = 0;
 }
 
 void NoteProcessor::keyPressure(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {
-    const int pitch = m_channels[bytes[0] & 0x0F].pitchOfKey[bytes[1]];
-    if (pitch == noPitch)
-        return;
-    const std::uint8_t message[] = {bytes[0], static_cast<std::uint8_t>(pitch), bytes[2]};
-    sink.write(frame, message, sizeof message);
+    const std::uint8_t channel = bytes[0] & 0x0F;
+    const Strike& strike = m_strikes[channel][bytes[1]];
+    for (std::size_t turn = 0; turn < strike.count; ++turn) {
+        const std::uint8_t pitch = strike.parts[turn].pitch;
+        if (!m_output.isSounding({strike.number, channel, pitch, 0}))
+            continue;
+        const std::uint8_t message[] = {bytes[0], pitch, bytes[2]};
+        sink.write(frame, message, sizeof message);
+    }
 }
 
-bool NoteProcessor::end(std::uint32_t frame, int index, int pitch, std::uint8_t velocity, MidiSink& sink) {
-    Channel& channel = m_channels[index];
-    std::int16_t& pitchOfKey = channel.pitchOfKey[channel.keyOfPitch[pitch]];
-    if (pitchOfKey == pitch)
-        pitchOfKey = noPitch;
-    const std::uint8_t message[] = {static_cast<std::uint8_t>(noteOffStatus | index),
-                                    static_cast<std::uint8_t>(pitch), velocity};
-    const bool sent = sink.write(frame, message, sizeof message);
-    channel.voices[pitch] = sent ? Voice::silent : Voice::due;
-    return sent;
+void NoteProcessor::schedule(std::uint32_t frame, std::uint32_t delay, Kind kind, const Note& note,
+                             MidiSink& sink) {
+    if (delay == 0)
+        return play(frame, kind, note, sink);
+    const bool isKept = m_schedule.add({m_blockStart + frame + delay, note, kind});
+    if (!isKept && kind == Kind::end) {
+        // Better short than for ever.
+        m_schedule.drop(note);
+        play(frame, kind, note, sink);
+    }
 }
 
-void NoteProcessor::endChannel(std::uint32_t frame, int channel, MidiSink& sink) {
-    for (int pitch = 0; pitch < noteCount; ++pitch)
-        if (m_channels[channel].voices[pitch] != Voice::silent)
-            end(frame, channel, pitch, defaultReleaseVelocity, sink);
+void NoteProcessor::playUntil(std::uint64_t time, MidiSink& sink) {
+    while (!m_schedule.isEmpty() && m_schedule.first().time <= time) {
+        const auto entry = m_schedule.takeFirst();
+        play(static_cast<std::uint32_t>(entry.time - m_blockStart), entry.kind, entry.note, sink);
+    }
 }
 
-int NoteProcessor::transposed(int key) const {
-    constexpr int octave = 12;
-    int pitch = key + m_settings.transpose;
-    // Beyond the range of MIDI the note keeps its name.
-    while (pitch < 0)
-        pitch += octave;
-    while (pitch >= noteCount)
-        pitch -= octave;
-    return pitch;
+void NoteProcessor::play(std::uint32_t frame, Kind kind, const Note& note, MidiSink& sink) {
+    if (kind == Kind::begin)
+        m_output.begin(frame, note, sink);
+    else
+        m_output.end(frame, note, m_settings.hold, sink);
 }
 
-std::uint8_t NoteProcessor::scaled(std::uint8_t velocity) const {
-    const long value = std::lround(static_cast<float>(velocity) * m_settings.velocity);
-    return static_cast<std::uint8_t>(std::clamp(value, 1L, 127L));
+std::uint32_t NoteProcessor::frames(double seconds) const {
+    return static_cast<std::uint32_t>(std::lround(seconds * m_sampleRate));
 }
 
-bool NoteProcessor::letsThrough() {
-    m_random ^= m_random << 13;
-    m_random ^= m_random >> 17;
-    m_random ^= m_random << 5;
-    constexpr float range = 1.0F / 16777216.0F;
-    return static_cast<float>(m_random >> 8) * range < m_settings.chance;
+std::uint8_t NoteProcessor::shapedVelocity(std::uint8_t velocity) {
+    const float swing = 2 * m_random.next() - 1;
+    const float value =
+        static_cast<float>(velocity) * m_settings.velocity * (1 + swing * m_settings.dynamics);
+    return static_cast<std::uint8_t>(std::clamp(std::lround(value), 1L, 127L));
+}
+
+bool NoteProcessor::strumsDown() {
+    if (m_settings.direction == StrumDirection::alternate)
+        m_lastWentDown = !m_lastWentDown;
+    else
+        m_lastWentDown = m_settings.direction == StrumDirection::down;
+    return m_lastWentDown;
 }
 
 } // namespace noteloft::plugin

@@ -1,65 +1,70 @@
 #pragma once
 
-#include "Plugin/MidiSink.h"
+#include "Plugin/NoteOutput.h"
+#include "Plugin/NoteSchedule.h"
 #include "Plugin/NoteSettings.h"
-
-#include <array>
-#include <cstdint>
+#include "Plugin/Random.h"
 
 namespace noteloft::plugin {
 
-/// Transposes, scales, thins out and holds notes, and passes all other messages on.
-///
-/// On every channel the note-ons and note-offs of one sounding pitch alternate strictly, whatever the
-/// settings do in between: a note-off goes to the pitch that its note-on was given, a pitch that is struck
-/// again is ended first, and a note-off that finds no room is sent at the start of the next block.
+/// Turns each strike of a key into the notes of a chord in a scale, strummed, of varying velocity and timing,
+/// and passes all other messages on. What a strike became is kept with its key, so that its end finds the
+/// same notes, each as late as it began, whatever the settings do in between. The output does not depend on
+/// how time is cut into blocks.
 ///
 /// One thread at a time. Nothing here allocates, locks or makes a system call.
 class NoteProcessor {
 public:
-    NoteProcessor();
+    /// `sampleRate` is in frames a second.
+    explicit NoteProcessor(double sampleRate) : m_sampleRate(sampleRate) {}
 
     /// Starts anew: whatever sounds is ended in the next block.
     void restart();
 
-    /// Begins a block. Call it before `process`, and only for a block that has frames.
+    /// Begins a block, with settings for all of it. Only for a block that has frames; then `process` for each
+    /// message by its time, then `endBlock`.
     void beginBlock(const NoteSettings& settings, MidiSink& sink);
 
     /// Handles one complete MIDI message; malformed channel messages are dropped.
     void process(std::uint32_t frame, const std::uint8_t* bytes, std::uint32_t size, MidiSink& sink);
 
+    void endBlock(std::uint32_t frameCount, MidiSink& sink);
+
 private:
-    static constexpr int channelCount = 16;
-    static constexpr int noteCount = 128;
-    static constexpr std::int16_t noPitch = -1;
+    /// What a key that is down was turned into.
+    struct Strike {
+        struct Part {
+            std::uint8_t pitch;
+            std::uint32_t delay; ///< Frames.
+        };
 
-    enum class Voice : std::uint8_t {
-        silent,
-        sounding,
-        held, ///< Its key is up, and it waits for the end of the hold.
-        due,  ///< Its note-off found no room.
+        std::uint32_t number = 0;
+        std::size_t count = 0;
+        std::array<Part, ChordPitches::longest> parts{};
     };
 
-    struct Channel {
-        std::array<Voice, noteCount> voices{};
-        std::array<std::int16_t, noteCount> pitchOfKey{};
-        std::array<std::int16_t, noteCount> keyOfPitch{};
-    };
-
-    void noteOn(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink);
-    void noteOff(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink);
+    void press(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink);
+    void release(std::uint32_t frame, std::uint8_t channel, std::uint8_t key, std::uint8_t velocity,
+                 MidiSink& sink);
     void keyPressure(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink);
-    bool end(std::uint32_t frame, int channel, int pitch, std::uint8_t velocity, MidiSink& sink);
-    void endChannel(std::uint32_t frame, int channel, MidiSink& sink);
-    void endWaiting(bool all, MidiSink& sink);
-    int transposed(int key) const;
-    std::uint8_t scaled(std::uint8_t velocity) const;
-    bool letsThrough();
+    void playUntil(std::uint64_t time, MidiSink& sink);
+    void play(std::uint32_t frame, NoteSchedule::Kind kind, const Note& note, MidiSink& sink);
+    void schedule(std::uint32_t frame, std::uint32_t delay, NoteSchedule::Kind kind, const Note& note,
+                  MidiSink& sink);
+    std::uint32_t frames(double seconds) const;
+    std::uint8_t shapedVelocity(std::uint8_t velocity);
+    bool strumsDown();
 
-    std::array<Channel, channelCount> m_channels;
+    const double m_sampleRate;
     NoteSettings m_settings;
-    bool m_endAll = false;
-    std::uint32_t m_random;
+    std::array<std::array<Strike, pitchCount>, channelCount> m_strikes{}; // by channel and key
+    NoteSchedule m_schedule;
+    NoteOutput m_output;
+    Random m_random;
+    std::uint64_t m_blockStart = 0; // frames
+    std::uint32_t m_lastStrike = 0;
+    bool m_lastWentDown = true;
+    bool m_restarts = false;
 };
 
 } // namespace noteloft::plugin

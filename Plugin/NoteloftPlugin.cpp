@@ -10,8 +10,9 @@
 
 namespace noteloft::plugin {
 
-NoteloftPlugin::NoteloftPlugin(const LV2_URID_Map& map)
-    : m_sequenceType(map.map(map.handle, LV2_ATOM__Sequence)),
+NoteloftPlugin::NoteloftPlugin(double sampleRate, const LV2_URID_Map& map)
+    : m_processor(sampleRate),
+      m_sequenceType(map.map(map.handle, LV2_ATOM__Sequence)),
       m_midiType(map.map(map.handle, LV2_MIDI__MidiEvent)) {}
 
 void NoteloftPlugin::connect(std::uint32_t port, void* data) {
@@ -19,25 +20,46 @@ void NoteloftPlugin::connect(std::uint32_t port, void* data) {
         m_ports[port] = data;
 }
 
+float NoteloftPlugin::control(Ports::Index port) const {
+    return controlPort(port).clamped(*static_cast<const float*>(m_ports[port]));
+}
+
 NoteSettings NoteloftPlugin::settings() const {
     constexpr float percent = 0.01F;
-    // Hosts are free to send values outside the announced ranges.
-    return {.transpose = static_cast<int>(std::lround(std::clamp(control(transpose), -24.0F, 24.0F))),
-            .velocity = std::clamp(control(velocity) * percent, 0.0F, 2.0F),
-            .chance = std::clamp(control(chance) * percent, 0.0F, 1.0F),
-            .hold = control(hold) > 0,
-            .enabled = control(enabled) > 0};
+    constexpr double millisecond = 0.001;
+    const auto whole = [this](Ports::Index port) { return static_cast<int>(std::lround(control(port))); };
+    return {.harmony = {.transpose = whole(Ports::transpose),
+                        .root = whole(Ports::root),
+                        .scale = static_cast<Scale>(whole(Ports::scale)),
+                        .chord = static_cast<Chord>(whole(Ports::chord)),
+                        .inversion = whole(Ports::inversion)},
+            .strum = static_cast<double>(control(Ports::strum)) * millisecond,
+            .direction = static_cast<StrumDirection>(whole(Ports::direction)),
+            .velocity = control(Ports::velocity) * percent,
+            .dynamics = control(Ports::dynamics) * percent,
+            .timing = static_cast<double>(control(Ports::timing)) * millisecond,
+            .chance = control(Ports::chance) * percent,
+            .hold = control(Ports::hold) > 0,
+            .enabled = control(Ports::enabled) > 0};
 }
 
 void NoteloftPlugin::run(std::uint32_t frameCount) {
-    SequenceSink sink(*static_cast<LV2_Atom_Sequence*>(m_ports[midiOut]), m_sequenceType, m_midiType);
+    SequenceSink sink(*static_cast<LV2_Atom_Sequence*>(m_ports[Ports::midiOut]), m_sequenceType, m_midiType);
     if (frameCount > 0)
         m_processor.beginBlock(settings(), sink);
-    const auto* input = static_cast<const LV2_Atom_Sequence*>(m_ports[midiIn]);
-    LV2_ATOM_SEQUENCE_FOREACH(input, event)
-    if (event->body.type == m_midiType)
-        m_processor.process(static_cast<std::uint32_t>(event->time.frames),
+    const auto* input = static_cast<const LV2_Atom_Sequence*>(m_ports[Ports::midiIn]);
+    // Hosts are free to send frames that lie outside of the block, or go backwards.
+    const std::int64_t last = std::max<std::int64_t>(frameCount, 1) - 1;
+    std::int64_t frame = 0;
+    LV2_ATOM_SEQUENCE_FOREACH(input, event) {
+        if (event->body.type != m_midiType)
+            continue;
+        frame = std::clamp(event->time.frames, frame, last);
+        m_processor.process(static_cast<std::uint32_t>(frame),
                             reinterpret_cast<const std::uint8_t*>(event + 1), event->body.size, sink);
+    }
+    if (frameCount > 0)
+        m_processor.endBlock(frameCount, sink);
 }
 
 } // namespace noteloft::plugin

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Plugin/ControlPorts.h"
 #include "Plugin/NoteProcessor.h"
 
 #include <lv2/atom/atom.h>
@@ -15,11 +16,10 @@ class NoteloftPlugin {
 public:
     static constexpr const char* uri = "http://quillfen.example/plugins/noteloft";
 
-    // The numbers are those of noteloft.ttl.
-    enum Port { midiIn, midiOut, transpose, velocity, chance, hold, enabled, portCount };
+    /// `sampleRate` is in frames a second.
+    NoteloftPlugin(double sampleRate, const LV2_URID_Map& map);
 
-    explicit NoteloftPlugin(const LV2_URID_Map& map);
-
+    /// All ports are connected before the first `run`.
     void connect(std::uint32_t port, void* data);
 
     void activate() { m_processor.restart(); }
@@ -27,12 +27,11 @@ public:
     void run(std::uint32_t frameCount);
 
 private:
-    float control(Port port) const { return *static_cast<const float*>(m_ports[port]); }
-
+    float control(Ports::Index port) const;
     NoteSettings settings() const;
 
     NoteProcessor m_processor;
-    std::array<void*, portCount> m_ports{};
+    std::array<void*, Ports::count> m_ports{};
     LV2_URID m_sequenceType;
     LV2_URID m_midiType;
 };

@@ -1,7 +1,7 @@
 #include "Plugin/Editor/EditorParameters.h"
 
 #include "Platform/Core/MainThreadShared.h"
-#include "Plugin/NoteloftPlugin.h"
+#include "Plugin/ControlPorts.h"
 
 namespace noteloft::plugin {
 
@@ -21,8 +21,8 @@ struct Range {
     float lower, upper, initial;
 };
 
-std::shared_ptr<AudioParameter> make(NoteloftPlugin::Port port, const QString& name,
-                                     AudioUnitParameterUnit unit, Range range) {
+std::shared_ptr<AudioParameter> make(Ports::Index port, const QString& name, AudioUnitParameterUnit unit,
+                                     Range range) {
     return platform::makeMainThreadShared<AudioParameter>(
         port, name.toLower(), name, unit, chorale::ClosedRange<float>(range.lower, range.upper),
         range.initial);
@@ -32,13 +32,12 @@ std::shared_ptr<AudioParameter> make(NoteloftPlugin::Port port, const QString& n
 
 EditorParameters::EditorParameters(HostConnection& host)
     : m_host(host),
-      m_transpose(make(NoteloftPlugin::transpose, QStringLiteral("Transpose"),
+      m_transpose(make(Ports::transpose, QStringLiteral("Transpose"),
                        AudioUnitParameterUnit::relativeSemiTones, {-24, 24, 0})),
-      m_velocity(make(NoteloftPlugin::velocity, QStringLiteral("Velocity"), AudioUnitParameterUnit::percent,
-                      {0, 200, 100})),
-      m_chance(make(NoteloftPlugin::chance, QStringLiteral("Chance"), AudioUnitParameterUnit::percent,
-                    {0, 100, 100})),
-      m_hold(make(NoteloftPlugin::hold, QStringLiteral("Hold"), AudioUnitParameterUnit::boolean, {0, 1, 0})),
+      m_velocity(
+          make(Ports::velocity, QStringLiteral("Velocity"), AudioUnitParameterUnit::percent, {0, 200, 100})),
+      m_chance(make(Ports::chance, QStringLiteral("Chance"), AudioUnitParameterUnit::percent, {0, 100, 100})),
+      m_hold(make(Ports::hold, QStringLiteral("Hold"), AudioUnitParameterUnit::boolean, {0, 1, 0})),
       m_audioUnit(std::make_shared<RemoteAudioUnit>()),
       m_settings(platform::makeMainThreadShared<chorale::ParameterSettings>()) {
     m_settings->setupParameters({m_transpose, m_velocity, m_chance, m_hold});

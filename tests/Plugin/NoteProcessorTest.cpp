@@ -7,9 +7,10 @@
 
 #include <map>
 #include <random>
+#include <set>
+#include <utility>
 
-using noteloft::plugin::NoteProcessor;
-using noteloft::plugin::NoteSettings;
+using namespace noteloft::plugin;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -17,6 +18,8 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 using Message = RecordedMessage;
+
+constexpr double sampleRate = 1000; // so that a frame is a millisecond
 
 class NoteProcessorTest : public testing::Test {
 protected:
@@ -30,7 +33,9 @@ protected:
 
     std::vector<Message> take() { return m_recorder.take(); }
 
-    NoteProcessor m_processor;
+    void endBlock(std::uint32_t frameCount) { m_processor.endBlock(frameCount, m_recorder); }
+
+    NoteProcessor m_processor{sampleRate};
     MidiRecorder m_recorder;
 };
 
@@ -50,9 +55,9 @@ TEST_F(NoteProcessorTest, ChangesNothingByDefault) {
 }
 
 TEST_F(NoteProcessorTest, NoteOffFollowsItsNoteOnThroughAChangeOfTransposition) {
-    begin({.transpose = 7});
+    begin({.harmony = {.transpose = 7}});
     send(3, {0x90, 60, 100});
-    begin({.transpose = -5});
+    begin({.harmony = {.transpose = -5}});
     send(2, {0x90, 64, 100});
     send(4, {0xA0, 60, 50});
     send(6, {0x80, 60, 20});
@@ -63,9 +68,9 @@ TEST_F(NoteProcessorTest, NoteOffFollowsItsNoteOnThroughAChangeOfTransposition) 
 }
 
 TEST_F(NoteProcessorTest, NoteKeepsItsNameBeyondTheRange) {
-    begin({.transpose = 24});
+    begin({.harmony = {.transpose = 24}});
     send(0, {0x90, 127, 1});
-    begin({.transpose = -24});
+    begin({.harmony = {.transpose = -24}});
     send(0, {0x90, 0, 1});
     send(0, {0x90, 23, 1});
     EXPECT_THAT(take(),
@@ -112,7 +117,7 @@ TEST_F(NoteProcessorTest, HoldSoundsOnUntilItIsSwitchedOff) {
 }
 
 TEST_F(NoteProcessorTest, TwoKeysOfOnePitchDoNotLeaveItSounding) {
-    begin({.transpose = 2});
+    begin({.harmony = {.transpose = 2}});
     send(0, {0x90, 60, 100});
     begin({});
     send(4, {0x90, 62, 90});
@@ -125,15 +130,15 @@ TEST_F(NoteProcessorTest, TwoKeysOfOnePitchDoNotLeaveItSounding) {
 }
 
 TEST_F(NoteProcessorTest, BypassEndsWhatSoundsAndPassesTheRest) {
-    begin({.transpose = 5, .hold = true});
+    begin({.harmony = {.transpose = 5}, .hold = true});
     send(0, {0x90, 60, 100});
     send(0, {0x90, 62, 100});
     send(1, {0x80, 62, 0});
     take();
-    begin({.transpose = 5, .hold = true, .enabled = false});
+    begin({.harmony = {.transpose = 5}, .hold = true, .enabled = false});
     EXPECT_THAT(take(), ElementsAre(Message{0, {0x80, 65, 64}}, Message{0, {0x80, 67, 64}}));
     send(3, {0x90, 50, 100});
-    begin({.transpose = 5});
+    begin({.harmony = {.transpose = 5}});
     send(3, {0x80, 50, 0});
     EXPECT_THAT(take(), ElementsAre(Message{3, {0x90, 50, 100}}, Message{3, {0x80, 50, 0}}));
 }
@@ -149,7 +154,7 @@ TEST_F(NoteProcessorTest, RestartEndsWhatSounds) {
 }
 
 TEST_F(NoteProcessorTest, AllNotesOffEndsTheNotesOfItsChannelFirst) {
-    begin({.transpose = 1, .hold = true});
+    begin({.harmony = {.transpose = 1}, .hold = true});
     send(0, {0x90, 60, 100});
     send(0, {0x91, 60, 100});
     send(0, {0x80, 60, 0});
@@ -178,16 +183,162 @@ TEST_F(NoteProcessorTest, MalformedMessagesAreDropped) {
     EXPECT_THAT(take(), IsEmpty());
 }
 
+TEST_F(NoteProcessorTest, ChordsFollowTheScale) {
+    const Harmony cMajor{.scale = Scale::major, .chord = Chord::major};
+    const auto chord = [](int key, const Harmony& harmony) {
+        const ChordPitches pitches(key, harmony);
+        return std::vector<int>(pitches.pitches().begin(), pitches.pitches().end());
+    };
+    EXPECT_THAT(chord(60, cMajor), ElementsAre(60, 64, 67));
+    EXPECT_THAT(chord(62, cMajor), ElementsAre(62, 65, 69)) << "the second note's is minor";
+    EXPECT_THAT(chord(59, cMajor), ElementsAre(59, 62, 65)) << "the seventh note's is diminished";
+    EXPECT_THAT(chord(61, cMajor), ElementsAre(60, 64, 67)) << "of two near notes the lower";
+    EXPECT_THAT(chord(62, {.root = 2, .scale = Scale::major, .chord = Chord::major}),
+                ElementsAre(62, 66, 69));
+    EXPECT_THAT(chord(55, {.scale = Scale::major, .chord = Chord::major7}), ElementsAre(55, 59, 62, 65));
+    EXPECT_THAT(chord(60, {.transpose = 5, .chord = Chord::minor, .inversion = 1}), ElementsAre(68, 72, 77));
+    EXPECT_THAT(chord(60, {.chord = Chord::major, .inversion = 3}), ElementsAre(67, 72, 76));
+    EXPECT_THAT(chord(126, {.chord = Chord::octave}), ElementsAre(126))
+        << "beyond the range it is the same note";
+    EXPECT_THAT(chord(0, {.transpose = -1, .scale = Scale::major}), ElementsAre(11));
+    for (int key = 0; key < 128; ++key)
+        for (int scale = 0; scale < static_cast<int>(std::size(scaleNames)); ++scale)
+            for (const int pitch :
+                 chord(key, {.transpose = -24, .root = 5, .scale = Scale(scale), .chord = Chord::added9}))
+                ASSERT_TRUE(contains(Scale(scale), 5, pitch)) << key << " in " << scaleNames[scale];
+}
+
+TEST_F(NoteProcessorTest, StrummedNotesEndAsLateAsTheyBegan) {
+    const NoteSettings settings{.harmony = {.chord = Chord::major}, .strum = 0.02};
+    begin(settings);
+    send(5, {0x90, 60, 100});
+    send(30, {0x80, 60, 7});
+    endBlock(40);
+    EXPECT_THAT(take(), ElementsAre(Message{5, {0x90, 60, 100}}, Message{25, {0x90, 64, 100}},
+                                    Message{30, {0x80, 60, 7}}));
+    begin({});
+    endBlock(40);
+    EXPECT_THAT(take(), ElementsAre(Message{5, {0x90, 67, 100}}, Message{10, {0x80, 64, 7}},
+                                    Message{30, {0x80, 67, 7}}));
+}
+
+TEST_F(NoteProcessorTest, StrumsGoDownAndAlternate) {
+    const auto pitches = [this](StrumDirection direction) {
+        begin({.harmony = {.chord = Chord::fifth}, .strum = 0.001, .direction = direction});
+        send(0, {0x90, 60, 100});
+        send(4, {0x80, 60, 0});
+        endBlock(8);
+        return std::pair<int, int>{m_recorder.messages[0].bytes[1], take()[1].bytes[1]};
+    };
+    EXPECT_EQ(pitches(StrumDirection::up), std::pair(60, 67));
+    EXPECT_EQ(pitches(StrumDirection::down), std::pair(67, 60));
+    EXPECT_EQ(pitches(StrumDirection::alternate), std::pair(60, 67));
+    EXPECT_EQ(pitches(StrumDirection::alternate), std::pair(67, 60));
+}
+
+TEST_F(NoteProcessorTest, AHumanHandIsLateAndUnevenWithinItsLimits) {
+    begin({.dynamics = 0.5F, .timing = 0.01});
+    std::set<std::uint32_t> delays;
+    std::set<int> velocities;
+    for (std::uint32_t i = 0; i < 200; ++i) {
+        send(i * 20, {0x90, 60, 64});
+        send(i * 20 + 5, {0x80, 60, 0});
+    }
+    endBlock(5000);
+    const auto messages = take();
+    ASSERT_EQ(messages.size(), 400U);
+    for (std::size_t i = 0; i < messages.size(); i += 2) {
+        ASSERT_EQ(messages[i + 1].frame, messages[i].frame + 5) << "a note keeps its length";
+        delays.insert(messages[i].frame % 20);
+        velocities.insert(messages[i].bytes[2]);
+    }
+    EXPECT_EQ(*delays.begin(), 0U);
+    EXPECT_EQ(*delays.rbegin(), 10U);
+    EXPECT_NEAR(*velocities.begin(), 32, 3);
+    EXPECT_NEAR(*velocities.rbegin(), 96, 3);
+}
+
+TEST_F(NoteProcessorTest, WhatLiesAheadIsDroppedWithItsChannelAndByBypass) {
+    const NoteSettings strummed{.harmony = {.chord = Chord::fifth}, .strum = 0.1};
+    begin(strummed);
+    send(0, {0x90, 60, 100});
+    send(0, {0x91, 60, 100});
+    send(9, {0xB0, 123, 0});
+    endBlock(10);
+    take();
+    begin(strummed);
+    endBlock(200);
+    EXPECT_THAT(take(), ElementsAre(Message{90, {0x91, 67, 100}}));
+    send(0, {0x90, 60, 100});
+    take();
+    begin({.enabled = false});
+    EXPECT_EQ(take().size(), 3U) << "ends of what sounds";
+    endBlock(200);
+    EXPECT_THAT(take(), IsEmpty());
+}
+
+TEST_F(NoteProcessorTest, FullScheduleCutsNotesShortAndLosesNoEnd) {
+    begin({.harmony = {.chord = Chord::major7}, .strum = 0.05});
+    m_recorder.room = 100000;
+    std::map<int, int> sounding;
+    for (int round = 0; round < 3; ++round)
+        for (std::uint8_t channel = 0; channel < 16; ++channel)
+            for (std::uint8_t key = 0; key < 115; key += 12) { // pitches of their own
+                send(0, {static_cast<std::uint8_t>(0x90 | channel), key, 100});
+                send(0, {static_cast<std::uint8_t>(0x80 | channel), key, 0});
+            }
+    endBlock(1000);
+    for (const Message& message : take())
+        sounding[(message.bytes[0] & 0x0F) << 7 | message.bytes[1]] += message.bytes[0] >= 0x90 ? 1 : -1;
+    for (const auto& [pitch, count] : sounding)
+        ASSERT_EQ(count, 0) << pitch;
+}
+
+namespace {
+
+/// Plays at random, the same for the same seed.
+class Player {
+public:
+    explicit Player(unsigned seed) : m_random(seed) {}
+
+    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
+
+    NoteSettings settings() {
+        return {.harmony = {.transpose = below(49) - 24,
+                            .root = below(12),
+                            .scale = Scale(below(12)),
+                            .chord = Chord(below(11)),
+                            .inversion = below(4)},
+                .strum = below(2) * 0.01,
+                .direction = StrumDirection(below(3)),
+                .dynamics = static_cast<float>(below(2)),
+                .timing = below(2) * 0.02,
+                .chance = static_cast<float>(1 + below(2)) / 2,
+                .hold = below(3) == 0,
+                .enabled = below(4) != 0};
+    }
+
+    Bytes note() {
+        return {static_cast<std::uint8_t>((below(2) == 0 ? 0x80 : 0x90) | below(2)),
+                static_cast<std::uint8_t>(50 + below(20)), static_cast<std::uint8_t>(below(128))};
+    }
+
+private:
+    std::mt19937 m_random;
+};
+
+} // namespace
+
 // Whatever is played, set and lost for want of room: the note-ons and note-offs of a pitch alternate, and in
 // the end nothing sounds.
 TEST_F(NoteProcessorTest, NothingIsEverStuck) {
-    std::mt19937 random(7);
-    const auto below = [&random](int limit) {
-        return static_cast<int>(random() % static_cast<unsigned>(limit));
-    };
+    constexpr std::uint32_t frameCount = 16;
+    Player player(7);
     std::map<std::pair<int, int>, bool> sounding;
     const auto check = [&] {
+        std::uint32_t last = 0;
         for (const Message& message : take()) {
+            ASSERT_GE(message.frame, std::exchange(last, message.frame)) << message;
             const int status = message.bytes[0] & 0xF0;
             if (status != 0x90 && status != 0x80)
                 continue;
@@ -195,20 +346,19 @@ TEST_F(NoteProcessorTest, NothingIsEverStuck) {
             ASSERT_EQ(sounds, status == 0x80) << message;
             sounds = status == 0x90;
         }
+        ASSERT_LT(last, frameCount);
     };
     for (int block = 0; block < 20000; ++block) {
-        m_recorder.room = static_cast<std::size_t>(below(12));
-        if (below(200) == 0)
+        m_recorder.room = static_cast<std::size_t>(player.below(12));
+        if (player.below(200) == 0)
             m_processor.restart();
-        begin({.transpose = below(49) - 24,
-               .chance = static_cast<float>(below(3)) / 2,
-               .hold = below(3) == 0,
-               .enabled = below(4) != 0});
-        for (int event = below(8); event > 0; --event)
-            send(0, {static_cast<std::uint8_t>((below(2) == 0 ? 0x80 : 0x90) | below(2)),
-                     static_cast<std::uint8_t>(50 + below(20)), static_cast<std::uint8_t>(below(128))});
-        if (below(100) == 0)
-            send(0, {0xB0, static_cast<std::uint8_t>(120 + below(8)), 0});
+        begin(player.settings());
+        for (std::uint32_t frame = 0; frame < frameCount; frame += 2)
+            if (player.below(2) == 0)
+                send(frame, player.note());
+        if (player.below(100) == 0)
+            send(frameCount - 1, {0xB0, static_cast<std::uint8_t>(120 + player.below(8)), 0});
+        endBlock(frameCount);
         ASSERT_NO_FATAL_FAILURE(check());
     }
     m_recorder.room = 1000;
@@ -217,4 +367,41 @@ TEST_F(NoteProcessorTest, NothingIsEverStuck) {
     ASSERT_NO_FATAL_FAILURE(check());
     for (const auto& [pitch, sounds] : sounding)
         EXPECT_FALSE(sounds) << pitch.second << " on channel " << pitch.first;
+}
+
+TEST_F(NoteProcessorTest, TheOutputDoesNotDependOnHowTimeIsCutIntoBlocks) {
+    constexpr std::uint32_t length = 4000;
+    std::map<std::uint32_t, Bytes> input;
+    Player composer(3);
+    for (int i = 0; i < 600; ++i)
+        input[static_cast<std::uint32_t>(composer.below(length))] = composer.note();
+    const NoteSettings settings{.harmony = {.scale = Scale::dorian, .chord = Chord::added9},
+                                .strum = 0.013,
+                                .direction = StrumDirection::alternate,
+                                .dynamics = 0.3F,
+                                .timing = 0.03,
+                                .chance = 0.8F};
+    const auto play = [&](Player& player, int longest) {
+        NoteProcessor processor(sampleRate);
+        MidiRecorder recorder;
+        recorder.room = 100000;
+        std::vector<Message> heard;
+        for (std::uint32_t start = 0; start < length;) {
+            const auto count =
+                std::min(length - start, 1 + static_cast<std::uint32_t>(player.below(longest)));
+            processor.beginBlock(settings, recorder);
+            for (auto it = input.lower_bound(start); it != input.lower_bound(start + count); ++it)
+                processor.process(it->first - start, it->second.data(), 3, recorder);
+            processor.endBlock(count, recorder);
+            for (Message& message : recorder.take())
+                heard.push_back({message.frame + start, std::move(message.bytes)});
+            start += count;
+        }
+        return heard;
+    };
+    Player player(5);
+    const auto whole = play(player, 100000);
+    EXPECT_GT(whole.size(), 1000U);
+    EXPECT_EQ(play(player, 1), whole);
+    EXPECT_EQ(play(player, 97), whole);
 }

@@ -8,12 +8,13 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <map>
 #include <new>
 #include <string>
 #include <vector>
 
-using noteloft::plugin::NoteloftPlugin;
+using namespace noteloft::plugin;
 
 namespace {
 
@@ -56,8 +57,10 @@ protected:
     NoteloftPluginTest() {
         m_plugin.connect(0, m_input.sequence());
         m_plugin.connect(1, m_output.sequence());
-        for (std::uint32_t i = 0; i < m_controls.size(); ++i)
-            m_plugin.connect(2 + i, &m_controls[i]);
+        for (const ControlPort& port : controlPorts()) {
+            m_controls[port.index] = port.initial;
+            m_plugin.connect(port.index, &m_controls[port.index]);
+        }
         m_plugin.activate();
         clearInput();
     }
@@ -92,10 +95,10 @@ protected:
     }
 
     LV2_URID_Map m_map{nullptr, mapUri};
-    NoteloftPlugin m_plugin{m_map};
+    NoteloftPlugin m_plugin{48000, m_map};
     SequenceBuffer m_input;
     SequenceBuffer m_output;
-    std::array<float, 5> m_controls = {0, 100, 100, 0, 1};
+    std::array<float, Ports::count> m_controls{};
 };
 
 using Messages = std::vector<std::vector<int>>;
@@ -103,16 +106,35 @@ using Messages = std::vector<std::vector<int>>;
 } // namespace
 
 TEST_F(NoteloftPluginTest, ControlsHaveTheirUnits) {
-    m_controls = {11.6F, 50, 100, 0, 1};
+    m_controls[Ports::transpose] = 11.6F;
+    m_controls[Ports::velocity] = 50;
     add(5, {0x90, 60, 100});
     EXPECT_EQ(run(64), (Messages{{5, 0x90, 72, 50}}));
-    m_controls = {1000, 100, -5, 0, 1};
+    m_controls[Ports::transpose] = 1000;
+    m_controls[Ports::chance] = -5;
     add(6, {0x90, 61, 100});
     add(7, {0x80, 60, 0});
     EXPECT_EQ(run(64), (Messages{{7, 0x80, 72, 0}})) << "no chance is left";
-    m_controls[4] = 0;
+    m_controls[Ports::enabled] = 0;
     add(8, {0x90, 60, 100});
     EXPECT_EQ(run(64), (Messages{{8, 0x90, 60, 100}}));
+}
+
+TEST_F(NoteloftPluginTest, ChordsAreStrummedInMilliseconds) {
+    m_controls[Ports::root] = 2;
+    m_controls[Ports::scale] = static_cast<float>(Scale::minor);
+    m_controls[Ports::chord] = static_cast<float>(Chord::major);
+    m_controls[Ports::strum] = 1.5F;
+    m_controls[Ports::direction] = 1;
+    m_controls[Ports::velocity] = std::numeric_limits<float>::quiet_NaN();
+    add(10, {0x90, 62, 100});
+    EXPECT_EQ(run(256), (Messages{{10, 0x90, 69, 100}, {82, 0x90, 65, 100}, {154, 0x90, 62, 100}}));
+}
+
+TEST_F(NoteloftPluginTest, FramesThatGoBackwardsOrOutsideStayInTheBlock) {
+    for (const std::int64_t frame : {20, 10, 1000})
+        add(frame, {0xB0, 1, 1});
+    EXPECT_EQ(run(64), (Messages{{20, 0xB0, 1, 1}, {20, 0xB0, 1, 1}, {63, 0xB0, 1, 1}}));
 }
 
 TEST_F(NoteloftPluginTest, OtherAtomsAreNotPassedOn) {
@@ -143,11 +165,14 @@ TEST_F(NoteloftPluginTest, EmptyBlockSendsNothingOfItsOwn) {
 TEST_F(NoteloftPluginTest, RunDoesNotAllocate) {
     for (int i = 0; i < 20; ++i)
         add(i, {0x90, static_cast<std::uint8_t>(40 + i), 100});
-    m_controls = {3, 150, 50, 1, 1};
+    m_controls[Ports::chord] = static_cast<float>(Chord::major7);
+    m_controls[Ports::strum] = 1;
+    m_controls[Ports::timing] = 1;
+    m_controls[Ports::hold] = 1;
     m_output.sequence()->atom = {512, 0};
     const long before = allocations;
     m_plugin.run(64);
-    m_controls[3] = 0;
+    m_controls[Ports::hold] = 0;
     m_output.sequence()->atom = {512, 0};
     m_plugin.run(64);
     EXPECT_EQ(allocations, before);

@@ -1,0 +1,80 @@
+// What hosts read of the control ports, and what the code knows of them.
+#include "Plugin/ControlPorts.h"
+#include "Plugin/NoteloftPlugin.h"
+
+#include <lilv/lilv.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <memory>
+#include <string>
+
+using namespace noteloft::plugin;
+
+namespace {
+
+template <auto free>
+struct Free {
+    void operator()(auto* pointer) const { free(pointer); }
+};
+
+using World = std::unique_ptr<LilvWorld, Free<lilv_world_free>>;
+using Node = std::unique_ptr<LilvNode, Free<lilv_node_free>>;
+using Points = std::unique_ptr<LilvScalePoints, Free<lilv_scale_points_free>>;
+
+class ControlPortsTest : public testing::Test {
+protected:
+    ControlPortsTest() {
+        const Node bundle(lilv_new_file_uri(m_world.get(), nullptr, NOTELOFT_BUNDLE "/"));
+        lilv_world_load_bundle(m_world.get(), bundle.get());
+        lilv_world_load_specifications(m_world.get());
+        const Node uri(lilv_new_uri(m_world.get(), NoteloftPlugin::uri));
+        m_plugin = lilv_plugins_get_by_uri(lilv_world_get_all_plugins(m_world.get()), uri.get());
+    }
+
+    bool has(const LilvPort* port, const char* property) const {
+        const Node node(lilv_new_uri(m_world.get(), property));
+        return lilv_port_has_property(m_plugin, port, node.get());
+    }
+
+    const World m_world{lilv_world_new()};
+    const LilvPlugin* m_plugin = nullptr;
+};
+
+float number(const LilvNode* node) {
+    return node == nullptr ? std::nanf("") : lilv_node_as_float(node);
+}
+
+} // namespace
+
+TEST_F(ControlPortsTest, AreWhatTheHostIsTold) {
+    ASSERT_NE(m_plugin, nullptr);
+    ASSERT_EQ(lilv_plugin_get_num_ports(m_plugin), Ports::count);
+    for (const ControlPort& known : controlPorts()) {
+        SCOPED_TRACE(known.symbol);
+        const LilvPort* const port = lilv_plugin_get_port_by_index(m_plugin, known.index);
+        EXPECT_STREQ(lilv_node_as_string(lilv_port_get_symbol(m_plugin, port)), known.symbol);
+        EXPECT_STREQ(lilv_node_as_string(Node(lilv_port_get_name(m_plugin, port)).get()), known.name);
+        LilvNode* range[3] = {};
+        lilv_port_get_range(m_plugin, port, &range[0], &range[1], &range[2]);
+        const Node initial(range[0]), lower(range[1]), upper(range[2]);
+        EXPECT_EQ(number(initial.get()), known.initial);
+        EXPECT_EQ(number(lower.get()), known.lower);
+        EXPECT_EQ(number(upper.get()), known.upper);
+        EXPECT_EQ(has(port, LV2_CORE__toggled), known.unit == ControlUnit::onOff);
+        EXPECT_EQ(has(port, LV2_CORE__enumeration), known.unit == ControlUnit::index);
+
+        std::map<float, std::string> points;
+        const Points list(lilv_port_get_scale_points(m_plugin, port));
+        LILV_FOREACH(scale_points, i, list.get()) {
+            const LilvScalePoint* const point = lilv_scale_points_get(list.get(), i);
+            points[number(lilv_scale_point_get_value(point))] =
+                lilv_node_as_string(lilv_scale_point_get_label(point));
+        }
+        EXPECT_EQ(points.size(), known.labels.size());
+        for (std::size_t i = 0; i < known.labels.size(); ++i)
+            EXPECT_EQ(points[static_cast<float>(i)], known.labels[i]);
+    }
+}
