@@ -6,9 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <random>
 #include <set>
-#include <utility>
 
 using namespace noteloft::plugin;
 using testing::ElementsAre;
@@ -183,31 +181,6 @@ TEST_F(NoteProcessorTest, MalformedMessagesAreDropped) {
     EXPECT_THAT(take(), IsEmpty());
 }
 
-TEST_F(NoteProcessorTest, ChordsFollowTheScale) {
-    const Harmony cMajor{.scale = Scale::major, .chord = Chord::major};
-    const auto chord = [](int key, const Harmony& harmony) {
-        const ChordPitches pitches(key, harmony);
-        return std::vector<int>(pitches.pitches().begin(), pitches.pitches().end());
-    };
-    EXPECT_THAT(chord(60, cMajor), ElementsAre(60, 64, 67));
-    EXPECT_THAT(chord(62, cMajor), ElementsAre(62, 65, 69)) << "the second note's is minor";
-    EXPECT_THAT(chord(59, cMajor), ElementsAre(59, 62, 65)) << "the seventh note's is diminished";
-    EXPECT_THAT(chord(61, cMajor), ElementsAre(60, 64, 67)) << "of two near notes the lower";
-    EXPECT_THAT(chord(62, {.root = 2, .scale = Scale::major, .chord = Chord::major}),
-                ElementsAre(62, 66, 69));
-    EXPECT_THAT(chord(55, {.scale = Scale::major, .chord = Chord::major7}), ElementsAre(55, 59, 62, 65));
-    EXPECT_THAT(chord(60, {.transpose = 5, .chord = Chord::minor, .inversion = 1}), ElementsAre(68, 72, 77));
-    EXPECT_THAT(chord(60, {.chord = Chord::major, .inversion = 3}), ElementsAre(67, 72, 76));
-    EXPECT_THAT(chord(126, {.chord = Chord::octave}), ElementsAre(126))
-        << "beyond the range it is the same note";
-    EXPECT_THAT(chord(0, {.transpose = -1, .scale = Scale::major}), ElementsAre(11));
-    for (int key = 0; key < 128; ++key)
-        for (int scale = 0; scale < static_cast<int>(std::size(scaleNames)); ++scale)
-            for (const int pitch :
-                 chord(key, {.transpose = -24, .root = 5, .scale = Scale(scale), .chord = Chord::added9}))
-                ASSERT_TRUE(contains(Scale(scale), 5, pitch)) << key << " in " << scaleNames[scale];
-}
-
 TEST_F(NoteProcessorTest, StrummedNotesEndAsLateAsTheyBegan) {
     const NoteSettings settings{.harmony = {.chord = Chord::major}, .strum = 0.02};
     begin(settings);
@@ -292,116 +265,4 @@ TEST_F(NoteProcessorTest, FullScheduleCutsNotesShortAndLosesNoEnd) {
         sounding[(message.bytes[0] & 0x0F) << 7 | message.bytes[1]] += message.bytes[0] >= 0x90 ? 1 : -1;
     for (const auto& [pitch, count] : sounding)
         ASSERT_EQ(count, 0) << pitch;
-}
-
-namespace {
-
-/// Plays at random, the same for the same seed.
-class Player {
-public:
-    explicit Player(unsigned seed) : m_random(seed) {}
-
-    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
-
-    NoteSettings settings() {
-        return {.harmony = {.transpose = below(49) - 24,
-                            .root = below(12),
-                            .scale = Scale(below(12)),
-                            .chord = Chord(below(11)),
-                            .inversion = below(4)},
-                .strum = below(2) * 0.01,
-                .direction = StrumDirection(below(3)),
-                .dynamics = static_cast<float>(below(2)),
-                .timing = below(2) * 0.02,
-                .chance = static_cast<float>(1 + below(2)) / 2,
-                .hold = below(3) == 0,
-                .enabled = below(4) != 0};
-    }
-
-    Bytes note() {
-        return {static_cast<std::uint8_t>((below(2) == 0 ? 0x80 : 0x90) | below(2)),
-                static_cast<std::uint8_t>(50 + below(20)), static_cast<std::uint8_t>(below(128))};
-    }
-
-private:
-    std::mt19937 m_random;
-};
-
-} // namespace
-
-// Whatever is played, set and lost for want of room: the note-ons and note-offs of a pitch alternate, and in
-// the end nothing sounds.
-TEST_F(NoteProcessorTest, NothingIsEverStuck) {
-    constexpr std::uint32_t frameCount = 16;
-    Player player(7);
-    std::map<std::pair<int, int>, bool> sounding;
-    const auto check = [&] {
-        std::uint32_t last = 0;
-        for (const Message& message : take()) {
-            ASSERT_GE(message.frame, std::exchange(last, message.frame)) << message;
-            const int status = message.bytes[0] & 0xF0;
-            if (status != 0x90 && status != 0x80)
-                continue;
-            bool& sounds = sounding[{message.bytes[0] & 0x0F, message.bytes[1]}];
-            ASSERT_EQ(sounds, status == 0x80) << message;
-            sounds = status == 0x90;
-        }
-        ASSERT_LT(last, frameCount);
-    };
-    for (int block = 0; block < 20000; ++block) {
-        m_recorder.room = static_cast<std::size_t>(player.below(12));
-        if (player.below(200) == 0)
-            m_processor.restart();
-        begin(player.settings());
-        for (std::uint32_t frame = 0; frame < frameCount; frame += 2)
-            if (player.below(2) == 0)
-                send(frame, player.note());
-        if (player.below(100) == 0)
-            send(frameCount - 1, {0xB0, static_cast<std::uint8_t>(120 + player.below(8)), 0});
-        endBlock(frameCount);
-        ASSERT_NO_FATAL_FAILURE(check());
-    }
-    m_recorder.room = 1000;
-    m_processor.restart();
-    begin({});
-    ASSERT_NO_FATAL_FAILURE(check());
-    for (const auto& [pitch, sounds] : sounding)
-        EXPECT_FALSE(sounds) << pitch.second << " on channel " << pitch.first;
-}
-
-TEST_F(NoteProcessorTest, TheOutputDoesNotDependOnHowTimeIsCutIntoBlocks) {
-    constexpr std::uint32_t length = 4000;
-    std::map<std::uint32_t, Bytes> input;
-    Player composer(3);
-    for (int i = 0; i < 600; ++i)
-        input[static_cast<std::uint32_t>(composer.below(length))] = composer.note();
-    const NoteSettings settings{.harmony = {.scale = Scale::dorian, .chord = Chord::added9},
-                                .strum = 0.013,
-                                .direction = StrumDirection::alternate,
-                                .dynamics = 0.3F,
-                                .timing = 0.03,
-                                .chance = 0.8F};
-    const auto play = [&](Player& player, int longest) {
-        NoteProcessor processor(sampleRate);
-        MidiRecorder recorder;
-        recorder.room = 100000;
-        std::vector<Message> heard;
-        for (std::uint32_t start = 0; start < length;) {
-            const auto count =
-                std::min(length - start, 1 + static_cast<std::uint32_t>(player.below(longest)));
-            processor.beginBlock(settings, recorder);
-            for (auto it = input.lower_bound(start); it != input.lower_bound(start + count); ++it)
-                processor.process(it->first - start, it->second.data(), 3, recorder);
-            processor.endBlock(count, recorder);
-            for (Message& message : recorder.take())
-                heard.push_back({message.frame + start, std::move(message.bytes)});
-            start += count;
-        }
-        return heard;
-    };
-    Player player(5);
-    const auto whole = play(player, 100000);
-    EXPECT_GT(whole.size(), 1000U);
-    EXPECT_EQ(play(player, 1), whole);
-    EXPECT_EQ(play(player, 97), whole);
 }
