@@ -1,6 +1,7 @@
 #include "Chorale/DialLabel.h"
 
 #include "Chorale/AudioParameter.h"
+#include "Chorale/LabelRows.h"
 #include "Chorale/ParameterText.h"
 #include "Chorale/RocketFontModifier.h"
 #include "Platform/Controls/ButtonStyle.h"
@@ -20,9 +21,6 @@ namespace chorale {
 
 namespace {
 
-constexpr qreal rowHeight = 40;
-/// The value row reaches into the line of the name.
-constexpr qreal rowOverlap = 10;
 /// Between the value and its suffix.
 constexpr qreal suffixGap = 4;
 constexpr qreal fieldRadius = 5;
@@ -93,8 +91,8 @@ qreal DialLabel::nameHeight() const {
 }
 
 QRectF DialLabel::valueRow() const {
-    const qreal top = m_showName ? nameHeight() - rowOverlap : 0;
-    return {0, top, qreal(width()), rowHeight};
+    const qreal top = m_showName ? nameHeight() - valueRowOverlap : 0;
+    return {0, top, qreal(width()), valueRowHeight};
 }
 
 QRectF DialLabel::fieldFrame() const {

@@ -18,7 +18,7 @@ enum class Scale {
     wholeTone,
 };
 
-inline constexpr const char* scaleNames[] = {"Chromatic",   "Major",       "Minor",  "Harmonic Minor",
+inline constexpr const char* scaleNames[] = {"Chromatic",   "Major",       "Minor",  "Harmonic",
                                              "Dorian",      "Phrygian",    "Lydian", "Mixolydian",
                                              "Major Penta", "Minor Penta", "Blues",  "Whole Tone"};
 

@@ -17,30 +17,55 @@ public:
     void applyParameterValue(platform::AUParameterAddress, float) override {}
 };
 
-struct Range {
-    float lower, upper, initial;
-};
+AudioUnitParameterUnit unit(ControlUnit unit) {
+    switch (unit) {
+    case ControlUnit::index:
+        return AudioUnitParameterUnit::indexed;
+    case ControlUnit::onOff:
+        return AudioUnitParameterUnit::boolean;
+    case ControlUnit::semitones:
+        return AudioUnitParameterUnit::relativeSemiTones;
+    case ControlUnit::percent:
+        return AudioUnitParameterUnit::percent;
+    case ControlUnit::milliseconds:
+        return AudioUnitParameterUnit::milliseconds;
+    case ControlUnit::none:
+        break;
+    }
+    return AudioUnitParameterUnit::generic;
+}
 
-std::shared_ptr<AudioParameter> make(Ports::Index port, const QString& name, AudioUnitParameterUnit unit,
-                                     Range range) {
+std::shared_ptr<AudioParameter> make(const ControlPort& port) {
+    std::optional<QStringList> labels;
+    if (port.unit == ControlUnit::index) {
+        labels.emplace();
+        for (const char* const label : port.labels)
+            labels->append(QString::fromUtf8(label));
+    }
     return platform::makeMainThreadShared<AudioParameter>(
-        port, name.toLower(), name, unit, chorale::ClosedRange<float>(range.lower, range.upper),
-        range.initial);
+        port.index, QString::fromUtf8(port.symbol), QString::fromUtf8(port.name), unit(port.unit),
+        chorale::ClosedRange<float>(port.lower, port.upper), port.initial, labels);
+}
+
+std::map<std::uint32_t, std::shared_ptr<AudioParameter>> makeAll() {
+    std::map<std::uint32_t, std::shared_ptr<AudioParameter>> all;
+    for (const ControlPort& port : controlPorts())
+        if (port.index != Ports::enabled) // the host's own switch
+            all.emplace(port.index, make(port));
+    return all;
 }
 
 } // namespace
 
 EditorParameters::EditorParameters(HostConnection& host)
     : m_host(host),
-      m_transpose(make(Ports::transpose, QStringLiteral("Transpose"),
-                       AudioUnitParameterUnit::relativeSemiTones, {-24, 24, 0})),
-      m_velocity(
-          make(Ports::velocity, QStringLiteral("Velocity"), AudioUnitParameterUnit::percent, {0, 200, 100})),
-      m_chance(make(Ports::chance, QStringLiteral("Chance"), AudioUnitParameterUnit::percent, {0, 100, 100})),
-      m_hold(make(Ports::hold, QStringLiteral("Hold"), AudioUnitParameterUnit::boolean, {0, 1, 0})),
+      m_parameters(makeAll()),
       m_audioUnit(std::make_shared<RemoteAudioUnit>()),
       m_settings(platform::makeMainThreadShared<chorale::ParameterSettings>()) {
-    m_settings->setupParameters({m_transpose, m_velocity, m_chance, m_hold});
+    QList<std::shared_ptr<AudioParameter>> all;
+    for (const auto& [port, parameter] : m_parameters)
+        all << parameter;
+    m_settings->setupParameters(all);
     m_settings->configureAudioUnit(m_audioUnit);
     m_settings->setupParameterTreeListeners();
     m_token = m_audioUnit->parameterTree()->tokenByAddingParameterAutomationObserver(

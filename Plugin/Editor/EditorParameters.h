@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chorale/ParameterSettings.h"
+#include "Plugin/ControlPorts.h"
 #include "Plugin/Editor/HostConnection.h"
 
 #include <QObject>
@@ -19,13 +20,10 @@ public:
     EditorParameters(const EditorParameters&) = delete;
     EditorParameters& operator=(const EditorParameters&) = delete;
 
-    const std::shared_ptr<chorale::AudioParameter>& transpose() const { return m_transpose; }
-
-    const std::shared_ptr<chorale::AudioParameter>& velocity() const { return m_velocity; }
-
-    const std::shared_ptr<chorale::AudioParameter>& chance() const { return m_chance; }
-
-    const std::shared_ptr<chorale::AudioParameter>& hold() const { return m_hold; }
+    /// `port` is that of a control that the editor shows: all but `enabled`.
+    const std::shared_ptr<chorale::AudioParameter>& parameter(Ports::Index port) const {
+        return m_parameters.at(port);
+    }
 
     /// The host's value of a port; ports that the editor does not show are ignored. While the user holds the
     /// port it waits until the hand has gone.
@@ -36,10 +34,7 @@ private:
     void show(std::uint32_t port, float value);
 
     HostConnection& m_host;
-    const std::shared_ptr<chorale::AudioParameter> m_transpose;
-    const std::shared_ptr<chorale::AudioParameter> m_velocity;
-    const std::shared_ptr<chorale::AudioParameter> m_chance;
-    const std::shared_ptr<chorale::AudioParameter> m_hold;
+    const std::map<std::uint32_t, std::shared_ptr<chorale::AudioParameter>> m_parameters;
     const std::shared_ptr<chorale::ChoraleAudioUnit> m_audioUnit;
     const std::shared_ptr<chorale::ParameterSettings> m_settings;
     platform::AUParameterObserverToken m_token{};

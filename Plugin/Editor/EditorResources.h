@@ -20,6 +20,9 @@ struct EditorColors {
     static constexpr auto label = colorAsset("Label");
     static constexpr auto value = colorAsset("Value");
     static constexpr auto accent = colorAsset("Accent");
+    static constexpr auto whiteKey = colorAsset("WhiteKey");
+    static constexpr auto blackKey = colorAsset("BlackKey");
+    static constexpr auto rootDot = colorAsset("RootDot");
 };
 
 struct EditorImages {

@@ -1,6 +1,7 @@
 #include "Plugin/Editor/EditorView.h"
 
 #include "Chorale/AudioParameter.h"
+#include "Chorale/ChoiceLabel.h"
 #include "Chorale/DialLabel.h"
 #include "Chorale/MakerLinks.h"
 #include "Chorale/ParameterDial.h"
@@ -9,34 +10,56 @@
 #include "Chorale/RocketFontModifier.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Editor/ScaleView.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace noteloft::plugin {
 
 namespace {
 
-using Parameter = std::shared_ptr<chorale::AudioParameter>;
+using chorale::AudioParameter;
+using Parameter = std::shared_ptr<AudioParameter>;
 
 constexpr qreal dialDiameter = 72;
 constexpr float nameSize = 13;
 constexpr float valueSize = 18;
 constexpr float fieldWidth = 76;
 
+/// A control over its name, the controls of a row all of one height.
 QVBoxLayout* makeColumn(QWidget* control, QWidget* label) {
+    auto* const place = new QWidget;
+    place->setFixedHeight(static_cast<int>(dialDiameter));
+    auto* const middle = new QHBoxLayout(place);
+    middle->setContentsMargins({});
+    middle->addWidget(control);
     auto* const column = new QVBoxLayout;
     column->setSpacing(8);
-    column->addWidget(control, 0, Qt::AlignHCenter);
+    column->addWidget(place, 0, Qt::AlignHCenter);
     column->addWidget(label, 0, Qt::AlignHCenter | Qt::AlignTop);
     return column;
 }
 
+QLabel* makeName(const QString& text) {
+    auto* const name = new QLabel(text.toUpper());
+    chorale::rocketFont(*name, nameSize);
+    QPalette palette = name->palette();
+    palette.setColor(QPalette::WindowText, EditorColors::label.color());
+    name->setPalette(palette);
+    return name;
+}
+
 QWidget* makeLabel(const Parameter& parameter) {
-    return new chorale::DialLabel(parameter, EditorColors::label.color(), EditorColors::value.color(),
-                                  nameSize, valueSize, valueSize, fieldWidth, true, true, 0, {});
+    const QColor label = EditorColors::label.color();
+    const QColor value = EditorColors::value.color();
+    if (parameter->valueStrings())
+        return new chorale::ChoiceLabel(parameter, label, value, nameSize, valueSize);
+    return new chorale::DialLabel(parameter, label, value, nameSize, valueSize, valueSize, fieldWidth, true,
+                                  true, 0, {});
 }
 
 QVBoxLayout* makeDial(const Parameter& parameter) {
@@ -45,39 +68,64 @@ QVBoxLayout* makeDial(const Parameter& parameter) {
     return makeColumn(dial, makeLabel(parameter));
 }
 
-QVBoxLayout* makeHold(const Parameter& parameter) {
-    auto* const place = new QWidget;
-    place->setFixedHeight(static_cast<int>(dialDiameter));
-    auto* const middle = new QHBoxLayout(place);
-    middle->setContentsMargins({});
-    middle->addWidget(
-        new chorale::ParameterHoldButton(parameter, EditorImages::hold, EditorImages::holdDown));
-    auto* const name = new QLabel(parameter->name().toUpper());
-    chorale::rocketFont(*name, nameSize);
-    QPalette palette = name->palette();
-    palette.setColor(QPalette::WindowText, EditorColors::label.color());
-    name->setPalette(palette);
-    return makeColumn(place, name);
+QHBoxLayout* makeDials(const EditorParameters& parameters, std::initializer_list<Ports::Index> ports) {
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins({});
+    row->setSpacing(0);
+    for (const Ports::Index port : ports)
+        row->addLayout(makeDial(parameters.parameter(port)), 1);
+    return row;
+}
+
+QWidget* makePage(QHBoxLayout* row) {
+    auto* const page = new QWidget;
+    page->setLayout(row);
+    return page;
+}
+
+QWidget* makeScalePage(const EditorParameters& parameters) {
+    QHBoxLayout* const row = makeDials(parameters, {Ports::transpose, Ports::root, Ports::scale});
+    auto* const keys = new ScaleView(parameters.parameter(Ports::root), parameters.parameter(Ports::scale));
+    row->addLayout(makeColumn(keys, makeName(EditorView::tr("Notes"))), 1);
+    return makePage(row);
 }
 
 } // namespace
 
-EditorView::EditorView(const EditorParameters& parameters) {
-    constexpr int width = 520;
-    constexpr QMargins bodyMargins(32, 28, 32, 20);
+EditorView::EditorView(const EditorParameters& parameters)
+    : m_page(parameters.parameter(Ports::page)), m_pages(new QStackedWidget) {
+    constexpr int width = 700;
+    constexpr QMargins bodyMargins(20, 28, 20, 20);
     auto* const stack = new QVBoxLayout(this);
     stack->setContentsMargins({});
     stack->setSpacing(0);
     stack->addWidget(new chorale::PluginHeaderView(chorale::MakerLinks::website(),
-                                                   QStringLiteral(NOTELOFT_VERSION),
-                                                   chorale::AudioParameter::dummyParam(), std::nullopt));
+                                                   QStringLiteral(NOTELOFT_VERSION), m_page, std::nullopt));
+    m_pages->addWidget(makeScalePage(parameters));
+    m_pages->addWidget(
+        makePage(makeDials(parameters, {Ports::chord, Ports::inversion, Ports::strum, Ports::direction})));
+    m_pages->addWidget(
+        makePage(makeDials(parameters, {Ports::velocity, Ports::dynamics, Ports::timing, Ports::chance})));
+    const Parameter& hold = parameters.parameter(Ports::hold);
     auto* const body = new QHBoxLayout;
     body->setContentsMargins(bodyMargins);
-    for (const Parameter& parameter : {parameters.transpose(), parameters.velocity(), parameters.chance()})
-        body->addLayout(makeDial(parameter), 1);
-    body->addLayout(makeHold(parameters.hold()), 1);
+    body->setSpacing(0);
+    body->addWidget(m_pages, 4);
+    body->addLayout(
+        makeColumn(new chorale::ParameterHoldButton(hold, EditorImages::hold, EditorImages::holdDown),
+                   makeName(hold->name())),
+        1);
     stack->addLayout(body);
     setFixedSize(width, sizeHint().height());
+    // So that no control shows a focus ring before the user asks for one.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
+    connect(m_page.get(), &AudioParameter::valueChanged, this, &EditorView::showPage);
+    showPage();
+}
+
+void EditorView::showPage() {
+    m_pages->setCurrentIndex(qRound(m_page->value()));
 }
 
 void EditorView::paintEvent(QPaintEvent*) {

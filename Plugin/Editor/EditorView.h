@@ -2,11 +2,19 @@
 
 #include <QWidget>
 
+#include <memory>
+
+class QStackedWidget;
+
+namespace chorale {
+class AudioParameter;
+}
+
 namespace noteloft::plugin {
 
 class EditorParameters;
 
-/// The editor: the header, a dial and a label for each value, and the button that holds notes.
+/// The editor: the header with a tab for each page, the dials of the page, and the button that holds notes.
 class EditorView : public QWidget {
     Q_OBJECT
 
@@ -15,6 +23,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void showPage();
+
+    const std::shared_ptr<chorale::AudioParameter> m_page;
+    QStackedWidget* const m_pages; // a child
 };
 
 } // namespace noteloft::plugin

@@ -1,5 +1,7 @@
 #include "Plugin/Editor/QtSession.h"
 
+#include "Platform/Graphics/Appearance.h"
+
 #include <QApplication>
 #include <QEventLoop>
 
@@ -54,6 +56,7 @@ void QtSession::begin() {
     static char* arguments[] = {name, option, platform, nullptr};
     new QApplication(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
+    platform::setAppearance(platform::Appearance::dark); // for menus; a host's own application keeps its look
     std::setlocale(LC_ALL, locale.c_str());
     ownsApplication() = true;
 }

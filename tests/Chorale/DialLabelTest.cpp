@@ -151,7 +151,7 @@ TEST_F(DialLabelTest, TheKeyboardGoesBackToWhereItWas) {
     EXPECT_TRUE(m_label->hasFocus());
 }
 
-TEST_F(DialLabelTest, LooksAndSizeFollowTheParts) {
+TEST_F(DialLabelTest, LooksAndSizeFollowWhatIsShown) {
     HostWatch host(AudioUnitParameterUnit::decibels);
     const DialLabel& label = show(host, 1);
     EXPECT_GE(label.sizeHint().width(), 60);

@@ -3,6 +3,7 @@
 #include "Plugin/NoteloftPlugin.h"
 
 #include <lilv/lilv.h>
+#include <lv2/presets/presets.h>
 
 #include <gtest/gtest.h>
 
@@ -22,6 +23,7 @@ struct Free {
 
 using World = std::unique_ptr<LilvWorld, Free<lilv_world_free>>;
 using Node = std::unique_ptr<LilvNode, Free<lilv_node_free>>;
+using Nodes = std::unique_ptr<LilvNodes, Free<lilv_nodes_free>>;
 using Points = std::unique_ptr<LilvScalePoints, Free<lilv_scale_points_free>>;
 
 class ControlPortsTest : public testing::Test {
@@ -76,5 +78,35 @@ TEST_F(ControlPortsTest, AreWhatTheHostIsTold) {
         EXPECT_EQ(points.size(), known.labels.size());
         for (std::size_t i = 0; i < known.labels.size(); ++i)
             EXPECT_EQ(points[static_cast<float>(i)], known.labels[i]);
+    }
+}
+
+TEST_F(ControlPortsTest, PresetsSetAllThatIsHeardWithinItsRange) {
+    const Node kind(lilv_new_uri(m_world.get(), LV2_PRESETS__Preset));
+    const Node portKey(lilv_new_uri(m_world.get(), LV2_CORE__port));
+    const Node symbolKey(lilv_new_uri(m_world.get(), LV2_CORE__symbol));
+    const Node valueKey(lilv_new_uri(m_world.get(), LV2_PRESETS__value));
+    const Nodes presets(lilv_plugin_get_related(m_plugin, kind.get()));
+    EXPECT_EQ(lilv_nodes_size(presets.get()), 5U);
+    LILV_FOREACH(nodes, i, presets.get()) {
+        const LilvNode* const preset = lilv_nodes_get(presets.get(), i);
+        SCOPED_TRACE(lilv_node_as_uri(preset));
+        lilv_world_load_resource(m_world.get(), preset);
+        const Nodes ports(lilv_world_find_nodes(m_world.get(), preset, portKey.get(), nullptr));
+        std::map<std::string, float> values;
+        LILV_FOREACH(nodes, j, ports.get()) {
+            const LilvNode* const port = lilv_nodes_get(ports.get(), j);
+            const Node symbol(lilv_world_get(m_world.get(), port, symbolKey.get(), nullptr));
+            const Node value(lilv_world_get(m_world.get(), port, valueKey.get(), nullptr));
+            values[lilv_node_as_string(symbol.get())] = number(value.get());
+        }
+        for (const ControlPort& known : controlPorts()) {
+            if (known.index == Ports::enabled || known.index == Ports::page)
+                continue;
+            ASSERT_TRUE(values.contains(known.symbol)) << known.symbol;
+            EXPECT_EQ(values[known.symbol], known.clamped(values[known.symbol])) << known.symbol;
+            values.erase(known.symbol);
+        }
+        EXPECT_TRUE(values.empty()) << values.begin()->first;
     }
 }

@@ -24,6 +24,7 @@ namespace {
 
 constexpr std::uint32_t transposePort = 2;
 constexpr std::uint32_t holdPort = 5;
+constexpr std::uint32_t pagePort = 7;
 
 const LV2UI_Descriptor& descriptor() {
     static void* const library = dlopen(NOTELOFT_EDITOR, RTLD_NOW | RTLD_LOCAL);
@@ -50,10 +51,10 @@ public:
     Screen& operator=(const Screen&) = delete;
 
     /// Not managed by a window manager, so that it lies where it is put.
-    std::uint32_t makeWindow(std::int16_t x, std::int16_t y) {
+    std::uint32_t makeWindow(std::int16_t y) {
         const std::uint32_t window = xcb_generate_id(m_connection);
         const std::uint32_t values[] = {1};
-        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, m_screen->root, x, y, 520, 300, 0,
+        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, m_screen->root, 0, y, 700, 300, 0,
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, m_screen->root_visual, XCB_CW_OVERRIDE_REDIRECT,
                           values);
         xcb_map_window(m_connection, window);
@@ -90,7 +91,7 @@ private:
 /// A host with one editor.
 class Host {
 public:
-    explicit Host(Screen& screen, std::int16_t x = 0) : m_screen(screen), m_window(screen.makeWindow(x, 0)) {
+    explicit Host(Screen& screen, std::int16_t y = 0) : m_screen(screen), m_window(screen.makeWindow(y)) {
         LV2UI_Widget widget = nullptr;
         m_editor = descriptor().instantiate(&descriptor(), "http://quillfen.example/plugins/noteloft",
                                             NOTELOFT_EDITOR_FOLDER, write, this, &widget, m_features);
@@ -160,9 +161,9 @@ private:
 class EditorTest : public testing::Test {
 protected:
     // The first dial's middle, and the hold button's.
-    static constexpr std::int16_t dialX = 89;
+    static constexpr std::int16_t dialX = 86;
     static constexpr std::int16_t dialY = 110;
-    static constexpr std::int16_t holdX = 430;
+    static constexpr std::int16_t holdX = 614;
     static constexpr std::int16_t holdY = 110;
 
     void drag(Host& host, int upwards, const std::function<void()>& meanwhile = {}) {
@@ -226,6 +227,25 @@ TEST_F(EditorTest, HoldIsOneWhileItIsHeld) {
     EXPECT_THAT(host.take(), ElementsAre("5=0"));
 }
 
+TEST_F(EditorTest, PagesFollowTheTabsAndTheHost) {
+    constexpr std::int16_t secondTabX = 351;
+    constexpr std::int16_t tabY = 23;
+    Host host(m_screen);
+    host.idle(20);
+    m_screen.movePointer(secondTabX, tabY);
+    m_screen.press();
+    host.idle();
+    m_screen.release();
+    host.idle();
+    EXPECT_THAT(host.take(), ElementsAre("7=1"));
+    drag(host, 50);
+    EXPECT_THAT(host.take(), ElementsAre("touch 10", "10=0", "10=3", "10=3", "release 10")) << "the chord";
+    host.send(pagePort, 2);
+    drag(host, 50);
+    EXPECT_THAT(host.take(), ElementsAre("touch 3", "3=100", "3=150", "3=150", "release 3"))
+        << "the velocity";
+}
+
 TEST_F(EditorTest, OpensAndClosesAHundredTimesInBothOrders) {
     for (int i = 0; i < 100; ++i) {
         Host host(m_screen);
@@ -236,14 +256,14 @@ TEST_F(EditorTest, OpensAndClosesAHundredTimesInBothOrders) {
 
 TEST_F(EditorTest, TwoAtOnceDoNotHearOfEachOther) {
     Host first(m_screen);
-    Host second(m_screen, 540);
+    Host second(m_screen, 400);
     first.idle(20);
     drag(first, 50);
     EXPECT_FALSE(first.take().empty());
     EXPECT_THAT(second.take(), IsEmpty());
     first.close(true);
     second.idle();
-    m_screen.movePointer(540 + holdX, holdY);
+    m_screen.movePointer(holdX, 400 + holdY);
     m_screen.press();
     second.idle();
     EXPECT_THAT(second.take(), ElementsAre("5=1"));
