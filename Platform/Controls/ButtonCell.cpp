@@ -36,7 +36,7 @@ constexpr qreal leastSideMargin = 6;
 constexpr qreal framedHeight = 24;
 /// What one without a frame has, so that the focus can be drawn around it.
 constexpr qreal plainMargin = 4;
-constexpr qreal disabledOpacity = 0.5;
+constexpr float disabledOpacity = 0.5F;
 
 } // namespace
 
@@ -133,16 +133,13 @@ void ButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
 
 void ButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
     QColor color = controlTextColor();
-    color.setAlphaF(color.alphaF() * (isEnabled() ? 1.0F : static_cast<float>(disabledOpacity)));
+    color.setAlphaF(color.alphaF() * (isEnabled() ? 1.0F : disabledOpacity));
     preparedTitle(font()).draw(painter, frame, {color.rgba(), Qt::AlignHCenter, showsMnemonic()});
 }
 
 void ButtonCell::drawImage(QPainter& painter, const QRectF& frame) const {
-    const qreal opacity = painter.opacity();
-    if (!isEnabled())
-        painter.setOpacity(opacity * disabledOpacity);
-    shownImage().tinted(controlTextColor()).draw(painter, frame);
-    painter.setOpacity(opacity);
+    const Image shown = shownImage().tinted(controlTextColor());
+    shown.faded(isEnabled() ? 1 : disabledOpacity).draw(painter, frame);
 }
 
 } // namespace platform

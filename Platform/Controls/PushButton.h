@@ -85,7 +85,7 @@ protected:
     virtual void drawFocus(QPainter& painter);
 
     /// Whether the focus is drawn: the keyboard is on the button, in the window that has it.
-    virtual bool showsFocus() const { return isActiveWindow() && hasFocus(); }
+    virtual bool showsFocus() const { return hasFocus() && isActiveWindow(); }
 
     /// The pointer's press, single or the second of a double click.
     virtual void beginTracking(QMouseEvent& event);

@@ -20,13 +20,14 @@ struct DrawnKey {
     int scale;
     std::optional<QRgb> tint;
     std::optional<Recoloring> recoloring;
+    float opacity;
 
     bool operator==(const DrawnKey&) const = default;
 };
 
 std::size_t qHash(const DrawnKey& key, std::size_t seed = 0) {
     return qHashMulti(seed, key.pixels.width(), key.pixels.height(), key.scale, key.tint.value_or(0),
-                      key.recoloring ? key.recoloring->to : 0);
+                      key.recoloring ? key.recoloring->to : 0, key.opacity);
 }
 
 constexpr int drawnPictures = 64;
@@ -35,6 +36,12 @@ void tint(QImage& image, QRgb color) {
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), QColor::fromRgba(color));
+}
+
+void fade(QImage& image, float opacity) {
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(image.rect(), QColor::fromRgbF(0, 0, 0, opacity));
 }
 
 } // namespace
@@ -71,6 +78,8 @@ QImage Image::Data::render(const DrawnKey& key, qreal scale) {
         recolor(result, *key.recoloring);
     if (key.tint)
         tint(result, *key.tint);
+    if (key.opacity < 1)
+        fade(result, key.opacity);
     return result;
 }
 
@@ -116,11 +125,17 @@ Image Image::recolored(const Recoloring& recoloring) const {
     return copy;
 }
 
+Image Image::faded(float opacity) const {
+    Image copy = *this;
+    copy.m_opacity *= opacity;
+    return copy;
+}
+
 QImage Image::bitmap(QSizeF size, qreal scale) const {
     const QSize pixels = (size * scale).toSize();
     if (isNull() || pixels.isEmpty())
         return {};
-    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring};
+    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring, m_opacity};
     if (const QImage* known = m_data->drawn.object(key))
         return *known;
     auto* const drawn = new QImage(m_data->render(key, scale));

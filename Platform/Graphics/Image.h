@@ -59,6 +59,9 @@ public:
     /// A copy with other colours; of a template, the same.
     Image recolored(const Recoloring& recoloring) const;
 
+    /// A copy that is `opacity` times as opaque, from 0 to 1.
+    Image faded(float opacity) const;
+
     /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred.
     void draw(QPainter& painter, const QRectF& target) const;
 
@@ -72,6 +75,7 @@ private:
     std::shared_ptr<Data> m_data;
     std::optional<QRgb> m_tint;
     std::optional<Recoloring> m_recoloring;
+    float m_opacity = 1;
     bool m_template = false;
 };
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace platform {
 
@@ -33,6 +34,23 @@ Mnemonic withoutAmpersands(const QString& source) {
     return result;
 }
 
+/// The least rectangle around all that is not transparent; one pixel if there is nothing.
+QRect inkBounds(const QImage& image) {
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        const auto isInk = [](QRgb pixel) { return qAlpha(pixel) != 0; };
+        const auto* const first = std::find_if(row, row + image.width(), isInk);
+        if (first == row + image.width())
+            continue;
+        const auto last =
+            std::find_if(std::reverse_iterator(row + image.width()), std::reverse_iterator(row), isInk);
+        bounds |= QRect(QPoint(static_cast<int>(first - row), y),
+                        QPoint(static_cast<int>(last.base() - row) - 1, y));
+    }
+    return bounds.isEmpty() ? QRect(0, 0, 1, 1) : bounds;
+}
+
 } // namespace
 
 void PreparedText::set(const QString& text, const QFont& font) {
@@ -57,16 +75,20 @@ void PreparedText::make(const Made& made) const {
         m_size.width() <= made.width ? m_text : metrics.elidedText(m_text, Qt::ElideRight, made.width);
     m_shownWidth = shown == m_text ? m_size.width() : std::ceil(metrics.horizontalAdvance(shown));
     const QSizeF room(m_shownWidth + 2 * overhang, m_size.height() + 2 * overhang);
-    m_picture = QImage((room * made.scale).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
-    m_picture.setDevicePixelRatio(made.scale);
-    m_picture.fill(Qt::transparent);
-    QPainter painter(&m_picture);
+    QImage line((room * made.scale).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
+    line.setDevicePixelRatio(made.scale);
+    line.fill(Qt::transparent);
+    QPainter painter(&line);
     painter.setFont(m_font);
     painter.setPen(QColor::fromRgba(made.color));
     const QPointF baseline(overhang, onPixel(overhang + m_ascent, made.scale));
     painter.drawText(baseline, shown);
     if (made.showsMnemonic && m_mnemonic >= 0)
         underlineMnemonic(painter, baseline);
+    painter.end();
+    const QRect ink = inkBounds(line);
+    m_inkOrigin = ink.topLeft();
+    m_picture = line.copy(ink);
     m_made = made;
 }
 
@@ -83,7 +105,7 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look)
         x = rect.right() - m_shownWidth;
     const qreal baseline = onPixel(rect.center().y() + m_capHeight / 2, scale);
     const qreal top = baseline - onPixel(overhang + m_ascent, scale);
-    drawPixels(painter, {onPixel(x - overhang, scale), top}, m_picture);
+    drawPixels(painter, QPointF(onPixel(x - overhang, scale), top) + QPointF(m_inkOrigin) / scale, m_picture);
 }
 
 void PreparedText::underlineMnemonic(QPainter& painter, QPointF baseline) const {

@@ -55,7 +55,8 @@ private:
     qreal m_ascent = 0;
     qreal m_capHeight = 0;
     qsizetype m_mnemonic = -1;
-    mutable QImage m_picture;
+    mutable QImage m_picture;   // of the ink only
+    mutable QPoint m_inkOrigin; // in the line's room, in pixels
     mutable std::optional<Made> m_made;
     mutable qreal m_shownWidth = 0; // of the text or of what the ellipsis leaves of it
 };

@@ -231,6 +231,17 @@ TEST_F(ImageFileTest, OnlyATemplateTakesAColor) {
         << "the template itself stays as it was";
 }
 
+TEST_F(ImageFileTest, FadedCopiesMultiply) {
+    auto description = frame();
+    description.files = {{1, write("shape", {12, 12}, [](int, int) { return qRgba(200, 100, 0, 200); })}};
+    const Image image(description);
+    const auto alpha = [](const Image& shown) { return qAlpha(shown.bitmap({12, 12}, 1).pixel(5, 5)); };
+    EXPECT_NEAR(alpha(image.faded(0.5F).faded(0.5F)), 50, 1);
+    EXPECT_NEAR(alpha(image.faded(0.5F)), 100, 1);
+    EXPECT_EQ(alpha(image), 200);
+    EXPECT_NEAR(qRed(qUnpremultiply(image.faded(0.5F).bitmap({12, 12}, 1).pixel(5, 5))), 200, 2);
+}
+
 TEST_F(ImageFileTest, WithoutPixelsDrawsNothing) {
     QImage drawn = canvas({20, 20}, 1);
     QPainter painter(&drawn);
