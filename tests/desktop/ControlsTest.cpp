@@ -11,6 +11,8 @@
 #include "tests/desktop/Desktop.h"
 #include "tests/support/ActionCounter.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 using namespace tidepool;
@@ -116,6 +118,28 @@ TEST_F(ControlsTest, EscapeDisablingAndHidingCancelAPress) {
                           }),
                   0);
         EXPECT_EQ(actions(button, inside(button), [] {}), 1) << "and then it works again";
+    });
+}
+
+// The virtual screen has no touch screen: what one reports enters where Qt takes it from the X server.
+TEST_F(ControlsTest, AFingerClicksAndSlidesOff) {
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    const auto finger = [&] { return QTest::touchEvent(m_window.windowHandle(), screen.get()); };
+    forEach([&](platform::PushButton& button) {
+        const QPoint onButton = button.geometry().center();
+        const QPoint beside = button.geometry().topLeft() + QPoint(-10, 15);
+        const int before = m_target.count;
+        finger().press(0, onButton);
+        EXPECT_TRUE(isPressed(button, true));
+        finger().release(0, onButton);
+        EXPECT_TRUE(Desktop::waitUntil([&] { return m_target.count == before + 1; }));
+        finger().press(0, onButton);
+        EXPECT_TRUE(isPressed(button, true));
+        finger().move(0, beside);
+        EXPECT_TRUE(isPressed(button, false));
+        finger().release(0, beside);
+        Desktop::wait(20);
+        EXPECT_EQ(m_target.count, before + 1);
     });
 }
 
