@@ -1,48 +1,32 @@
 // What hosts read of the control ports, and what the code knows of them.
-#include "Plugin/ControlPorts.h"
-#include "Plugin/NoteloftPlugin.h"
+#include "InstalledPlugin.h"
 
-#include <lilv/lilv.h>
+#include "Plugin/ControlPorts.h"
+
 #include <lv2/presets/presets.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <map>
-#include <memory>
 #include <string>
 
 using namespace noteloft::plugin;
 
 namespace {
 
-template <auto free>
-struct Free {
-    void operator()(auto* pointer) const { free(pointer); }
-};
-
-using World = std::unique_ptr<LilvWorld, Free<lilv_world_free>>;
-using Node = std::unique_ptr<LilvNode, Free<lilv_node_free>>;
-using Nodes = std::unique_ptr<LilvNodes, Free<lilv_nodes_free>>;
 using Points = std::unique_ptr<LilvScalePoints, Free<lilv_scale_points_free>>;
 
 class ControlPortsTest : public testing::Test {
 protected:
-    ControlPortsTest() {
-        const Node bundle(lilv_new_file_uri(m_world.get(), nullptr, NOTELOFT_BUNDLE "/"));
-        lilv_world_load_bundle(m_world.get(), bundle.get());
-        lilv_world_load_specifications(m_world.get());
-        const Node uri(lilv_new_uri(m_world.get(), NoteloftPlugin::uri));
-        m_plugin = lilv_plugins_get_by_uri(lilv_world_get_all_plugins(m_world.get()), uri.get());
-    }
-
     bool has(const LilvPort* port, const char* property) const {
-        const Node node(lilv_new_uri(m_world.get(), property));
+        const Node node(lilv_new_uri(m_world, property));
         return lilv_port_has_property(m_plugin, port, node.get());
     }
 
-    const World m_world{lilv_world_new()};
-    const LilvPlugin* m_plugin = nullptr;
+    const InstalledPlugin m_installed;
+    LilvWorld* const m_world = m_installed.world.get();
+    const LilvPlugin* const m_plugin = m_installed.plugin;
 };
 
 float number(const LilvNode* node) {
@@ -82,22 +66,22 @@ TEST_F(ControlPortsTest, AreWhatTheHostIsTold) {
 }
 
 TEST_F(ControlPortsTest, PresetsSetAllThatIsHeardWithinItsRange) {
-    const Node kind(lilv_new_uri(m_world.get(), LV2_PRESETS__Preset));
-    const Node portKey(lilv_new_uri(m_world.get(), LV2_CORE__port));
-    const Node symbolKey(lilv_new_uri(m_world.get(), LV2_CORE__symbol));
-    const Node valueKey(lilv_new_uri(m_world.get(), LV2_PRESETS__value));
+    const Node kind(lilv_new_uri(m_world, LV2_PRESETS__Preset));
+    const Node portKey(lilv_new_uri(m_world, LV2_CORE__port));
+    const Node symbolKey(lilv_new_uri(m_world, LV2_CORE__symbol));
+    const Node valueKey(lilv_new_uri(m_world, LV2_PRESETS__value));
     const Nodes presets(lilv_plugin_get_related(m_plugin, kind.get()));
     EXPECT_EQ(lilv_nodes_size(presets.get()), 5U);
     LILV_FOREACH(nodes, i, presets.get()) {
         const LilvNode* const preset = lilv_nodes_get(presets.get(), i);
         SCOPED_TRACE(lilv_node_as_uri(preset));
-        lilv_world_load_resource(m_world.get(), preset);
-        const Nodes ports(lilv_world_find_nodes(m_world.get(), preset, portKey.get(), nullptr));
+        lilv_world_load_resource(m_world, preset);
+        const Nodes ports(lilv_world_find_nodes(m_world, preset, portKey.get(), nullptr));
         std::map<std::string, float> values;
         LILV_FOREACH(nodes, j, ports.get()) {
             const LilvNode* const port = lilv_nodes_get(ports.get(), j);
-            const Node symbol(lilv_world_get(m_world.get(), port, symbolKey.get(), nullptr));
-            const Node value(lilv_world_get(m_world.get(), port, valueKey.get(), nullptr));
+            const Node symbol(lilv_world_get(m_world, port, symbolKey.get(), nullptr));
+            const Node value(lilv_world_get(m_world, port, valueKey.get(), nullptr));
             values[lilv_node_as_string(symbol.get())] = number(value.get());
         }
         for (const ControlPort& known : controlPorts()) {
