@@ -1,0 +1,67 @@
+// The editor's view without a host: what keyboard and screen reader find on each page.
+#include "Plugin/Editor/EditorView.h"
+#include "Plugin/Editor/EditorParameters.h"
+#include "Plugin/Editor/ScaleView.h"
+
+#include <QAccessible>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace noteloft::plugin;
+using testing::ElementsAre;
+
+namespace {
+
+class EditorViewTest : public testing::Test {
+protected:
+    void set(Ports::Index port, float value) {
+        m_parameters.receive(port, value);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+
+    /// The accessible names in the order of the Tab key, from the first to where it begins again.
+    std::vector<std::string> reachedByTab() {
+        std::vector<std::string> names;
+        m_view.setFocus();
+        QWidget* first = nullptr;
+        for (;;) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QWidget* const focus = QApplication::focusWidget();
+            if (focus == first)
+                return names;
+            if (first == nullptr)
+                first = focus;
+            names.push_back(
+                QAccessible::queryAccessibleInterface(focus)->text(QAccessible::Name).toStdString());
+        }
+    }
+
+    HostConnection m_host{[](auto, auto, auto, auto, auto) {}, nullptr, nullptr};
+    EditorParameters m_parameters{m_host};
+    EditorView m_view{m_parameters};
+};
+
+} // namespace
+
+TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
+    m_view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
+    EXPECT_TRUE(m_view.hasFocus()) << "no ring before somebody asks for one";
+    EXPECT_THAT(reachedByTab(), ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Transpose",
+                                            "Transpose", "Root", "Root", "Scale", "Scale", "Hold"));
+    set(Ports::page, 2);
+    EXPECT_THAT(reachedByTab(),
+                ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Velocity", "Velocity",
+                            "Dynamics", "Dynamics", "Timing", "Timing", "Chance", "Chance", "Hold"));
+}
+
+TEST_F(EditorViewTest, TheKeysTellTheNotesOfTheScale) {
+    auto* const keys = m_view.findChild<ScaleView*>();
+    ASSERT_NE(keys, nullptr);
+    set(Ports::root, 2);
+    set(Ports::scale, 8);
+    EXPECT_EQ(keys->accessibleName(), QStringLiteral("Notes of the scale: D, E, F#, A, B"));
+}
