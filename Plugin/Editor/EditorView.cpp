@@ -10,6 +10,7 @@
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -78,6 +79,12 @@ EditorView::EditorView(const EditorParameters& parameters) {
     body->addLayout(makeHold(parameters.hold()), 1);
     stack->addLayout(body);
     setFixedSize(width, sizeHint().height());
+}
+
+bool EditorView::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && focusWidget() == nullptr)
+        setFocus();
+    return QWidget::event(event);
 }
 
 void EditorView::paintEvent(QPaintEvent*) {
