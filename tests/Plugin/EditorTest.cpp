@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -180,9 +181,9 @@ private:
                       const void* buffer) {
         EXPECT_EQ(size, sizeof(float));
         EXPECT_EQ(format, 0U);
-        const float value = *static_cast<const float*>(buffer);
-        static_cast<Host*>(host)->m_heard.push_back(std::to_string(port) + "=" +
-                                                    std::to_string(static_cast<int>(value)));
+        std::ostringstream message;
+        message << port << '=' << *static_cast<const float*>(buffer);
+        static_cast<Host*>(host)->m_heard.push_back(message.str());
     }
 
     static void touch(LV2UI_Feature_Handle host, std::uint32_t port, bool isTouched) {
@@ -265,6 +266,13 @@ TEST_F(EditorTest, ADragIsATouchValuesAndARelease) {
     host.idle(20);
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
+}
+
+TEST_F(EditorTest, APortOfWholeNumbersGetsThem) {
+    Host host(m_screen);
+    host.idle(20);
+    drag(host, 30);
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=7", "2=7", "release 2"));
 }
 
 TEST_F(EditorTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
