@@ -28,7 +28,7 @@ constexpr ControlPort ports[] = {
     choice(Ports::root, "root", "Root", noteNames),
     choice(Ports::scale, "scale", "Scale", scaleNames),
     choice(Ports::chord, "chord", "Chord", chordNames),
-    {Ports::inversion, "inversion", "Inversion", ControlUnit::none, 0, 3, 0},
+    {Ports::inversion, "inversion", "Inversion", ControlUnit::count, 0, 3, 0},
     {Ports::strum, "strum", "Strum", ControlUnit::milliseconds, 0, 120, 0},
     choice(Ports::direction, "direction", "Direction", directionNames),
     {Ports::dynamics, "dynamics", "Dynamics", ControlUnit::percent, 0, 100, 0},

@@ -30,7 +30,7 @@ struct Ports {
 };
 
 /// What a control port's number means.
-enum class ControlUnit { none, index, onOff, semitones, percent, milliseconds };
+enum class ControlUnit { count, index, onOff, semitones, percent, milliseconds };
 
 /// A control port, as noteloft.ttl tells hosts of it.
 struct ControlPort {
@@ -46,6 +46,9 @@ struct ControlPort {
     /// The nearest value that the port can have; hosts are free to send others, and a number that is none is
     /// the initial value.
     float clamped(float value) const;
+
+    /// Whether all its values are integers.
+    bool isWhole() const { return unit != ControlUnit::percent && unit != ControlUnit::milliseconds; }
 };
 
 /// All control ports.

@@ -3,6 +3,8 @@
 #include "Platform/Core/MainThreadShared.h"
 #include "Plugin/ControlPorts.h"
 
+#include <cmath>
+
 namespace noteloft::plugin {
 
 namespace {
@@ -29,7 +31,7 @@ AudioUnitParameterUnit unit(ControlUnit unit) {
         return AudioUnitParameterUnit::percent;
     case ControlUnit::milliseconds:
         return AudioUnitParameterUnit::milliseconds;
-    case ControlUnit::none:
+    case ControlUnit::count:
         break;
     }
     return AudioUnitParameterUnit::generic;
@@ -78,19 +80,22 @@ EditorParameters::~EditorParameters() {
 
 void EditorParameters::send(const platform::AUParameterAutomationEvent& event) {
     const auto port = static_cast<std::uint32_t>(event.address);
+    // A dial turns without steps, whatever its port takes.
+    const bool isWhole = controlPort(static_cast<Ports::Index>(port)).isWhole();
+    const float value = isWhole ? std::round(event.value) : event.value;
     switch (event.eventType) {
     case AUParameterAutomationEventType::touch:
-        m_host.touch(port, event.value);
+        m_host.touch(port, value);
         break;
     case AUParameterAutomationEventType::value:
-        m_host.write(port, event.value);
+        m_host.write(port, value);
         break;
     case AUParameterAutomationEventType::release:
-        m_host.release(port, event.value);
+        m_host.release(port, value);
         // After the change that tells of the release, which is still on its way to the screen.
         if (const auto waiting = m_waiting.extract(port))
             QMetaObject::invokeMethod(
-                &m_later, [this, port, value = waiting.mapped()] { show(port, value); },
+                &m_later, [this, port, shown = waiting.mapped()] { show(port, shown); },
                 Qt::QueuedConnection);
         break;
     }

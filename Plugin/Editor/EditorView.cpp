@@ -12,6 +12,7 @@
 #include "Plugin/Editor/EditorResources.h"
 #include "Plugin/Editor/ScaleView.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -126,6 +127,12 @@ EditorView::EditorView(const EditorParameters& parameters)
 
 void EditorView::showPage() {
     m_pages->setCurrentIndex(qRound(m_page->value()));
+}
+
+bool EditorView::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && focusWidget() == nullptr)
+        setFocus();
+    return QWidget::event(event);
 }
 
 void EditorView::paintEvent(QPaintEvent*) {

@@ -22,6 +22,8 @@ public:
     explicit EditorView(const EditorParameters& parameters);
 
 protected:
+    /// Takes the focus that no control has, so that none shows its ring before the user goes to it.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorView.h"
+#include "Plugin/Editor/HostKeyboard.h"
 
 #include <QWindow>
 
@@ -30,6 +31,7 @@ private:
     EditorParameters m_parameters;
     const std::unique_ptr<QWindow> m_parent; // stands for the host's window, and does not own it
     EditorView m_view;
+    HostKeyboard m_keyboard;
 };
 
 } // namespace noteloft::plugin

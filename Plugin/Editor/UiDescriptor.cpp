@@ -66,7 +66,10 @@ const LV2UI_Idle_Interface idle = {[](LV2UI_Handle) {
 const LV2UI_Descriptor descriptor = {
     "http://quillfen.example/plugins/noteloft#ui",
     instantiate,
-    [](LV2UI_Handle handle) { delete &editor(handle); },
+    [](LV2UI_Handle handle) {
+        delete &editor(handle);
+        QtSession::pump(); // The window goes now; the host may never call again.
+    },
     receive,
     [](const char* uri) -> const void* {
         return std::strcmp(uri, LV2_UI__idleInterface) == 0 ? &idle : nullptr;

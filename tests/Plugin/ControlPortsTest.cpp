@@ -50,6 +50,7 @@ TEST_F(ControlPortsTest, AreWhatTheHostIsTold) {
         EXPECT_EQ(number(lower.get()), known.lower);
         EXPECT_EQ(number(upper.get()), known.upper);
         EXPECT_EQ(has(port, LV2_CORE__toggled), known.unit == ControlUnit::onOff);
+        EXPECT_EQ(has(port, LV2_CORE__integer) || has(port, LV2_CORE__toggled), known.isWhole());
         EXPECT_EQ(has(port, LV2_CORE__enumeration), known.unit == ControlUnit::index);
 
         std::map<float, std::string> points;

@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -54,7 +55,7 @@ public:
     std::uint32_t makeWindow(std::int16_t y) {
         const std::uint32_t window = xcb_generate_id(m_connection);
         const std::uint32_t values[] = {1};
-        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, m_screen->root, 0, y, 700, 300, 0,
+        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, m_screen->root, 0, y, width, 300, 0,
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, m_screen->root_visual, XCB_CW_OVERRIDE_REDIRECT,
                           values);
         xcb_map_window(m_connection, window);
@@ -67,6 +68,43 @@ public:
         flush();
     }
 
+    bool exists(std::uint32_t window) {
+        auto* const reply =
+            xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr);
+        free(reply);
+        return reply != nullptr;
+    }
+
+    /// The picture of a window and of what lies in it, from its top.
+    std::vector<std::uint8_t> picture(std::uint32_t window, std::uint16_t height) {
+        const auto cookie =
+            xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0, width, height, ~0U);
+        auto* const reply = xcb_get_image_reply(m_connection, cookie, nullptr);
+        const std::uint8_t* const data = xcb_get_image_data(reply);
+        std::vector<std::uint8_t> bytes(data, data + xcb_get_image_data_length(reply));
+        free(reply);
+        return bytes;
+    }
+
+    /// The window that gets the keys.
+    std::uint32_t focus() {
+        auto* const reply =
+            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr);
+        const std::uint32_t window = reply->focus;
+        free(reply);
+        return window;
+    }
+
+    void setFocus(std::uint32_t window) {
+        xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+        flush();
+    }
+
+    void pressKey(std::uint8_t code) {
+        send(XCB_KEY_PRESS, code);
+        send(XCB_KEY_RELEASE, code);
+    }
+
     void movePointer(std::int16_t x, std::int16_t y) { send(XCB_MOTION_NOTIFY, 0, x, y); }
 
     void press() { send(XCB_BUTTON_PRESS, 1); }
@@ -74,6 +112,8 @@ public:
     void release() { send(XCB_BUTTON_RELEASE, 1); }
 
 private:
+    static constexpr std::uint16_t width = 700;
+
     void send(std::uint8_t type, std::uint8_t detail, std::int16_t x = 0, std::int16_t y = 0) {
         xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, m_screen->root, x, y, 0);
         flush();
@@ -92,11 +132,10 @@ private:
 class Host {
 public:
     explicit Host(Screen& screen, std::int16_t y = 0) : m_screen(screen), m_window(screen.makeWindow(y)) {
-        LV2UI_Widget widget = nullptr;
         m_editor = descriptor().instantiate(&descriptor(), "http://quillfen.example/plugins/noteloft",
-                                            NOTELOFT_EDITOR_FOLDER, write, this, &widget, m_features);
+                                            NOTELOFT_EDITOR_FOLDER, write, this, &m_widget, m_features);
         EXPECT_NE(m_editor, nullptr);
-        EXPECT_NE(widget, nullptr);
+        EXPECT_NE(m_widget, nullptr);
     }
 
     ~Host() { close(false); }
@@ -130,6 +169,12 @@ public:
         idle();
     }
 
+    std::uint32_t window() const { return m_window; }
+
+    std::uint32_t editorWindow() const {
+        return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(m_widget));
+    }
+
     std::vector<std::string> take() { return std::exchange(m_heard, {}); }
 
 private:
@@ -137,9 +182,9 @@ private:
                       const void* buffer) {
         EXPECT_EQ(size, sizeof(float));
         EXPECT_EQ(format, 0U);
-        const float value = *static_cast<const float*>(buffer);
-        static_cast<Host*>(host)->m_heard.push_back(std::to_string(port) + "=" +
-                                                    std::to_string(static_cast<int>(value)));
+        std::ostringstream message;
+        message << port << '=' << *static_cast<const float*>(buffer);
+        static_cast<Host*>(host)->m_heard.push_back(message.str());
     }
 
     static void touch(LV2UI_Feature_Handle host, std::uint32_t port, bool isTouched) {
@@ -155,6 +200,7 @@ private:
     LV2_Feature m_touchFeature{LV2_UI__touch, &m_touch};
     const LV2_Feature* const m_features[3] = {&m_parentFeature, &m_touchFeature, nullptr};
     LV2UI_Handle m_editor = nullptr;
+    LV2UI_Widget m_widget = nullptr;
     std::vector<std::string> m_heard;
 };
 
@@ -165,6 +211,7 @@ protected:
     static constexpr std::int16_t dialY = 110;
     static constexpr std::int16_t holdX = 614;
     static constexpr std::int16_t holdY = 110;
+    static constexpr std::int16_t valueY = 182; // below the dial
 
     void drag(Host& host, int upwards, const std::function<void()>& meanwhile = {}) {
         m_screen.movePointer(dialX, dialY);
@@ -178,8 +225,27 @@ protected:
         host.idle();
     }
 
+    void click(Host& host, std::int16_t x, std::int16_t y) {
+        m_screen.movePointer(x, y);
+        m_screen.press();
+        host.idle();
+        m_screen.release();
+        host.idle();
+    }
+
+    void type(Host& host, std::initializer_list<std::uint8_t> keyCodes) {
+        for (const auto code : keyCodes)
+            m_screen.pressKey(code);
+        host.idle();
+    }
+
     Screen m_screen;
 };
+
+// Codes of keys on every Xvfb.
+constexpr std::uint8_t escapeKey = 9;
+constexpr std::uint8_t sevenKey = 16;
+constexpr std::uint8_t returnKey = 36;
 
 } // namespace
 
@@ -201,6 +267,13 @@ TEST_F(EditorTest, ADragIsATouchValuesAndARelease) {
     host.idle(20);
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
+}
+
+TEST_F(EditorTest, APortOfWholeNumbersGetsThem) {
+    Host host(m_screen);
+    host.idle(20);
+    drag(host, 30);
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=7", "2=7", "release 2"));
 }
 
 TEST_F(EditorTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
@@ -244,6 +317,58 @@ TEST_F(EditorTest, PagesFollowTheTabsAndTheHost) {
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 3", "3=100", "3=150", "3=150", "release 3"))
         << "the velocity";
+}
+
+TEST_F(EditorTest, BorrowsTheKeyboardOnlyWhileAValueIsTyped) {
+    Host host(m_screen);
+    host.idle(20);
+    m_screen.setFocus(host.window());
+    drag(host, 25);
+    EXPECT_EQ(m_screen.focus(), host.window()) << "the host's keys still work";
+    host.take();
+
+    click(host, dialX, valueY);
+    EXPECT_EQ(m_screen.focus(), host.editorWindow());
+    type(host, {sevenKey, returnKey});
+    EXPECT_THAT(host.take(), ElementsAre("2=7"));
+    EXPECT_EQ(m_screen.focus(), host.window());
+
+    click(host, dialX, valueY);
+    type(host, {sevenKey, sevenKey, escapeKey});
+    EXPECT_THAT(host.take(), IsEmpty());
+    EXPECT_EQ(m_screen.focus(), host.window());
+}
+
+TEST_F(EditorTest, TheKeyboardComesBackWithAClickAndGoesWithTheEditor) {
+    const std::uint32_t other = m_screen.makeWindow(400);
+    Host host(m_screen);
+    host.idle(20);
+    click(host, dialX, valueY);
+    m_screen.setFocus(other);
+    host.idle();
+    click(host, dialX, valueY);
+    EXPECT_EQ(m_screen.focus(), host.editorWindow());
+    host.close(false);
+    EXPECT_EQ(m_screen.focus(), other);
+    m_screen.destroyWindow(other);
+}
+
+TEST_F(EditorTest, NoControlShowsAFocusRingBeforeTheUserGoesToIt) {
+    constexpr std::uint16_t headerHeight = 46;
+    Host host(m_screen);
+    host.idle(20);
+    const auto before = m_screen.picture(host.window(), headerHeight);
+    m_screen.setFocus(host.editorWindow());
+    host.idle(20);
+    EXPECT_EQ(m_screen.picture(host.window(), headerHeight), before);
+}
+
+TEST_F(EditorTest, ItsWindowIsGoneWhenItHasBeenClosed) {
+    Host host(m_screen);
+    host.idle(20);
+    ASSERT_TRUE(m_screen.exists(host.editorWindow()));
+    host.close(false);
+    EXPECT_FALSE(m_screen.exists(host.editorWindow()));
 }
 
 TEST_F(EditorTest, OpensAndClosesAHundredTimesInBothOrders) {
