@@ -2,7 +2,6 @@
 
 #include "Platform/AudioUnits/DisplayPump.h"
 #include "Platform/AudioUnits/DisplayQueue.h"
-#include "Platform/AudioUnits/HostTime.h"
 #include "Platform/Core/MainThread.h"
 #include "Platform/Core/MainThreadShared.h"
 
@@ -59,6 +58,32 @@ std::shared_ptr<platform::AUParameter> hostParameter(const AudioParameter& param
     return host;
 }
 
+/// A parameter tells the host a value that it sends to the display right after. What comes back meanwhile on
+/// the same thread as a change of the host, through the tree's implementor, need not be sent as well.
+class Telling {
+public:
+    Telling(const AudioParameter& parameter, float value)
+        : m_parameter(parameter), m_value(value), m_outer(std::exchange(innermost, this)) {}
+
+    ~Telling() { innermost = m_outer; }
+
+    Telling(const Telling&) = delete;
+    Telling& operator=(const Telling&) = delete;
+
+    static bool isEcho(const AudioParameter& parameter, float value) {
+        return innermost != nullptr && &innermost->m_parameter == &parameter && innermost->m_value == value;
+    }
+
+private:
+    // In the static block: the first use on a thread must not allocate, even in a library that was loaded
+    // late.
+    [[gnu::tls_model("initial-exec")]] static inline thread_local const Telling* innermost = nullptr;
+
+    const AudioParameter& m_parameter;
+    const float m_value;
+    const Telling* const m_outer;
+};
+
 } // namespace
 
 QString displayableSuffix(AudioUnitParameterUnit unit) {
@@ -90,9 +115,9 @@ AudioParameter::AudioParameter(Address address, QString identifier, QString name
       m_valueStrings(std::move(valueStrings)),
       m_dependentParameterAddresses(std::move(dependentParameterAddresses)),
       m_auParameter(hostParameter(*this)),
-      m_shownValue(defaultValue),
       m_latestValue(defaultValue),
       m_latestFromUi(defaultValue),
+      m_shownValue(defaultValue),
       m_value(defaultValue) {
     platform::DisplayPump::shared().start();
 }
@@ -111,12 +136,15 @@ void AudioParameter::setValue(float value) {
 void AudioParameter::setValue(float value, ParameterEditor source, ParameterEditorState state) {
     const float accepted = clamped(value, m_valueRange);
     // The shown value alone does not tell: a press and a release in one turn end where they began.
-    if (state == ParameterEditorState::change && accepted == shownValue() && accepted == latestValue())
+    if (state == ParameterEditorState::change && accepted == latestValue() && accepted == shownValue())
         return;
     m_latestValue.store(accepted, std::memory_order_relaxed);
+    if (source == ParameterEditor::parameterObserver && Telling::isEcho(*this, accepted))
+        return;
     if (source == ParameterEditor::ui) {
         m_latestFromUi.store(accepted, std::memory_order_relaxed);
-        m_auParameter->setValue(accepted, {}, platform::audioGetCurrentHostTime(), eventType(state));
+        const Telling telling(*this, accepted);
+        m_auParameter->setValueNow(accepted, eventType(state));
     }
     send(static_cast<std::size_t>(source), accepted);
 }

@@ -5,6 +5,7 @@
 #include "Chorale/ParameterEditorState.h"
 #include "Platform/AudioUnits/AUParameterTree.h"
 #include "Platform/AudioUnits/DisplayTarget.h"
+#include "Platform/Core/CacheLine.h"
 #include "Platform/Core/MainThreadShared.h"
 
 #include <QBindable>
@@ -125,10 +126,10 @@ private:
     const std::optional<QList<Address>> m_dependentParameterAddresses;
     const std::shared_ptr<platform::AUParameter> m_auParameter;
 
-    std::atomic<float> m_shownValue;   // written on the main thread, read on any
-    std::atomic<float> m_latestValue;  // any thread
-    std::atomic<float> m_latestFromUi; // any thread
-    int m_gestures = 0;                // main thread
+    alignas(platform::cacheLine) std::atomic<float> m_latestValue; // any thread
+    std::atomic<float> m_latestFromUi;                             // any thread
+    alignas(platform::cacheLine) std::atomic<float> m_shownValue;  // written on the main thread, read on any
+    int m_gestures = 0;                                            // main thread
 
     Q_OBJECT_BINDABLE_PROPERTY(AudioParameter, float, m_value, &AudioParameter::valueChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AudioParameter, bool, m_isBeingInteractivelyEdited, false,

@@ -9,9 +9,17 @@ AUParameter::AUParameter(AUParameterDescription description)
 
 void AUParameter::setValue(AUValue value, AUParameterObserverToken originator, std::uint64_t atHostTime,
                            AUParameterAutomationEventType eventType) {
+    set(value, originator, atHostTime, eventType);
+}
+
+void AUParameter::setValueNow(AUValue value, AUParameterAutomationEventType eventType) {
+    set(value, {}, std::nullopt, eventType);
+}
+
+void AUParameter::set(AUValue value, AUParameterObserverToken originator,
+                      std::optional<std::uint64_t> hostTime, AUParameterAutomationEventType eventType) {
     m_value.store(value, std::memory_order_relaxed);
-    tellImplementor(*this, value);
-    tellObservers({atHostTime, address(), value, eventType}, originator);
+    tell(*this, {.address = address(), .value = value, .eventType = eventType}, hostTime, originator);
 }
 
 QString AUParameter::string(std::optional<AUValue> fromValue) {

@@ -58,6 +58,9 @@ public:
     void setValue(AUValue value, AUParameterObserverToken originator = {}, std::uint64_t atHostTime = 0,
                   AUParameterAutomationEventType eventType = AUParameterAutomationEventType::value);
 
+    /// The same, from nobody and at the current host time, which is read only if somebody observes.
+    void setValueNow(AUValue value, AUParameterAutomationEventType eventType);
+
     /// The implementor's text for a value. Without an implementor: the name of the value, else the number in
     /// the C locale; empty without a value.
     QString string(std::optional<AUValue> fromValue);
@@ -67,6 +70,9 @@ public:
     AUValue value(const QString& fromString);
 
 private:
+    void set(AUValue value, AUParameterObserverToken originator, std::optional<std::uint64_t> hostTime,
+             AUParameterAutomationEventType eventType);
+
     const AUParameterDescription m_description;
     std::atomic<AUValue> m_value = 0; // any thread
 };

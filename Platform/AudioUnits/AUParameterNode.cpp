@@ -1,5 +1,7 @@
 #include "Platform/AudioUnits/AUParameterNode.h"
 
+#include "Platform/AudioUnits/HostTime.h"
+
 #include <atomic>
 #include <utility>
 
@@ -65,18 +67,52 @@ bool AUParameterNode::withNearest(Callback Links::*callback, Use use) const {
     });
 }
 
-void AUParameterNode::tellImplementor(AUParameter& parameter, AUValue value) const {
-    withNearest(&Links::observeValue, [&](const auto& observe) { observe(parameter, value); });
+struct AUParameterNode::Step {
+    Step(const AUParameterNode& node, const Step* stepBelow) : below(stepBelow), reading(node.m_links) {}
+
+    // The nearest one.
+    bool tellImplementor(AUParameter& parameter, AUValue value) const {
+        if (below != nullptr && below->tellImplementor(parameter, value))
+            return true;
+        const auto& observe = reading.value().observeValue;
+        if (observe)
+            observe(parameter, value);
+        return observe != nullptr;
+    }
+
+    // Upwards.
+    void tellObservers(AUParameterAutomationEvent& event, std::optional<std::uint64_t>& hostTime,
+                       AUParameterObserverToken originator) const {
+        if (below != nullptr)
+            below->tellObservers(event, hostTime, originator);
+        for (const Observer& observer : reading.value().observers) {
+            if (observer.token == originator)
+                continue;
+            if (!hostTime)
+                hostTime = audioGetCurrentHostTime();
+            event.hostTime = *hostTime;
+            observer.tell(event);
+        }
+    }
+
+    const Step* const below;
+    const Snapshot<Links>::Reading reading;
+};
+
+template <typename Use>
+void AUParameterNode::climb(const Step* below, Use use) const {
+    const Step here(*this, below);
+    if (const auto parent = here.reading.value().parent.lock())
+        parent->climb(&here, use);
+    else
+        use(here);
 }
 
-void AUParameterNode::tellObservers(const AUParameterAutomationEvent& event,
-                                    AUParameterObserverToken originator) const {
-    m_links.read([&](const Links& links) {
-        for (const Observer& observer : links.observers)
-            if (observer.token != originator)
-                observer.tell(event);
-        if (const auto parent = links.parent.lock())
-            parent->tellObservers(event, originator);
+void AUParameterNode::tell(AUParameter& parameter, AUParameterAutomationEvent event,
+                           std::optional<std::uint64_t> hostTime, AUParameterObserverToken originator) const {
+    climb(nullptr, [&](const Step& last) {
+        last.tellImplementor(parameter, event.value);
+        last.tellObservers(event, hostTime, originator);
     });
 }
 

@@ -25,8 +25,8 @@ using AUParameterAutomationObserver = std::function<void(const AUParameterAutoma
 
 /// A parameter or a group of them. It has callbacks and observers, which hold for everything in it too. They
 /// run on the thread that sets a value, which may render audio: there they must not allocate, lock or block.
-/// Whoever replaces or removes one waits until it no longer runs, unless it does so itself. Add, replace and
-/// remove on the main thread.
+/// Whoever replaces or removes one waits until it no longer runs, unless this happens while the same thread
+/// sets a value in the node. Add, replace and remove on the main thread.
 class AUParameterNode : public std::enable_shared_from_this<AUParameterNode> {
 public:
     virtual ~AUParameterNode() = default;
@@ -58,8 +58,10 @@ protected:
     /// A node is in the group that it was put into last.
     void setParent(const std::weak_ptr<const AUParameterNode>& parent);
 
-    void tellImplementor(AUParameter& parameter, AUValue value) const;
-    void tellObservers(const AUParameterAutomationEvent& event, AUParameterObserverToken originator) const;
+    /// Tells the implementor, then the observers. Without a host time these get the current one, which is
+    /// read only if there is an observer.
+    void tell(AUParameter& parameter, AUParameterAutomationEvent event, std::optional<std::uint64_t> hostTime,
+              AUParameterObserverToken originator) const;
     std::optional<QString> implementorString(AUParameter& parameter, std::optional<AUValue> value) const;
     std::optional<AUValue> implementorValue(AUParameter& parameter, const QString& text) const;
 
@@ -82,6 +84,13 @@ private:
     /// Calls `use` with the nearest callback; false if there is none.
     template <typename Callback, typename Use>
     bool withNearest(Callback Links::*callback, Use use) const;
+
+    /// A node between a parameter and the root, while its links are read.
+    struct Step;
+
+    /// Reads the links of this node and of all above it, then calls `use` with the last step.
+    template <typename Use>
+    void climb(const Step* below, Use use) const;
 
     const QString m_identifier;
     const QString m_displayName;

@@ -39,6 +39,10 @@ DisplayPump::DisplayPump(DisplayQueue& queue, QObject* parent)
     chooseRate();
 }
 
+DisplayPump::~DisplayPump() {
+    m_queue.letGo();
+}
+
 void DisplayPump::start() {
     if (!m_timer.isActive())
         chooseRate();
@@ -57,6 +61,7 @@ void DisplayPump::endShowing() {
 void DisplayPump::look() {
     if (!m_queue.isEmpty())
         m_queue.drain();
+    m_queue.letGo();
 }
 
 void DisplayPump::chooseRate() {

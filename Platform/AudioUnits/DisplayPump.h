@@ -22,6 +22,7 @@ public:
     static DisplayPump& shared();
 
     explicit DisplayPump(DisplayQueue& queue, QObject* parent = nullptr);
+    ~DisplayPump() override;
 
     /// A target has come.
     void start();

@@ -17,10 +17,13 @@ DisplayQueue& DisplayQueue::shared() {
 DisplayQueue::DisplayQueue(std::size_t capacity) : m_updates(capacity) {}
 
 DisplayQueue::~DisplayQueue() {
+    for (Update update; m_updates.pop(update);)
+        noteHeld(*update.target);
     for (auto* target = m_listed.load(); target != nullptr;) {
         const auto self = std::exchange(target->m_listedSelf, nullptr);
         target = target->m_nextListed;
     }
+    takeHolds(false);
 }
 
 bool DisplayQueue::isEmpty() const {
@@ -33,7 +36,7 @@ void DisplayQueue::wake() {
 }
 
 void DisplayQueue::list(DisplayTarget& target) {
-    target.m_listedSelf = target.shared_from_this();
+    target.m_listedSelf = target.self();
     target.m_nextListed = m_listed.load(std::memory_order_relaxed);
     while (!m_listed.compare_exchange_weak(target.m_nextListed, &target, std::memory_order_release,
                                            std::memory_order_relaxed)) {
@@ -42,19 +45,32 @@ void DisplayQueue::list(DisplayTarget& target) {
 
 void DisplayQueue::drain() {
     requireMainThread();
-    if (m_isWoken.exchange(false))
+    const bool isWoken = m_isWoken.load(std::memory_order_relaxed) && m_isWoken.exchange(false);
+    if (isWoken)
         m_wakeUp.clear();
-    const std::size_t end = m_updates.pushed();
+    const bool hasListed = m_listed.load(std::memory_order_acquire) != nullptr;
+    // The senders' count is theirs to write; the places themselves tell as much unless more depends on it.
+    const std::size_t end = isWoken || hasListed ? m_updates.pushed() : m_updates.completeEnd();
+    const bool isComplete = showUntil(end);
+    if (!isComplete)
+        wake(); // Somebody is held up between taking a place and filling it.
+    else if (hasListed)
+        showListed();
+    takeHolds(true);
+}
+
+bool DisplayQueue::showUntil(std::size_t end) {
     // A slot that turns the loop may drain meanwhile.
     while (static_cast<std::ptrdiff_t>(end - m_updates.popped()) > 0) {
         Update update;
-        if (!m_updates.pop(update)) {
-            wake(); // Somebody is held up between taking a place and filling it.
-            return;
-        }
+        if (!m_updates.pop(update))
+            return false;
+        noteHeld(*update.target);
+        ++m_showing;
         update.target->showIfNewer(update.number, update.source, update.value);
+        --m_showing;
     }
-    showListed();
+    return true;
 }
 
 void DisplayQueue::showListed() {
@@ -66,6 +82,45 @@ void DisplayQueue::showListed() {
         oldest = target->m_nextListed;
         target->showKept();
     }
+}
+
+void DisplayQueue::letGo() {
+    forgetTaken();
+    takeHolds(false);
+}
+
+// Without a hold it is about to be let go of, and the value before this one still kept it.
+void DisplayQueue::noteHeld(DisplayTarget& target) {
+    if (target.m_isNoted || target.m_hold.load() == DisplayTarget::Hold::none)
+        return;
+    target.m_isNoted = true;
+    target.m_nextHeld = std::exchange(m_held, &target);
+}
+
+void DisplayQueue::takeHolds(bool onlyOrphans) {
+    if (m_held == nullptr || m_showing > 0 || !m_taken.empty())
+        return;
+    for (DisplayTarget** next = &m_held; *next != nullptr;) {
+        DisplayTarget& target = **next;
+        if (target.m_hold.load(std::memory_order_acquire) != DisplayTarget::Hold::complete ||
+            (onlyOrphans && target.m_self.use_count() > 1)) {
+            next = &target.m_nextHeld;
+            continue;
+        }
+        *next = target.m_nextHeld;
+        target.m_isNoted = false;
+        m_taken.push_back(std::move(target.m_self));
+        target.m_hold.store(DisplayTarget::Hold::none);
+    }
+    if (m_taken.empty())
+        return;
+    m_takenEnd = m_updates.pushed();
+    forgetTaken();
+}
+
+void DisplayQueue::forgetTaken() {
+    if (m_showing == 0 && static_cast<std::ptrdiff_t>(m_takenEnd - m_updates.popped()) <= 0)
+        std::exchange(m_taken, {}); // Nothing of this is used while they die.
 }
 
 } // namespace platform

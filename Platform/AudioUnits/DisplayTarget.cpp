@@ -3,6 +3,7 @@
 #include "Platform/AudioUnits/DisplayQueue.h"
 #include "Platform/Core/FatalError.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace platform {
@@ -16,14 +17,31 @@ DisplayTarget::~DisplayTarget() {
 }
 
 void DisplayTarget::send(std::size_t source, float value) {
+    const Number kept = m_queue.m_kept.load(std::memory_order_relaxed);
+    if (const auto place = m_queue.m_updates.claim()) {
+        if (m_hold.load() == Hold::none)
+            hold();
+        m_queue.m_updates.fill(
+            *place, {this, DisplayQueue::number(*place, kept), value, static_cast<std::uint32_t>(source)});
+    } else {
+        keep(m_queue.newNumber(), source, value);
+    }
+    m_queue.wake();
+}
+
+std::shared_ptr<DisplayTarget> DisplayTarget::self() {
     auto self = weak_from_this().lock();
     if (!self)
         fatalError("A parameter must be owned by a shared pointer");
-    const Number number = m_sent.fetch_add(2, std::memory_order_relaxed);
-    DisplayQueue::Update update{std::move(self), number, value, static_cast<std::uint32_t>(source)};
-    if (!m_queue.push(update))
-        keep(number, source, value);
-    m_queue.wake();
+    return self;
+}
+
+// Meanwhile this has another owner: whoever sends.
+void DisplayTarget::hold() {
+    if (auto none = Hold::none; m_hold.compare_exchange_strong(none, Hold::beginning)) {
+        m_self = self();
+        m_hold.store(Hold::complete, std::memory_order_release);
+    }
 }
 
 DisplayTarget::Word DisplayTarget::pack(Number number, float value) {
@@ -32,7 +50,7 @@ DisplayTarget::Word DisplayTarget::pack(Number number, float value) {
 
 // The latest number with the half that the word has.
 DisplayTarget::Number DisplayTarget::numberOf(Word word) const {
-    const Number latest = m_sent.load(std::memory_order_relaxed);
+    const Number latest = m_queue.latestNumber();
     return latest - static_cast<std::uint32_t>(latest - (word >> 32));
 }
 
@@ -71,7 +89,8 @@ void DisplayTarget::showKept() {
 void DisplayTarget::showIfNewer(Number number, std::size_t source, float value) {
     if (number <= m_shown[source])
         return;
-    m_shown[source] = number;
+    for (std::size_t outdated = 0; outdated <= source; ++outdated)
+        m_shown[outdated] = std::max(m_shown[outdated], number);
     show(source, value);
 }
 

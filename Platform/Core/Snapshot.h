@@ -40,11 +40,26 @@ public:
     Snapshot(const Snapshot&) = delete;
     Snapshot& operator=(const Snapshot&) = delete;
 
+    /// A thread's stay. What `value` gives during it remains as it is until its end. Any thread; may be
+    /// nested.
+    class Reading {
+    public:
+        explicit Reading(const Snapshot& snapshot)
+            : m_snapshot(snapshot), m_reading(snapshot.m_phase, snapshot.m_readers) {}
+
+        /// The value as it is now: the reader itself may have replaced it.
+        const T& value() const { return *m_snapshot.m_current.load(); }
+
+    private:
+        const Snapshot& m_snapshot;
+        const SnapshotReading m_reading;
+    };
+
     /// Calls `use` with the value, which stays as it is until `use` returns. Any thread; may be nested.
     template <typename Use>
     decltype(auto) read(Use use) const {
-        const SnapshotReading reading(m_phase, m_readers);
-        return use(std::as_const(*m_current.load()));
+        const Reading reading(*this);
+        return use(reading.value());
     }
 
     /// Returns when nobody reads the old value any more and it is gone. From inside `read` it returns at

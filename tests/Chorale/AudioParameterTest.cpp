@@ -123,6 +123,22 @@ TEST_F(AudioParameterTest, HostsChangesAreShownAndNotEchoed) {
     EXPECT_EQ(m_level->auParameter()->value(), 5);
 }
 
+TEST_F(AudioParameterTest, UsersValueIsShownWhateverTheHostAnswersMeanwhile) {
+    float answer = 6;
+    m_level->auParameter()->setImplementorValueObserver(
+        [&](auto&, float) { m_level->setValue(answer, host, change); });
+    m_level->setValue(6, ui, change);
+    turn();
+    EXPECT_EQ(m_level->value(), 6);
+    EXPECT_EQ(m_changes.count(), 1);
+    answer = 20;
+    m_level->setValue(7, ui, change);
+    EXPECT_EQ(m_level->latestValue(), 20);
+    turn();
+    EXPECT_EQ(m_level->value(), 7);
+    EXPECT_EQ(m_changes.count(), 3) << "another value than the user's is shown, before it";
+}
+
 TEST_F(AudioParameterTest, UsersGestureWinsOverTheHost) {
     m_level->setIsBeingInteractivelyEdited(true);
     m_level->setValue(8, host, change);

@@ -1,4 +1,5 @@
 #include "Platform/AudioUnits/AUParameterTree.h"
+#include "Platform/AudioUnits/HostTime.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -97,6 +98,13 @@ TEST(AUParameterTree, AutomationObserversGetTheWholeEvent) {
     EXPECT_EQ(event->address, 5U);
     EXPECT_EQ(event->value, 0.25F);
     EXPECT_EQ(event->eventType, AUParameterAutomationEventType::release);
+
+    const auto before = platform::audioGetCurrentHostTime();
+    level->setValueNow(0.5F, AUParameterAutomationEventType::touch);
+    EXPECT_GE(event->hostTime, before);
+    EXPECT_LE(event->hostTime, platform::audioGetCurrentHostTime());
+    EXPECT_EQ(event->value, 0.5F);
+    EXPECT_EQ(event->eventType, AUParameterAutomationEventType::touch);
 }
 
 TEST(AUParameterTree, NewTreeTakesItsParametersOver) {
@@ -113,6 +121,16 @@ TEST(AUParameterTree, NewTreeTakesItsParametersOver) {
     tree.reset();
     level->setValue(1);
     EXPECT_EQ(latter, 1) << "a parameter does not keep its tree";
+}
+
+TEST(AUParameterTree, ImplementorMayRemoveAnObserverThatWouldBeNext) {
+    const auto level = parameter("level", 5);
+    const auto tree = AUParameterTree::createTree({level});
+    int calls = 0;
+    const auto token = level->tokenByAddingParameterObserver([&](auto, float) { ++calls; });
+    tree->setImplementorValueObserver([&](AUParameter&, float) { level->removeParameterObserver(token); });
+    level->setValue(1);
+    EXPECT_EQ(calls, 0);
 }
 
 TEST(AUParameterTree, ObserverMayRemoveItself) {

@@ -135,6 +135,34 @@ TEST_F(DisplayQueueTest, KeptValueNeverFollowsANewerOne) {
     EXPECT_EQ(level->shown.back().second, 4);
 }
 
+TEST_F(DisplayQueueTest, KeptValueOfTheHostNeverFollowsANewerOneOfTheUser) {
+    const auto filler = target();
+    const auto level = target();
+    // The first finds the queue full and is shown behind it, the second finds a place in it.
+    const auto sendTwo = [&](std::size_t firstSource, std::size_t secondSource) {
+        filler->whenShown = [&, shows = 0]() mutable {
+            ++shows;
+            if (shows == 1) {
+                filler->send(0, 9);
+                level->send(firstSource, 1);
+            } else if (shows == 2) {
+                level->send(secondSource, 2);
+            }
+        };
+        level->shown.clear();
+        for (int i = 0; i < 4; ++i)
+            filler->send(0, float(i));
+        m_queue.drain();
+        m_queue.drain();
+    };
+    sendTwo(0, 1);
+    EXPECT_THAT(level->shown, ElementsAre(Pair(1, 2)));
+    // While the user holds the parameter the host's values are not shown, so they cannot stand for the
+    // user's.
+    sendTwo(1, 0);
+    EXPECT_THAT(level->shown, testing::Contains(Pair(1, 1)));
+}
+
 TEST_F(DisplayQueueTest, OrdinaryThreadsWakeOncePerTurnAndAudioThreadsNever) {
     const auto level = target();
     onAudioThread([&] {
@@ -170,16 +198,64 @@ TEST_F(DisplayQueueTest, TargetLivesUntilItsValuesHaveBeenShown) {
     EXPECT_EQ(m_queue.targets(), 0);
 }
 
+TEST_F(DisplayQueueTest, TargetWithAnotherOwnerIsLetGoOfBeforeTheLoopSleeps) {
+    auto level = target();
+    const std::weak_ptr<Target> watched = level;
+    level->send(0, 1);
+    m_queue.letGo();
+    m_queue.drain();
+    EXPECT_EQ(level->shown.size(), 1U) << "it was let go of before its value was shown";
+    level->send(0, 2);
+    m_queue.drain();
+    level.reset();
+    m_queue.letGo();
+    EXPECT_TRUE(watched.expired());
+
+    level = target();
+    const std::weak_ptr<Target> again = level;
+    level->send(0, 1);
+    m_queue.drain();
+    level->send(0, 2);
+    m_queue.letGo();
+    level.reset();
+    m_queue.letGo();
+    ASSERT_FALSE(again.expired()) << "a value is on its way";
+    m_queue.drain();
+    m_queue.letGo();
+    EXPECT_TRUE(again.expired());
+}
+
+TEST_F(DisplayQueueTest, TargetOutlivesItsSlotThatTurnsTheLoop) {
+    auto level = target();
+    const std::weak_ptr<Target> watched = level;
+    std::vector<bool> isGone;
+    level->whenShown = [&] {
+        level.reset();
+        m_queue.drain();
+        m_queue.letGo();
+        isGone.push_back(watched.expired());
+    };
+    level->send(0, 1);
+    level->send(1, 2);
+    m_queue.drain();
+    EXPECT_THAT(isGone, ElementsAre(false, false));
+    EXPECT_TRUE(watched.expired());
+}
+
 TEST_F(DisplayQueueTest, QueueThatGoesAwayLetsGoOfItsTargets) {
-    std::weak_ptr<Target> watched;
+    std::vector<std::weak_ptr<Target>> watched;
     {
         DisplayQueue queue(2);
+        const auto shown = std::make_shared<Target>(queue);
+        shown->send(0, 1);
+        queue.drain();
         const auto level = std::make_shared<Target>(queue);
-        watched = level;
+        watched = {shown, level};
         for (int i = 0; i < 4; ++i)
             level->send(0, 1);
     }
-    EXPECT_TRUE(watched.expired());
+    for (const auto& target : watched)
+        EXPECT_TRUE(target.expired());
 }
 
 TEST_F(DisplayQueueTest, TargetWithoutAnOwnerIsAnError) {
@@ -206,8 +282,10 @@ TEST_F(DisplayQueueTest, LastValuesSurviveAFlood) {
                 level->send(std::size_t(i) % 2, float(i));
             --running;
         });
-    while (running > 0)
+    while (running > 0) {
         m_queue.drain();
+        m_queue.letGo();
+    }
     for (auto& producer : producers)
         producer.join();
     m_queue.drain();
@@ -220,6 +298,36 @@ TEST_F(DisplayQueueTest, LastValuesSurviveAFlood) {
         EXPECT_THAT(last, ElementsAre(changes, changes - 1));
     }
     EXPECT_TRUE(m_queue.isEmpty());
+}
+
+// Parameters that come and go while values are on the way, and a main thread that lets go all the time.
+TEST_F(DisplayQueueTest, TargetsOfOtherThreadsDieOnceShown) {
+    constexpr int threads = 2;
+    constexpr int generations = 5'000;
+    std::atomic<int> running = threads;
+    std::atomic<int> shown = 0;
+    std::vector<std::thread> producers;
+    for (int i = 0; i < threads; ++i)
+        producers.emplace_back([&] {
+            const RealtimeScope scope;
+            for (int generation = 0; generation < generations; ++generation) {
+                const auto level = target();
+                level->whenShown = [&shown, level = level.get()] { shown += level->shown.size() == 1; };
+                level->send(0, 1);
+                level->send(1, 2);
+            }
+            --running;
+        });
+    while (running > 0) {
+        m_queue.drain();
+        m_queue.letGo();
+    }
+    for (auto& producer : producers)
+        producer.join();
+    m_queue.drain();
+    m_queue.letGo();
+    EXPECT_EQ(shown, threads * generations);
+    EXPECT_EQ(m_queue.targets(), 0);
 }
 
 // One target that several threads change: nobody waits for anybody, and nothing is shown twice.
