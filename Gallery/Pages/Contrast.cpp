@@ -18,7 +18,7 @@ double luminance(const QColor& color) {
 } // namespace
 
 double contrastRatio(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

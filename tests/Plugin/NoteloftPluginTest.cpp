@@ -1,4 +1,5 @@
 #include "Plugin/NoteloftPlugin.h"
+#include "tests/support/AllocationCounter.h"
 
 #include <lv2/atom/util.h>
 #include <lv2/midi/midi.h>
@@ -6,36 +7,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <map>
-#include <new>
 #include <string>
 #include <vector>
 
 using namespace noteloft::plugin;
-
-namespace {
-
-thread_local long allocations = 0;
-
-} // namespace
-
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace {
 
@@ -170,12 +148,12 @@ TEST_F(NoteloftPluginTest, RunDoesNotAllocate) {
     m_controls[Ports::timing] = 1;
     m_controls[Ports::hold] = 1;
     m_output.sequence()->atom = {512, 0};
-    const long before = allocations;
+    const AllocationCounter counter;
     m_plugin.run(64);
     m_controls[Ports::hold] = 0;
     m_output.sequence()->atom = {512, 0};
     m_plugin.run(64);
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(counter.allocations(), 0);
     ::operator delete(::operator new(1));
-    EXPECT_EQ(allocations, before + 1) << "allocations are counted";
+    EXPECT_EQ(counter.allocations(), 1) << "allocations are counted";
 }

@@ -59,6 +59,16 @@ const Case cases[] = {
      {on(0, 60, 40), off(900, 60), on(901, 60, 100), off(902, 60)},
      {on(0, 60, 80), off(900, 60), on(901, 60, 127), off(902, 60)}},
     {"LetsNothingThrough", {"chance=0"}, phrase, {}},
+    {"BringsKeysIntoTheScale", {"root=2", "scale=1"},
+     {on(0, 60), on(1, 62), off(2, 60), off(3, 62), on(4, 65), off(5, 65)},
+     {on(0, 59), on(1, 62), off(2, 59), off(3, 62), on(4, 64), off(5, 64)}},
+    {"PutsChordsOnTheScale", {"scale=1", "chord=3", "inversion=1"},
+     {on(0, 62), off(600, 62)},
+     {on(0, 65), on(0, 69), on(0, 74), off(600, 65), off(600, 69), off(600, 74)}},
+    // 10 ms are 480 frames: in other blocks than the key.
+    {"StrumsAcrossBlocks", {"chord=2", "strum=10", "direction=1"},
+     {on(100, 60), off(300, 60)},
+     {on(100, 67), off(300, 67), on(580, 60), off(780, 60)}},
 };
 // clang-format on
 
