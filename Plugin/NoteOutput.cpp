@@ -2,43 +2,77 @@
 
 #include "Plugin/MidiStatus.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace noteloft::plugin {
+
+namespace {
+
+bool areOfOnePitch(const Note& one, const Note& other) {
+    return one.channel == other.channel && one.pitch == other.pitch;
+}
+
+bool isSame(const Note& one, const Note& other) {
+    return one.strike == other.strike && areOfOnePitch(one, other);
+}
+
+} // namespace
 
 bool NoteOutput::sendEnd(std::uint32_t frame, int channel, int pitch, std::uint8_t velocity, MidiSink& sink) {
     const std::uint8_t message[] = {static_cast<std::uint8_t>(midi::noteOff | channel),
                                     static_cast<std::uint8_t>(pitch), velocity};
     const bool sent = sink.write(frame, message, sizeof message);
-    setState(m_voices[channel][pitch], sent ? State::silent : State::due);
+    setState(channel, pitch, sent ? State::silent : State::due);
     return sent;
 }
 
-void NoteOutput::setState(Voice& voice, State state) {
+void NoteOutput::setState(int channel, int pitch, State state) {
+    State& now = m_states[channel][pitch];
     const auto waits = [](State one) { return one == State::held || one == State::due ? 1 : 0; };
-    m_waitingCount += waits(state) - waits(voice.state);
-    voice.state = state;
+    m_waitingCount += waits(state) - waits(now);
+    now = state;
+}
+
+bool NoteOutput::isAnyDown(const Note& note) const {
+    return std::any_of(m_down.begin(), m_down.begin() + m_downCount,
+                       [&](const Note& down) { return areOfOnePitch(down, note); });
+}
+
+template <typename Predicate>
+bool NoteOutput::forgetIf(Predicate matches) {
+    const auto begin = m_down.begin();
+    const auto kept = std::remove_if(begin, begin + m_downCount, matches);
+    const auto before = std::exchange(m_downCount, static_cast<std::size_t>(kept - begin));
+    return m_downCount < before;
 }
 
 void NoteOutput::begin(std::uint32_t frame, const Note& note, MidiSink& sink) {
-    Voice& voice = this->voice(note);
-    if (voice.state != State::silent &&
+    if (m_downCount == capacity)
+        return;
+    if (state(note) != State::silent &&
         !sendEnd(frame, note.channel, note.pitch, midi::defaultReleaseVelocity, sink))
         return;
     const std::uint8_t message[] = {static_cast<std::uint8_t>(midi::noteOn | note.channel), note.pitch,
                                     note.velocity};
-    if (sink.write(frame, message, sizeof message))
-        voice = {State::sounding, note.strike};
+    if (!sink.write(frame, message, sizeof message))
+        return;
+    setState(note.channel, note.pitch, State::sounding);
+    m_down[m_downCount++] = note;
 }
 
 bool NoteOutput::isSounding(const Note& note) const {
-    const Voice& voice = m_voices[note.channel][note.pitch];
-    return voice.state == State::sounding && voice.strike == note.strike;
+    return state(note) == State::sounding &&
+           std::any_of(m_down.begin(), m_down.begin() + m_downCount,
+                       [&](const Note& down) { return isSame(down, note); });
 }
 
 void NoteOutput::end(std::uint32_t frame, const Note& note, bool holds, MidiSink& sink) {
-    if (!isSounding(note))
+    const bool wasDown = forgetIf([&](const Note& down) { return isSame(down, note); });
+    if (!wasDown || state(note) != State::sounding || isAnyDown(note))
         return;
     if (holds)
-        setState(voice(note), State::held);
+        setState(note.channel, note.pitch, State::held);
     else
         sendEnd(frame, note.channel, note.pitch, note.velocity, sink);
 }
@@ -47,7 +81,7 @@ template <typename Predicate>
 void NoteOutput::endIf(std::uint32_t frame, MidiSink& sink, Predicate matches) {
     for (int channel = 0; channel < channelCount; ++channel)
         for (int pitch = 0; pitch < pitchCount; ++pitch) {
-            const State state = m_voices[channel][pitch].state;
+            const State state = m_states[channel][pitch];
             if (state != State::silent && matches(channel, state))
                 sendEnd(frame, channel, pitch, midi::defaultReleaseVelocity, sink);
         }
@@ -59,10 +93,12 @@ void NoteOutput::endHeld(std::uint32_t frame, MidiSink& sink) {
 }
 
 void NoteOutput::endChannel(std::uint32_t frame, std::uint8_t channel, MidiSink& sink) {
+    forgetIf([=](const Note& down) { return down.channel == channel; });
     endIf(frame, sink, [=](int index, State) { return index == channel; });
 }
 
 void NoteOutput::endAll(std::uint32_t frame, MidiSink& sink) {
+    m_downCount = 0;
     endIf(frame, sink, [](int, State) { return true; });
 }
 

@@ -4,14 +4,18 @@
 #include "Plugin/Note.h"
 
 #include <array>
+#include <cstddef>
 
 namespace noteloft::plugin {
 
 /// What sounds. On every channel the note-ons and note-offs of one pitch alternate strictly: a pitch that is
-/// struck again is ended first, the end of a note whose pitch has gone to another strike is left out, and a
-/// note-off that finds no room is sent when there is some. Frames are those of the block.
+/// struck again is ended first, one that several strikes share ends with the last of them, and a note-off
+/// that finds no room is sent when there is some. Frames are those of the block.
 class NoteOutput {
 public:
+    /// How many notes can be down at once; the others are left out.
+    static constexpr std::size_t capacity = 2048;
+
     void begin(std::uint32_t frame, const Note& note, MidiSink& sink);
 
     /// With `holds` the note sounds on until `endHeld`.
@@ -29,21 +33,24 @@ public:
 private:
     enum class State : std::uint8_t { silent, sounding, held, due };
 
-    struct Voice {
-        State state = State::silent;
-        std::uint32_t strike = 0;
-    };
-
     template <typename Predicate>
     void endIf(std::uint32_t frame, MidiSink& sink, Predicate matches);
     bool sendEnd(std::uint32_t frame, int channel, int pitch, std::uint8_t velocity, MidiSink& sink);
 
-    void setState(Voice& voice, State state);
+    void setState(int channel, int pitch, State state);
 
-    Voice& voice(const Note& note) { return m_voices[note.channel][note.pitch]; }
+    State state(const Note& note) const { return m_states[note.channel][note.pitch]; }
 
-    std::array<std::array<Voice, pitchCount>, channelCount> m_voices{};
-    int m_waitingCount = 0; // voices that are held or due
+    bool isAnyDown(const Note& note) const;
+
+    /// False if there was none.
+    template <typename Predicate>
+    bool forgetIf(Predicate matches);
+
+    std::array<std::array<State, pitchCount>, channelCount> m_states{}; // by channel and pitch
+    int m_waitingCount = 0;                                             // pitches that are held or due
+    std::array<Note, capacity> m_down;                                  // what has begun and not ended
+    std::size_t m_downCount = 0;
 };
 
 } // namespace noteloft::plugin

@@ -2,6 +2,7 @@
 
 #include "Platform/AudioUnits/HostTime.h"
 
+#include <algorithm>
 #include <atomic>
 #include <utility>
 
@@ -85,14 +86,23 @@ struct AUParameterNode::Step {
                        AUParameterObserverToken originator) const {
         if (below != nullptr)
             below->tellObservers(event, hostTime, originator);
-        for (const Observer& observer : reading.value().observers) {
-            if (observer.token == originator)
+        const Links& links = reading.value();
+        for (const Observer& observer : links.observers) {
+            if (observer.token == originator || !isStillThere(links, observer))
                 continue;
             if (!hostTime)
                 hostTime = audioGetCurrentHostTime();
             event.hostTime = *hostTime;
             observer.tell(event);
         }
+    }
+
+    // The observers before it may have removed it.
+    bool isStillThere(const Links& links, const Observer& observer) const {
+        const Links& now = reading.value();
+        return &now == &links ||
+               std::any_of(now.observers.begin(), now.observers.end(),
+                           [&](const Observer& one) { return one.token == observer.token; });
     }
 
     const Step* const below;

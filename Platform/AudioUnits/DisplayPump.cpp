@@ -32,7 +32,7 @@ DisplayPump& DisplayPump::shared() {
 
 DisplayPump::DisplayPump(DisplayQueue& queue, QObject* parent)
     : QObject(parent), m_queue(queue), m_notifier(queue.wakeUp().descriptor(), QSocketNotifier::Read) {
-    connect(&m_notifier, &QSocketNotifier::activated, this, [this] { m_queue.drain(); });
+    connect(&m_notifier, &QSocketNotifier::activated, this, [this] { m_queue.answer(); });
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             [this] { look(); });
     connect(&m_timer, &QTimer::timeout, this, [this] { chooseRate(), look(); });

@@ -23,7 +23,7 @@ DisplayQueue::~DisplayQueue() {
         const auto self = std::exchange(target->m_listedSelf, nullptr);
         target = target->m_nextListed;
     }
-    takeHolds(false);
+    letGo();
 }
 
 bool DisplayQueue::isEmpty() const {
@@ -44,10 +44,20 @@ void DisplayQueue::list(DisplayTarget& target) {
 }
 
 void DisplayQueue::drain() {
+    drain(m_isWoken.load(std::memory_order_relaxed));
+}
+
+void DisplayQueue::answer() {
+    drain(true);
+}
+
+void DisplayQueue::drain(bool isWoken) {
     requireMainThread();
-    const bool isWoken = m_isWoken.load(std::memory_order_relaxed) && m_isWoken.exchange(false);
-    if (isWoken)
+    if (isWoken) {
+        // The flag last: whoever sets it from then on signals, and that signal stays.
         m_wakeUp.clear();
+        m_isWoken.exchange(false);
+    }
     const bool hasListed = m_listed.load(std::memory_order_acquire) != nullptr;
     // The senders' count is theirs to write; the places themselves tell as much unless more depends on it.
     const std::size_t end = isWoken || hasListed ? m_updates.pushed() : m_updates.completeEnd();

@@ -31,6 +31,9 @@ public:
     /// waits for the next call. Then it lets go of the targets that nobody else owns. Main thread.
     void drain();
 
+    /// The same once `wakeUp` is signalled. It takes the signal back, whoever it came from. Main thread.
+    void answer();
+
     /// Lets go of all targets of which nothing waits. Until then a target of which something was shown stays
     /// alive, so that whoever sends need not count for every value. Main thread.
     void letGo();
@@ -67,6 +70,7 @@ private:
 
     void list(DisplayTarget& target);
     void wake();
+    void drain(bool isWoken);
     bool showUntil(std::size_t end);
     void showListed();
     void noteHeld(DisplayTarget& target);

@@ -1,9 +1,11 @@
 #include "Plugin/Editor/QtSession.h"
 
+#include "Platform/Core/MainThread.h"
 #include "Platform/Graphics/Appearance.h"
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QThread>
 
 #include <clocale>
 #include <string>
@@ -11,11 +13,6 @@
 namespace noteloft::plugin {
 
 namespace {
-
-bool& ownsApplication() {
-    static bool owns = false;
-    return owns;
-}
 
 /// Sets a variable of the environment while it lives.
 class EnvironmentVariable {
@@ -43,9 +40,11 @@ private:
 
 } // namespace
 
-void QtSession::begin() {
-    if (QCoreApplication::instance() != nullptr)
-        return;
+bool QtSession::begin() {
+    const auto* const application = QCoreApplication::instance();
+    if (application != nullptr)
+        return qobject_cast<const QApplication*>(application) != nullptr && platform::isMainThread() &&
+               QGuiApplication::platformName() == QStringLiteral("xcb");
     const std::string locale = std::setlocale(LC_ALL, nullptr);
     // The host may run GLib's loop, which must not find Qt in it.
     const EnvironmentVariable noGlib("QT_NO_GLIB", "1");
@@ -58,13 +57,13 @@ void QtSession::begin() {
     QApplication::setQuitOnLastWindowClosed(false);
     platform::setAppearance(platform::Appearance::dark); // for menus; a host's own application keeps its look
     std::setlocale(LC_ALL, locale.c_str());
-    ownsApplication() = true;
+    return true;
 }
 
 void QtSession::pump() {
     static bool isPumping = false;
     constexpr int limit = 10;
-    if (!ownsApplication() || isPumping)
+    if (isPumping || QThread::currentThread()->loopLevel() > 0)
         return;
     isPumping = true;
     QCoreApplication::processEvents(QEventLoop::AllEvents, limit);

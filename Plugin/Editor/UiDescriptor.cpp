@@ -36,9 +36,8 @@ LV2UI_Handle instantiate(const LV2UI_Descriptor*, const char*, const char* bundl
                          LV2UI_Write_Function write, LV2UI_Controller controller, LV2UI_Widget* widget,
                          const LV2_Feature* const* features) {
     const Features offered(features);
-    if (offered.parent == nullptr)
+    if (offered.parent == nullptr || !QtSession::begin())
         return nullptr;
-    QtSession::begin();
     loadDisplayFont(QString::fromLocal8Bit(bundlePath));
     auto* const made = new EmbeddedEditor(HostConnection(write, controller, offered.touch),
                                           reinterpret_cast<std::uintptr_t>(offered.parent));

@@ -7,10 +7,12 @@
 #include <xcb/xtest.h>
 
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <clocale>
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <sstream>
@@ -27,16 +29,21 @@ constexpr std::uint32_t transposePort = 2;
 constexpr std::uint32_t holdPort = 5;
 constexpr std::uint32_t pagePort = 7;
 
-const LV2UI_Descriptor& descriptor() {
-    static void* const library = dlopen(NOTELOFT_EDITOR, RTLD_NOW | RTLD_LOCAL);
-    static const auto find =
-        library == nullptr ? nullptr
-                           : reinterpret_cast<LV2UI_DescriptorFunction>(dlsym(library, "lv2ui_descriptor"));
+const LV2UI_Descriptor& load(const char* path) {
+    void* const library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+    const auto find = library == nullptr
+                          ? nullptr
+                          : reinterpret_cast<LV2UI_DescriptorFunction>(dlsym(library, "lv2ui_descriptor"));
     if (find == nullptr) {
         ADD_FAILURE() << dlerror();
         std::abort();
     }
     return *find(0);
+}
+
+const LV2UI_Descriptor& descriptor() {
+    static const LV2UI_Descriptor& loaded = load(NOTELOFT_EDITOR);
+    return loaded;
 }
 
 /// The X server as a host and a person use it.
@@ -131,8 +138,9 @@ private:
 /// A host with one editor.
 class Host {
 public:
-    explicit Host(Screen& screen, std::int16_t y = 0) : m_screen(screen), m_window(screen.makeWindow(y)) {
-        m_editor = descriptor().instantiate(&descriptor(), "http://quillfen.example/plugins/noteloft",
+    explicit Host(Screen& screen, std::int16_t y = 0, const LV2UI_Descriptor& editor = descriptor())
+        : m_descriptor(editor), m_screen(screen), m_window(screen.makeWindow(y)) {
+        m_editor = m_descriptor.instantiate(&m_descriptor, "http://quillfen.example/plugins/noteloft",
                                             NOTELOFT_EDITOR_FOLDER, write, this, &m_widget, m_features);
         EXPECT_NE(m_editor, nullptr);
         EXPECT_NE(m_widget, nullptr);
@@ -150,14 +158,14 @@ public:
             m_screen.destroyWindow(m_window);
             idle(2);
         }
-        descriptor().cleanup(std::exchange(m_editor, nullptr));
+        m_descriptor.cleanup(std::exchange(m_editor, nullptr));
         if (!destroysWindowFirst)
             m_screen.destroyWindow(m_window);
     }
 
     void idle(int times = 10) {
         const auto* const interface =
-            static_cast<const LV2UI_Idle_Interface*>(descriptor().extension_data(LV2_UI__idleInterface));
+            static_cast<const LV2UI_Idle_Interface*>(m_descriptor.extension_data(LV2_UI__idleInterface));
         for (int i = 0; i < times && m_editor != nullptr; ++i) {
             interface->idle(m_editor);
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
@@ -165,7 +173,7 @@ public:
     }
 
     void send(std::uint32_t port, float value) {
-        descriptor().port_event(m_editor, port, sizeof value, 0, &value);
+        m_descriptor.port_event(m_editor, port, sizeof value, 0, &value);
         idle();
     }
 
@@ -192,6 +200,7 @@ private:
                                                     std::to_string(port));
     }
 
+    const LV2UI_Descriptor& m_descriptor;
     Screen& m_screen;
     const std::uint32_t m_window;
     LV2UI_Touch m_touch{this, touch};
@@ -394,4 +403,25 @@ TEST_F(EditorTest, TwoAtOnceDoNotHearOfEachOther) {
     EXPECT_THAT(second.take(), ElementsAre("5=1"));
     m_screen.release();
     second.idle();
+}
+
+// The application object may be that of another plug-in, whose editor has gone.
+TEST_F(EditorTest, LivesOnAnotherPluginsApplication) {
+    Host(m_screen).idle(2);
+    namespace fs = std::filesystem;
+    const fs::path bundle(NOTELOFT_EDITOR_FOLDER);
+    const fs::path folder = fs::temp_directory_path() / ("editor-" + std::to_string(getpid()));
+    fs::create_directory(folder);
+    for (const auto& entry : fs::directory_iterator(bundle))
+        if (entry.is_directory())
+            fs::create_directory_symlink(entry.path(), folder / entry.path().filename());
+    const fs::path library = folder / fs::path(NOTELOFT_EDITOR).filename();
+    fs::copy_file(NOTELOFT_EDITOR, library); // a link would be the library that is loaded already
+    {
+        Host other(m_screen, 0, load(library.c_str()));
+        other.idle(20);
+        drag(other, 50);
+        EXPECT_THAT(other.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
+    }
+    fs::remove_all(folder);
 }

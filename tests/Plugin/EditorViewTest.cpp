@@ -1,6 +1,7 @@
 // The editor's view without a host: what keyboard and screen reader find on each page.
 #include "Plugin/Editor/EditorView.h"
 #include "Plugin/Editor/EditorParameters.h"
+#include "Plugin/Editor/QtSession.h"
 #include "Plugin/Editor/ScaleView.h"
 
 #include <QAccessible>
@@ -56,6 +57,10 @@ TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
     EXPECT_THAT(reachedByTab(),
                 ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Velocity", "Velocity",
                             "Dynamics", "Dynamics", "Timing", "Timing", "Chance", "Chance", "Hold"));
+}
+
+TEST(QtSession, NoEditorInAHostOfAnotherWindowSystem) {
+    EXPECT_FALSE(QtSession::begin()) << "this application has no X11 windows";
 }
 
 TEST_F(EditorViewTest, TheKeysTellTheNotesOfTheScale) {

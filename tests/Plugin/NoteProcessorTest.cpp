@@ -127,6 +127,31 @@ TEST_F(NoteProcessorTest, TwoKeysOfOnePitchDoNotLeaveItSounding) {
     EXPECT_THAT(take(), ElementsAre(Message{6, {0x80, 62, 0}}));
 }
 
+TEST_F(NoteProcessorTest, SharedPitchSoundsUntilItsLastKeyIsLetGo) {
+    begin({.harmony = {.chord = Chord::octave}});
+    send(0, {0x90, 48, 100});
+    send(2, {0x90, 60, 90});
+    take();
+    send(4, {0x80, 60, 7});
+    EXPECT_THAT(take(), ElementsAre(Message{4, {0x80, 72, 7}})) << "the lower key still has this one";
+    send(5, {0xA0, 48, 9});
+    send(6, {0x80, 48, 0});
+    EXPECT_THAT(take(), ElementsAre(Message{5, {0xA0, 48, 9}}, Message{5, {0xA0, 60, 9}},
+                                    Message{6, {0x80, 48, 0}}, Message{6, {0x80, 60, 0}}));
+}
+
+TEST_F(NoteProcessorTest, LateNoteOfTheLastStrikeTakesNothingFromTheNext) {
+    begin({.harmony = {.chord = Chord::fifth}, .strum = 0.01});
+    send(0, {0x90, 60, 100});
+    send(4, {0x80, 60, 0});
+    begin({.harmony = {.chord = Chord::fifth}});
+    send(6, {0x90, 60, 90});
+    endBlock(100);
+    EXPECT_EQ(take().back(), (Message{10, {0x90, 67, 100}})) << "the second strike's key is still down";
+    send(0, {0x80, 60, 1});
+    EXPECT_THAT(take(), ElementsAre(Message{0, {0x80, 60, 1}}, Message{0, {0x80, 67, 1}}));
+}
+
 TEST_F(NoteProcessorTest, BypassEndsWhatSoundsAndPassesTheRest) {
     begin({.harmony = {.transpose = 5}, .hold = true});
     send(0, {0x90, 60, 100});

@@ -146,6 +146,20 @@ TEST(AUParameterTree, ObserverMayRemoveItself) {
     EXPECT_EQ(calls, 1);
 }
 
+TEST(AUParameterTree, ObserverMayRemoveTheNext) {
+    const auto level = parameter("level", 5);
+    std::string heard;
+    AUParameterObserverToken second;
+    level->tokenByAddingParameterObserver([&](auto, float) {
+        level->removeParameterObserver(second);
+        heard += '1';
+    });
+    second = level->tokenByAddingParameterObserver([&](auto, float) { heard += '2'; });
+    level->tokenByAddingParameterObserver([&](auto, float) { heard += '3'; });
+    level->setValue(1);
+    EXPECT_EQ(heard, "13");
+}
+
 TEST(AUParameterTree, RemovedObserverNoLongerRunsAnywhere) {
     const auto level = parameter("level", 5);
     const auto tree = AUParameterTree::createTree({level});

@@ -251,6 +251,8 @@ TEST_F(DisplayQueueTest, QueueThatGoesAwayLetsGoOfItsTargets) {
         queue.drain();
         const auto level = std::make_shared<Target>(queue);
         watched = {shown, level};
+        level->send(0, 1);
+        queue.letGo(); // It holds the first until the second has been shown.
         for (int i = 0; i < 4; ++i)
             level->send(0, 1);
     }
@@ -362,6 +364,40 @@ TEST_F(DisplayQueueTest, PumpShowsWhatOrdinaryThreadsSendAtOnce) {
     std::thread([&] { level->send(0, 1); }).join();
     QCoreApplication::processEvents();
     EXPECT_THAT(level->shown, ElementsAre(Pair(0, 1)));
+}
+
+TEST_F(DisplayQueueTest, PumpTakesALateSignalBack) {
+    DisplayPump pump(m_queue);
+    // As of a thread that was held up before its signal, while its value has long been shown.
+    eventfd_write(m_queue.wakeUp().descriptor(), 1);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isSignalled(m_queue)) << "or the loop would never sleep again";
+}
+
+// The last value of every burst must wake whoever waits for the descriptor, however the turns fall.
+TEST_F(DisplayQueueTest, NoSignalIsLost) {
+    constexpr int changes = 200'000;
+    constexpr int burst = 50;
+    const auto level = target();
+    std::atomic<int> seen = 0;
+    std::thread sender([&] {
+        for (int i = 1; i <= changes; ++i) {
+            level->send(0, float(i));
+            while (i % burst == 0 && seen < i)
+                std::this_thread::yield();
+        }
+    });
+    constexpr int patience = 2'000; // milliseconds
+    bool isLost = false;
+    while (seen < changes) {
+        pollfd state{.fd = m_queue.wakeUp().descriptor(), .events = POLLIN, .revents = 0};
+        isLost = isLost || poll(&state, 1, patience) != 1;
+        m_queue.answer();
+        if (!level->shown.empty())
+            seen = static_cast<int>(level->shown.back().second);
+    }
+    sender.join();
+    EXPECT_FALSE(isLost);
 }
 
 TEST_F(DisplayQueueTest, PumpFindsWhatAnAudioThreadSendsWithinAQuarterOfASecond) {
