@@ -40,10 +40,13 @@ static_assert(std::size(ports) == Ports::count - firstControl);
 
 } // namespace
 
-float ControlPort::clamped(float value) const {
+float ControlPort::nearest(float value) const {
     if (std::isnan(value))
         return initial;
-    return std::clamp(value, lower, upper);
+    if (unit == ControlUnit::onOff)
+        return value > 0 ? upper : lower;
+    const float inRange = std::clamp(value, lower, upper);
+    return isWhole() ? std::round(inRange) : inRange;
 }
 
 std::span<const ControlPort> controlPorts() {

@@ -43,9 +43,9 @@ struct ControlPort {
     float initial;
     std::span<const char* const> labels = {}; ///< Of the values of an index, from 0 on; empty for others.
 
-    /// The nearest value that the port can have; hosts are free to send others, and a number that is none is
-    /// the initial value.
-    float clamped(float value) const;
+    /// The value that the port has when a host sends `value`, and hosts are free to send any: the nearest
+    /// one, of a switch whether it is above zero, and the initial value for a number that is none.
+    float nearest(float value) const;
 
     /// Whether all its values are integers.
     bool isWhole() const { return unit != ControlUnit::percent && unit != ControlUnit::milliseconds; }

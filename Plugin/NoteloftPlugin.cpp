@@ -6,7 +6,6 @@
 #include <lv2/midi/midi.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace noteloft::plugin {
 
@@ -21,13 +20,13 @@ void NoteloftPlugin::connect(std::uint32_t port, void* data) {
 }
 
 float NoteloftPlugin::control(Ports::Index port) const {
-    return controlPort(port).clamped(*static_cast<const float*>(m_ports[port]));
+    return controlPort(port).nearest(*static_cast<const float*>(m_ports[port]));
 }
 
 NoteSettings NoteloftPlugin::settings() const {
     constexpr float percent = 0.01F;
     constexpr double millisecond = 0.001;
-    const auto whole = [this](Ports::Index port) { return static_cast<int>(std::lround(control(port))); };
+    const auto whole = [this](Ports::Index port) { return static_cast<int>(control(port)); };
     return {.harmony = {.transpose = whole(Ports::transpose),
                         .root = whole(Ports::root),
                         .scale = static_cast<Scale>(whole(Ports::scale)),

@@ -3,8 +3,6 @@
 #include "Platform/Core/MainThreadShared.h"
 #include "Plugin/ControlPorts.h"
 
-#include <cmath>
-
 namespace noteloft::plugin {
 
 namespace {
@@ -57,6 +55,10 @@ std::map<std::uint32_t, std::shared_ptr<AudioParameter>> makeAll() {
     return all;
 }
 
+float nearest(std::uint32_t port, float value) {
+    return controlPort(static_cast<Ports::Index>(port)).nearest(value);
+}
+
 } // namespace
 
 EditorParameters::EditorParameters(HostConnection& host)
@@ -81,8 +83,7 @@ EditorParameters::~EditorParameters() {
 void EditorParameters::send(const platform::AUParameterAutomationEvent& event) {
     const auto port = static_cast<std::uint32_t>(event.address);
     // A dial turns without steps, whatever its port takes.
-    const bool isWhole = controlPort(static_cast<Ports::Index>(port)).isWhole();
-    const float value = isWhole ? std::round(event.value) : event.value;
+    const float value = nearest(port, event.value);
     switch (event.eventType) {
     case AUParameterAutomationEventType::touch:
         m_host.touch(port, value);
@@ -110,7 +111,7 @@ void EditorParameters::receive(std::uint32_t port, float value) {
 
 void EditorParameters::show(std::uint32_t port, float value) {
     if (const auto parameter = m_audioUnit->parameterTree()->parameterWithAddress(port))
-        parameter->setValue(value, m_token);
+        parameter->setValue(nearest(port, value), m_token); // a curve of the host's has no steps either
 }
 
 } // namespace noteloft::plugin

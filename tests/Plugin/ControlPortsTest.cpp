@@ -66,6 +66,17 @@ TEST_F(ControlPortsTest, AreWhatTheHostIsTold) {
     }
 }
 
+TEST_F(ControlPortsTest, ValuesOfTheHostBecomeOnesThatThePortHas) {
+    const auto nearest = [](Ports::Index port, float value) { return controlPort(port).nearest(value); };
+    EXPECT_EQ(nearest(Ports::transpose, -2.5F), -3);
+    EXPECT_EQ(nearest(Ports::transpose, 1e30F), 24);
+    EXPECT_EQ(nearest(Ports::scale, 1.6F), 2);
+    EXPECT_EQ(nearest(Ports::scale, std::nanf("")), 0);
+    EXPECT_EQ(nearest(Ports::strum, 1.6F), 1.6F);
+    EXPECT_EQ(nearest(Ports::hold, 0.2F), 1);
+    EXPECT_EQ(nearest(Ports::hold, -1), 0);
+}
+
 TEST_F(ControlPortsTest, PresetsSetAllThatIsHeardWithinItsRange) {
     const Node kind(lilv_new_uri(m_world, LV2_PRESETS__Preset));
     const Node portKey(lilv_new_uri(m_world, LV2_CORE__port));
@@ -89,7 +100,7 @@ TEST_F(ControlPortsTest, PresetsSetAllThatIsHeardWithinItsRange) {
             if (known.index == Ports::enabled || known.index == Ports::page)
                 continue;
             ASSERT_TRUE(values.contains(known.symbol)) << known.symbol;
-            EXPECT_EQ(values[known.symbol], known.clamped(values[known.symbol])) << known.symbol;
+            EXPECT_EQ(values[known.symbol], known.nearest(values[known.symbol])) << known.symbol;
             values.erase(known.symbol);
         }
         EXPECT_TRUE(values.empty()) << values.begin()->first;

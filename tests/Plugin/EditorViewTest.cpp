@@ -1,5 +1,6 @@
 // The editor's view without a host: what keyboard and screen reader find on each page.
 #include "Plugin/Editor/EditorView.h"
+#include "Chorale/ChoiceLabel.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/QtSession.h"
 #include "Plugin/Editor/ScaleView.h"
@@ -9,6 +10,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace noteloft::plugin;
 using testing::ElementsAre;
@@ -69,4 +72,16 @@ TEST_F(EditorViewTest, TheKeysTellTheNotesOfTheScale) {
     set(Ports::root, 2);
     set(Ports::scale, 8);
     EXPECT_EQ(keys->accessibleName(), QStringLiteral("Notes of the scale: D, E, F#, A, B"));
+}
+
+TEST_F(EditorViewTest, AValueBetweenTwoNamesIsShownAsTheOneThatIsHeard) {
+    set(Ports::scale, 1.6F);
+    const auto labels = m_view.findChildren<chorale::ChoiceLabel*>();
+    const auto label = std::find_if(labels.begin(), labels.end(), [this](const auto* candidate) {
+        return candidate->parameter() == m_parameters.parameter(Ports::scale);
+    });
+    ASSERT_NE(label, labels.end());
+    EXPECT_EQ((*label)->valueText(), QStringLiteral("Minor"));
+    EXPECT_EQ(m_view.findChild<ScaleView*>()->accessibleName(),
+              QStringLiteral("Notes of the scale: C, D, D#, F, G, G#, A#"));
 }
