@@ -45,7 +45,7 @@ int whole(const chorale::AudioParameter& parameter) {
 ScaleView::ScaleView(std::shared_ptr<chorale::AudioParameter> root,
                      std::shared_ptr<chorale::AudioParameter> scale, QWidget* parent)
     : QWidget(parent), m_root(std::move(root)), m_scale(std::move(scale)) {
-    setFixedSize(sizeHint());
+    setFixedSize(ScaleView::sizeHint());
     new platform::ParameterVisibility(*this);
     for (const auto* const parameter : {m_root.get(), m_scale.get()})
         connect(parameter, &chorale::AudioParameter::valueChanged, this, &ScaleView::describe);
