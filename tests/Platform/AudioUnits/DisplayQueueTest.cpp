@@ -63,6 +63,17 @@ void onAudioThread(const std::function<void()>& work) {
 
 class DisplayQueueTest : public testing::Test {
 protected:
+    /// Shows all that the producers send; `running` of them have not ended.
+    void drainWhile(const std::atomic<int>& running, std::vector<std::thread>& producers) {
+        while (running > 0) {
+            m_queue.drain();
+            m_queue.letGo();
+        }
+        for (auto& producer : producers)
+            producer.join();
+        m_queue.drain();
+    }
+
     std::shared_ptr<Target> target() { return std::make_shared<Target>(m_queue); }
 
     DisplayQueue m_queue{4};
@@ -284,13 +295,7 @@ TEST_F(DisplayQueueTest, LastValuesSurviveAFlood) {
                 level->send(std::size_t(i) % 2, float(i));
             --running;
         });
-    while (running > 0) {
-        m_queue.drain();
-        m_queue.letGo();
-    }
-    for (auto& producer : producers)
-        producer.join();
-    m_queue.drain();
+    drainWhile(running, producers);
     for (const auto& level : targets) {
         std::array<float, 2> last{};
         for (const auto& [source, value] : level->shown) {
@@ -320,13 +325,7 @@ TEST_F(DisplayQueueTest, TargetsOfOtherThreadsDieOnceShown) {
             }
             --running;
         });
-    while (running > 0) {
-        m_queue.drain();
-        m_queue.letGo();
-    }
-    for (auto& producer : producers)
-        producer.join();
-    m_queue.drain();
+    drainWhile(running, producers);
     m_queue.letGo();
     EXPECT_EQ(shown, threads * generations);
     EXPECT_EQ(m_queue.targets(), 0);
