@@ -37,7 +37,7 @@ public:
         cell.item = item;
         cell.turn.store(place + 1, std::memory_order_release);
         // The consumer has read that cell in the last turn; getting it back takes longer than filling it.
-        constexpr std::size_t ahead = 16;
+        constexpr std::size_t ahead = 64;
         __builtin_prefetch(&cellAt(place + ahead), 1);
     }
 

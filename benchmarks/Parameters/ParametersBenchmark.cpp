@@ -8,10 +8,13 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <functional>
 #include <optional>
 #include <random>
+#include <thread>
 
 using benchmark::LampWindow;
 using benchmark::Model;
@@ -76,6 +79,26 @@ void readClock(Samples& samples) {
     times.report(samples, "clock");
 }
 
+/// Nanoseconds for a word of memory to get from one processor to the other: what a thread pays for each line
+/// that the other has touched meanwhile.
+void passALine(Samples& samples) {
+    constexpr int passes = 20'000;
+    std::atomic<int> turn = 0;
+    const auto play = [&turn](int first) {
+        for (int own = first; own < passes; own += 2) {
+            while (turn.load(std::memory_order_acquire) != own) {
+            }
+            turn.store(own + 1, std::memory_order_release);
+        }
+    };
+    const auto start = std::chrono::steady_clock::now();
+    std::thread other(play, 1);
+    play(0);
+    other.join();
+    const std::chrono::duration<double, std::nano> time = std::chrono::steady_clock::now() - start;
+    samples["line"].push_back(time.count() / passes);
+}
+
 void measurePeer(Samples& samples, benchmark::Peer& peer) {
     benchmark::measureEachWay(samples, peer.name(), peer);
     peer.changeMany();
@@ -119,6 +142,7 @@ int main(int argc, char** argv) {
         [&] { measureEachWay(samples, "ui", ui); },
         [&] { measureEachWay(samples, "queued", queued); },
         [&] { readClock(samples); },
+        [&] { passALine(samples); },
         [&] { samples["show"].push_back(timeToShow(thousand, drain)); },
         [&] { samples["paint"].push_back(timeToShow(watched, [&] { window.paintAfter(drain); })); },
         [&] {

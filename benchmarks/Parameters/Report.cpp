@@ -48,6 +48,7 @@ void print(const Samples& samples, const std::vector<std::string>& references, i
     printChanges(samples, references, "shown in a flood", " flood");
     std::printf("the clock alone, in the percentiles, ns: %.0f, %.0f\n", median(samples, "clock 50"),
                 median(samples, "clock 99"));
+    std::printf("a line of memory from one processor to the other, ns: %.0f\n", median(samples, "line"));
     printShowing(samples, references, shown);
     std::printf("to build %d parameters with their tree, ms: %.1f\n", built, median(samples, "build"));
     for (const char* const place : {"tree", "settings"}) {
