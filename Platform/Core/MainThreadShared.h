@@ -10,14 +10,15 @@
 
 namespace platform {
 
-/// Deletes on the main thread: at once there, else in a later turn of its loop.
+/// Deletes on the main thread: at once there, else in a later turn of its loop, or with the application if
+/// there is none any more.
 struct DeleteOnMainThread {
     template <typename T>
     void operator()(T* object) const {
         if (isMainThread() || QCoreApplication::instance() == nullptr)
             delete object;
         else
-            MainQueue::async([object] { delete object; });
+            MainQueue::async([owner = std::shared_ptr<T>(object)] {});
     }
 };
 
