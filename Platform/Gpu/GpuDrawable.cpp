@@ -10,10 +10,7 @@
 namespace platform {
 
 GpuDrawable::GpuDrawable(std::shared_ptr<GpuDevice> device, QSize size, ColorSpace space, ReadBack readBack)
-    : m_device(std::move(device)),
-      m_space(space),
-      m_late(readBack == ReadBack::oneFrameLate),
-      m_image(size, QImage::Format_RGB32) {
+    : m_device(std::move(device)), m_size(size), m_space(space), m_late(readBack == ReadBack::oneFrameLate) {
     const GpuContext::Scope scope(m_device->context());
     glGenRenderbuffers(1, &m_renderbuffer);
     glBindRenderbuffer(GL_RENDERBUFFER, m_renderbuffer);
@@ -26,7 +23,7 @@ GpuDrawable::GpuDrawable(std::shared_ptr<GpuDevice> device, QSize size, ColorSpa
     glGenBuffers(static_cast<int>(m_pixelBuffers.size()), m_pixelBuffers.data());
     for (const unsigned buffer : m_pixelBuffers) {
         glBindBuffer(GL_PIXEL_PACK_BUFFER, buffer);
-        glBufferData(GL_PIXEL_PACK_BUFFER, m_image.sizeInBytes(), nullptr, GL_STREAM_READ);
+        glBufferData(GL_PIXEL_PACK_BUFFER, 4 * size.width() * size.height(), nullptr, GL_STREAM_READ);
     }
     glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
 }
@@ -40,25 +37,55 @@ GpuDrawable::~GpuDrawable() {
 
 void GpuDrawable::present() {
     if (m_late) {
-        readLate();
-        return;
+        glBindBuffer(GL_PIXEL_PACK_BUFFER, m_pixelBuffers[m_frames % 2]);
+        glPixelStorei(GL_PACK_ROW_LENGTH, 0);
+        glReadPixels(0, 0, m_size.width(), m_size.height(), GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+        glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
     }
-    glReadPixels(0, 0, m_image.width(), m_image.height(), GL_RGBA, GL_UNSIGNED_BYTE, m_image.bits());
-    m_hasImage = true;
+    ++m_frames;
+    m_isImageOld = m_destination != nullptr;
+    if (m_destination != nullptr)
+        read(*m_destination);
+    else
+        readImage();
 }
 
-void GpuDrawable::readLate() {
+QImage GpuDrawable::image() {
+    if (std::exchange(m_isImageOld, false)) {
+        const GpuContext::Scope scope(m_device->context());
+        readImage();
+    }
+    return m_image;
+}
+
+void GpuDrawable::readImage() {
+    if (m_image.isNull()) {
+        m_image = QImage(m_size, QImage::Format_RGB32);
+        m_image.fill(Qt::black);
+    }
+    read(m_image);
+}
+
+void GpuDrawable::read(QImage& pixels) {
+    if (m_late) {
+        readLate(pixels);
+        return;
+    }
+    glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
+    glPixelStorei(GL_PACK_ROW_LENGTH, static_cast<int>(pixels.bytesPerLine() / 4));
+    glReadPixels(0, 0, m_size.width(), m_size.height(), GL_RGBA, GL_UNSIGNED_BYTE, pixels.bits());
+}
+
+void GpuDrawable::readLate(QImage& pixels) {
     // The first frame is waited for, so that a view never shows an empty picture.
-    glBindBuffer(GL_PIXEL_PACK_BUFFER, m_pixelBuffers[m_frames % 2]);
-    glReadPixels(0, 0, m_image.width(), m_image.height(), GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
-    glBindBuffer(GL_PIXEL_PACK_BUFFER, m_pixelBuffers[m_frames == 0 ? 0 : (m_frames + 1) % 2]);
-    if (const void* pixels = glMapBuffer(GL_PIXEL_PACK_BUFFER, GL_READ_ONLY); pixels != nullptr) {
-        std::memcpy(m_image.bits(), pixels, static_cast<std::size_t>(m_image.sizeInBytes()));
+    glBindBuffer(GL_PIXEL_PACK_BUFFER, m_pixelBuffers[m_frames == 1 ? 0 : m_frames % 2]);
+    if (const void* frame = glMapBuffer(GL_PIXEL_PACK_BUFFER, GL_READ_ONLY); frame != nullptr) {
+        const auto rowLength = static_cast<std::size_t>(m_size.width()) * 4;
+        for (int row = 0; row < m_size.height(); ++row)
+            std::memcpy(pixels.scanLine(row), static_cast<const char*>(frame) + row * rowLength, rowLength);
         glUnmapBuffer(GL_PIXEL_PACK_BUFFER);
-        m_hasImage = true;
     }
     glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
-    ++m_frames;
 }
 
 } // namespace platform

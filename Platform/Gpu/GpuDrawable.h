@@ -28,30 +28,42 @@ public:
     GpuDrawable& operator=(const GpuDrawable&) = delete;
 
     /// In pixels.
-    QSize size() const { return m_image.size(); }
+    QSize size() const { return m_size; }
 
     ColorSpace colorSpace() const { return m_space; }
 
     unsigned framebuffer() const { return m_framebuffer; }
 
+    /// How many have been presented.
+    std::size_t frames() const { return m_frames; }
+
+    /// Where `present` writes the frame: 32-bit pixels of the drawable's size, which are made opaque. Null
+    /// for the drawable's own image.
+    void setDestination(QImage* pixels) { m_destination = pixels; }
+
     /// Reads the frame back. Inside a scope of the context.
     void present();
 
-    /// Opaque, rows from the top; null before the first frame.
-    QImage image() const { return m_hasImage ? m_image : QImage(); }
+    /// Opaque, rows from the top; null before the first frame. Outside a scope, for it reads a frame that has
+    /// gone to a destination back again.
+    QImage image();
 
 private:
-    void readLate();
+    void read(QImage& pixels);
+    void readLate(QImage& pixels);
+    void readImage();
 
     std::shared_ptr<GpuDevice> m_device;
+    QSize m_size;
     ColorSpace m_space;
     unsigned m_framebuffer = 0;
     unsigned m_renderbuffer = 0;
     std::array<unsigned, 2> m_pixelBuffers{};
     std::size_t m_frames = 0;
     bool m_late;
-    bool m_hasImage = false;
+    QImage* m_destination = nullptr;
     QImage m_image;
+    bool m_isImageOld = false; // the frame went to the destination
 };
 
 } // namespace platform

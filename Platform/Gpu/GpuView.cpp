@@ -3,12 +3,36 @@
 #include "Platform/Core/MainThread.h"
 #include "Platform/Gpu/GpuDevice.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QTimerEvent>
 
 #include <utility>
 
 namespace platform {
+
+namespace {
+
+/// The memory behind `rect` of the painter's widget, if it is of `size` and all of it may be painted: null
+/// unless the painter paints pixels of an image as they are.
+QImage pixelsBehind(QPainter& painter, const QRect& rect, QSize size) {
+    const QPaintEngine& engine = *painter.paintEngine();
+    if (engine.type() != QPaintEngine::Raster || engine.paintDevice()->devType() != QInternal::Image)
+        return {};
+    auto& image = static_cast<QImage&>(*engine.paintDevice());
+    const bool is32Bit =
+        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied;
+    const QRectF mapped = painter.deviceTransform().mapRect(QRectF(rect));
+    const QRect pixels = mapped.toRect();
+    const bool isWhole = QRectF(pixels) == mapped && pixels.size() == size && image.rect().contains(pixels) &&
+                         painter.deviceTransform().type() <= QTransform::TxScale;
+    if (!is32Bit || !isWhole || !(QRegion(pixels) - engine.systemClip()).isEmpty() || painter.hasClipping())
+        return {};
+    return {image.scanLine(pixels.y()) + qsizetype(4) * pixels.x(), size.width(), size.height(),
+            image.bytesPerLine(), QImage::Format_RGB32};
+}
+
+} // namespace
 
 GpuView::GpuView(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -88,13 +112,27 @@ void GpuView::paintEvent(QPaintEvent*) {
         m_delegate->drawableSizeWillChange(*this, size);
     }
     updateDrawable();
+    QPainter painter(this);
     // Parts of the view that are uncovered show the last frame; only a due frame costs drawing one.
-    if (std::exchange(m_frameDue, false))
-        m_delegate->draw(*this);
-    const QImage picture = image();
-    QPainter(this).drawImage(rect(), picture);
+    const bool isShown = std::exchange(m_frameDue, false) && drawFrame(painter);
+    const QImage picture = isShown ? QImage() : image();
+    if (!isShown)
+        painter.drawImage(rect(), picture);
     // What lies below need not be painted any more.
-    setAttribute(Qt::WA_OpaquePaintEvent, !picture.isNull());
+    setAttribute(Qt::WA_OpaquePaintEvent, isShown || !picture.isNull());
+}
+
+// True if the frame is where the painter would put it already.
+bool GpuView::drawFrame(QPainter& painter) {
+    QImage pixels = m_drawable ? pixelsBehind(painter, rect(), m_drawable->size()) : QImage();
+    const std::size_t before = m_drawable ? m_drawable->frames() : 0;
+    if (!pixels.isNull())
+        m_drawable->setDestination(&pixels);
+    m_delegate->draw(*this);
+    if (pixels.isNull() || !m_drawable)
+        return false;
+    m_drawable->setDestination(nullptr);
+    return m_drawable->frames() != before;
 }
 
 void GpuView::timerEvent(QTimerEvent* event) {

@@ -77,6 +77,7 @@ protected:
 
 private:
     void updateDrawable();
+    bool drawFrame(QPainter& painter);
     void updateTimer();
 
     std::shared_ptr<GpuDevice> m_device;

@@ -4,18 +4,25 @@
 #include "tests/support/Pixels.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <map>
+#include <utility>
 
 using platform::GpuDevice;
 using platform::GpuView;
 
 namespace {
 
-/// Fills the view with white, and counts.
+/// Fills the view, with white if not told otherwise, and counts.
 class White : public platform::GpuViewDelegate {
 public:
+    explicit White(const QByteArray& body = "color = vec4(1.0);")
+        : m_white(GpuPicture::pipeline(body.constData())) {}
+
     void drawableSizeWillChange(GpuView&, QSizeF size) override { sizes << size; }
 
     void draw(GpuView& view) override {
@@ -43,7 +50,7 @@ private:
 
     std::shared_ptr<GpuDevice> m_device = GpuDevice::systemDefault();
     std::unique_ptr<platform::CommandQueue> m_queue = m_device->makeCommandQueue();
-    std::shared_ptr<platform::RenderPipelineState> m_white = GpuPicture::pipeline("color = vec4(1.0);");
+    std::shared_ptr<platform::RenderPipelineState> m_white;
     std::unique_ptr<platform::GpuBuffer> m_vertices = m_device->makeBuffer(quad.data(), sizeof quad);
 };
 
@@ -157,6 +164,57 @@ TEST_F(GpuViewTest, ShowsTheWholePicture) {
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             ASSERT_EQ(image.pixel(x, y), 0xffffffff) << x << ", " << y;
+}
+
+TEST_F(GpuViewTest, FramesLandWhereThePainterPaints) {
+    const QByteArray edge = QByteArray::number(9 * m_view.devicePixelRatioF(), 'f');
+    White halves("color = vec4(vec3(gl_FragCoord.x < " + edge + " ? 0.0 : 1.0), 1.0);");
+    m_view.setDelegate(&halves);
+    QWidget window;
+    window.resize(60, 40);
+    window.setPalette(QPalette(Qt::red));
+    m_view.setParent(&window);
+    m_view.setGeometry(7, 5, 30, 20);
+    QWidget above(&window);
+    above.setGeometry(20, 10, 30, 6);
+    above.setPalette(QPalette(Qt::blue));
+    above.setAutoFillBackground(true);
+    const std::map<std::pair<int, int>, QColor> expected{
+        {{6, 10}, Qt::red},    {{7, 5}, Qt::black}, {{15, 24}, Qt::black}, {{16, 5}, Qt::white},
+        {{36, 24}, Qt::white}, {{36, 25}, Qt::red}, {{22, 8}, Qt::white}};
+    const auto check = [&](QImage::Format format, bool isTurned, bool isCovered) {
+        QImage target(80, 80, format);
+        target.fill(Qt::gray);
+        QPainter painter(&target);
+        if (isTurned) {
+            painter.translate(80, 0);
+            painter.rotate(90);
+        }
+        above.setVisible(isCovered);
+        m_view.setNeedsDisplay();
+        window.render(&painter);
+        painter.end();
+        const auto shown = [&](int x, int y) {
+            return isTurned ? target.pixelColor(79 - y, x) : target.pixelColor(x, y);
+        };
+        for (const auto& [place, color] : expected)
+            EXPECT_EQ(shown(place.first, place.second), color) << place.first << ", " << place.second;
+        EXPECT_EQ(shown(22, 12), QColor(isCovered ? Qt::blue : Qt::white));
+        const QImage frame = m_view.image();
+        EXPECT_EQ(frame.pixelColor(8, frame.height() - 1), QColor(Qt::black));
+        EXPECT_EQ(frame.pixelColor(frame.width() / 2, 0), QColor(Qt::white));
+    };
+    int frames = 0;
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB16,
+                              QImage::Format_ARGB32})
+        for (const bool isTurned : {false, true})
+            for (const bool isCovered : {false, true}) {
+                SCOPED_TRACE(testing::Message() << "format " << format << (isTurned ? ", turned" : "")
+                                                << (isCovered ? ", covered" : ""));
+                check(format, isTurned, isCovered);
+                EXPECT_EQ(halves.frames, ++frames);
+            }
+    m_view.setParent(nullptr);
 }
 
 TEST_F(GpuViewTest, AnEmptyViewHasNothingToDrawInto) {
