@@ -4,10 +4,17 @@
 
 #include <epoxy/gl.h>
 
+#include <cstddef>
 #include <cstring>
 #include <utility>
 
 namespace platform {
+
+namespace {
+
+constexpr int bytesPerPixel = 4;
+
+} // namespace
 
 GpuDrawable::GpuDrawable(std::shared_ptr<GpuDevice> device, QSize size, ColorSpace space, ReadBack readBack)
     : m_device(std::move(device)), m_size(size), m_space(space), m_late(readBack == ReadBack::oneFrameLate) {
@@ -21,9 +28,10 @@ GpuDrawable::GpuDrawable(std::shared_ptr<GpuDevice> device, QSize size, ColorSpa
     if (!m_late)
         return;
     glGenBuffers(static_cast<int>(m_pixelBuffers.size()), m_pixelBuffers.data());
+    const auto bytes = static_cast<std::ptrdiff_t>(bytesPerPixel) * size.width() * size.height();
     for (const unsigned buffer : m_pixelBuffers) {
         glBindBuffer(GL_PIXEL_PACK_BUFFER, buffer);
-        glBufferData(GL_PIXEL_PACK_BUFFER, 4 * size.width() * size.height(), nullptr, GL_STREAM_READ);
+        glBufferData(GL_PIXEL_PACK_BUFFER, bytes, nullptr, GL_STREAM_READ);
     }
     glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
 }
@@ -72,7 +80,7 @@ void GpuDrawable::read(QImage& pixels) {
         return;
     }
     glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
-    glPixelStorei(GL_PACK_ROW_LENGTH, static_cast<int>(pixels.bytesPerLine() / 4));
+    glPixelStorei(GL_PACK_ROW_LENGTH, static_cast<int>(pixels.bytesPerLine() / bytesPerPixel));
     glReadPixels(0, 0, m_size.width(), m_size.height(), GL_RGBA, GL_UNSIGNED_BYTE, pixels.bits());
 }
 
@@ -80,7 +88,7 @@ void GpuDrawable::readLate(QImage& pixels) {
     // The first frame is waited for, so that a view never shows an empty picture.
     glBindBuffer(GL_PIXEL_PACK_BUFFER, m_pixelBuffers[m_frames == 1 ? 0 : m_frames % 2]);
     if (const void* frame = glMapBuffer(GL_PIXEL_PACK_BUFFER, GL_READ_ONLY); frame != nullptr) {
-        const auto rowLength = static_cast<std::size_t>(m_size.width()) * 4;
+        const auto rowLength = static_cast<std::size_t>(m_size.width()) * bytesPerPixel;
         for (int row = 0; row < m_size.height(); ++row)
             std::memcpy(pixels.scanLine(row), static_cast<const char*>(frame) + row * rowLength, rowLength);
         glUnmapBuffer(GL_PIXEL_PACK_BUFFER);
