@@ -96,7 +96,7 @@ QWidget* makeScalePage(const EditorParameters& parameters) {
 EditorView::EditorView(const EditorParameters& parameters)
     : m_page(parameters.parameter(Ports::page)), m_pages(new QStackedWidget) {
     constexpr int width = 700;
-    constexpr QMargins bodyMargins(20, 28, 20, 20);
+    constexpr QMargins bodyMargins(0, 28, 0, 20);
     auto* const stack = new QVBoxLayout(this);
     stack->setContentsMargins({});
     stack->setSpacing(0);
