@@ -1,12 +1,5 @@
 #include "Platform/AudioUnits/DisplayQueue.h"
-#include "Platform/AudioUnits/DisplayPump.h"
-#include "Platform/AudioUnits/DisplayTarget.h"
-#include "Platform/AudioUnits/RealtimeScope.h"
-#include "Platform/Core/MainThreadShared.h"
-
-#include <QElapsedTimer>
-#include <QTest>
-#include <QWidget>
+#include "tests/Platform/AudioUnits/RecordingTarget.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,48 +11,18 @@
 #include <array>
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <thread>
 #include <utility>
 #include <vector>
 
-using platform::DisplayPump;
 using platform::DisplayQueue;
-using platform::DisplayTarget;
-using platform::ParameterVisibility;
 using platform::RealtimeScope;
 using testing::ElementsAre;
 using testing::Pair;
 
 namespace {
-
-class Target : public DisplayTarget {
-public:
-    using DisplayTarget::send;
-
-    explicit Target(DisplayQueue& queue) : DisplayTarget(queue) {}
-
-    void show(std::size_t source, float value) override {
-        shown.emplace_back(source, value);
-        if (whenShown)
-            whenShown();
-    }
-
-    std::vector<std::pair<std::size_t, float>> shown;
-    std::function<void()> whenShown;
-};
-
-bool isSignalled(const DisplayQueue& queue) {
-    pollfd state{.fd = queue.wakeUp().descriptor(), .events = POLLIN, .revents = 0};
-    return poll(&state, 1, 0) == 1;
-}
-
-void onAudioThread(const std::function<void()>& work) {
-    std::thread([&work] {
-        const RealtimeScope scope;
-        work();
-    }).join();
-}
 
 class DisplayQueueTest : public testing::Test {
 protected:
@@ -74,7 +37,7 @@ protected:
         m_queue.drain();
     }
 
-    std::shared_ptr<Target> target() { return std::make_shared<Target>(m_queue); }
+    std::shared_ptr<RecordingTarget> target() { return std::make_shared<RecordingTarget>(m_queue); }
 
     DisplayQueue m_queue{4};
 };
@@ -198,7 +161,7 @@ TEST_F(DisplayQueueTest, OrdinaryThreadsWakeOncePerTurnAndAudioThreadsNever) {
 
 TEST_F(DisplayQueueTest, TargetLivesUntilItsValuesHaveBeenShown) {
     auto level = target();
-    const std::weak_ptr<Target> watched = level;
+    const std::weak_ptr<RecordingTarget> watched = level;
     for (int i = 0; i < 6; ++i)
         level->send(0, float(i)); // The last two are kept outside the queue.
     level.reset();
@@ -211,7 +174,7 @@ TEST_F(DisplayQueueTest, TargetLivesUntilItsValuesHaveBeenShown) {
 
 TEST_F(DisplayQueueTest, TargetWithAnotherOwnerIsLetGoOfBeforeTheLoopSleeps) {
     auto level = target();
-    const std::weak_ptr<Target> watched = level;
+    const std::weak_ptr<RecordingTarget> watched = level;
     level->send(0, 1);
     m_queue.letGo();
     m_queue.drain();
@@ -223,7 +186,7 @@ TEST_F(DisplayQueueTest, TargetWithAnotherOwnerIsLetGoOfBeforeTheLoopSleeps) {
     EXPECT_TRUE(watched.expired());
 
     level = target();
-    const std::weak_ptr<Target> again = level;
+    const std::weak_ptr<RecordingTarget> again = level;
     level->send(0, 1);
     m_queue.drain();
     level->send(0, 2);
@@ -238,7 +201,7 @@ TEST_F(DisplayQueueTest, TargetWithAnotherOwnerIsLetGoOfBeforeTheLoopSleeps) {
 
 TEST_F(DisplayQueueTest, TargetOutlivesItsSlotThatTurnsTheLoop) {
     auto level = target();
-    const std::weak_ptr<Target> watched = level;
+    const std::weak_ptr<RecordingTarget> watched = level;
     std::vector<bool> isGone;
     level->whenShown = [&] {
         level.reset();
@@ -254,13 +217,13 @@ TEST_F(DisplayQueueTest, TargetOutlivesItsSlotThatTurnsTheLoop) {
 }
 
 TEST_F(DisplayQueueTest, QueueThatGoesAwayLetsGoOfItsTargets) {
-    std::vector<std::weak_ptr<Target>> watched;
+    std::vector<std::weak_ptr<RecordingTarget>> watched;
     {
         DisplayQueue queue(2);
-        const auto shown = std::make_shared<Target>(queue);
+        const auto shown = std::make_shared<RecordingTarget>(queue);
         shown->send(0, 1);
         queue.drain();
-        const auto level = std::make_shared<Target>(queue);
+        const auto level = std::make_shared<RecordingTarget>(queue);
         watched = {shown, level};
         level->send(0, 1);
         queue.letGo(); // It holds the first until the second has been shown.
@@ -272,7 +235,7 @@ TEST_F(DisplayQueueTest, QueueThatGoesAwayLetsGoOfItsTargets) {
 }
 
 TEST_F(DisplayQueueTest, TargetWithoutAnOwnerIsAnError) {
-    Target level(m_queue);
+    RecordingTarget level(m_queue);
     EXPECT_DEATH(level.send(0, 1), "^A parameter must be owned by a shared pointer\n$");
 }
 
@@ -281,7 +244,7 @@ TEST_F(DisplayQueueTest, TargetWithoutAnOwnerIsAnError) {
 TEST_F(DisplayQueueTest, LastValuesSurviveAFlood) {
     constexpr int threads = 4;
     constexpr int changes = 20'000;
-    std::vector<std::shared_ptr<Target>> targets;
+    std::vector<std::shared_ptr<RecordingTarget>> targets;
     for (int i = 0; i < threads; ++i)
         targets.push_back(target());
     std::atomic<int> running = threads;
@@ -356,23 +319,6 @@ TEST_F(DisplayQueueTest, ThreadsMayShareATarget) {
     EXPECT_GE(level->shown.back().second, 3.F * (changes - 1)) << "somebody's last value is the last one";
 }
 
-TEST_F(DisplayQueueTest, PumpShowsWhatOrdinaryThreadsSendAtOnce) {
-    DisplayPump pump(m_queue);
-    const auto level = target();
-    pump.start();
-    std::thread([&] { level->send(0, 1); }).join();
-    QCoreApplication::processEvents();
-    EXPECT_THAT(level->shown, ElementsAre(Pair(0, 1)));
-}
-
-TEST_F(DisplayQueueTest, PumpTakesALateSignalBack) {
-    DisplayPump pump(m_queue);
-    // As of a thread that was held up before its signal, while its value has long been shown.
-    eventfd_write(m_queue.wakeUp().descriptor(), 1);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(isSignalled(m_queue)) << "or the loop would never sleep again";
-}
-
 // The last value of every burst must wake whoever waits for the descriptor, however the turns fall.
 TEST_F(DisplayQueueTest, NoSignalIsLost) {
     constexpr int changes = 200'000;
@@ -397,103 +343,4 @@ TEST_F(DisplayQueueTest, NoSignalIsLost) {
     }
     sender.join();
     EXPECT_FALSE(isLost);
-}
-
-TEST_F(DisplayQueueTest, PumpFindsWhatAnAudioThreadSendsWithinAQuarterOfASecond) {
-    DisplayPump pump(m_queue);
-    const auto level = target();
-    pump.start();
-    QTest::qWait(1); // Not because the loop is about to sleep.
-    std::thread audio([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(30));
-        const RealtimeScope scope;
-        level->send(0, 1);
-    });
-    QElapsedTimer sleep;
-    sleep.start();
-    int turns = 0;
-    while (level->shown.empty() && sleep.elapsed() < 2'000) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        ++turns;
-    }
-    audio.join();
-    EXPECT_LE(sleep.elapsed(), 500) << "250 ms, and what a busy machine adds";
-    EXPECT_GE(sleep.elapsed(), 30);
-    EXPECT_LE(turns, 3) << "nothing may tick while nothing is on screen";
-}
-
-TEST_F(DisplayQueueTest, PumpLooksBeforeTheLoopSleeps) {
-    DisplayPump pump(m_queue);
-    const auto level = target();
-    pump.start();
-    onAudioThread([&] { level->send(0, 1); });
-    QMetaObject::invokeMethod(
-        &pump, [] {}, Qt::QueuedConnection);
-    QElapsedTimer time;
-    time.start();
-    while (level->shown.empty())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    EXPECT_LT(time.elapsed(), 150) << "it must not have waited for the timer";
-}
-
-TEST_F(DisplayQueueTest, PumpWithoutTargetsSleeps) {
-    DisplayPump pump(m_queue);
-    auto level = target();
-    pump.start();
-    EXPECT_TRUE(pump.isRunning());
-    level.reset();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !pump.isRunning(); }, 2'000));
-}
-
-TEST(ParameterVisibilityTest, TicksOnlyWhileTheViewIsOnScreen) {
-    auto& pump = DisplayPump::shared();
-    const auto level = std::make_shared<Target>(DisplayQueue::shared());
-    pump.start();
-    QWidget window;
-    QWidget view(&window);
-    auto* visibility = new ParameterVisibility(view);
-    EXPECT_GE(pump.interval().count(), 100);
-    window.show();
-    EXPECT_EQ(pump.interval().count(), 16);
-    view.hide();
-    EXPECT_GE(pump.interval().count(), 100);
-    view.show();
-    EXPECT_EQ(pump.interval().count(), 16);
-    delete visibility;
-    EXPECT_GE(pump.interval().count(), 100) << "nothing keeps the tick alive";
-}
-
-namespace {
-
-class MainThreadSharedTest : public testing::Test {
-protected:
-    struct Mortal {
-        ~Mortal() { isOnMainThread = platform::isMainThread(); }
-
-        std::optional<bool>& isOnMainThread;
-    };
-
-    /// Lets go of the only owner on another thread.
-    void letGoElsewhere() {
-        auto object = platform::makeMainThreadShared<Mortal>(m_diedOnMainThread);
-        std::thread([held = std::move(object)]() mutable { held.reset(); }).join();
-        EXPECT_FALSE(m_diedOnMainThread);
-    }
-
-    std::optional<bool> m_diedOnMainThread;
-};
-
-} // namespace
-
-TEST_F(MainThreadSharedTest, DiesOnTheMainThread) {
-    letGoElsewhere();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(m_diedOnMainThread, true);
-}
-
-TEST_F(MainThreadSharedTest, DiesWithTheLoopAtTheLatest) {
-    letGoElsewhere();
-    // As the application does when it goes away.
-    QCoreApplication::removePostedEvents(QCoreApplication::instance());
-    EXPECT_EQ(m_diedOnMainThread, true);
 }
