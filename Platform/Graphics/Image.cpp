@@ -131,27 +131,32 @@ Image Image::faded(float opacity) const {
     return copy;
 }
 
-QImage Image::bitmap(QSizeF size, qreal scale) const {
+const QImage* Image::picture(QSizeF size, qreal scale, float opacity) const {
     const QSize pixels = (size * scale).toSize();
     if (isNull() || pixels.isEmpty())
-        return {};
-    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring, m_opacity};
+        return nullptr;
+    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring,
+                       m_opacity * opacity};
     if (const QImage* known = m_data->drawn.object(key))
-        return *known;
+        return known;
     auto* const drawn = new QImage(m_data->render(key, scale));
     drawn->setDevicePixelRatio(scale);
-    QImage result = *drawn;
     m_data->drawn.insert(key, drawn);
-    return result;
+    return drawn;
 }
 
-void Image::draw(QPainter& painter, const QRectF& target) const {
+QImage Image::bitmap(QSizeF size, qreal scale) const {
+    const QImage* const drawn = picture(size, scale, 1);
+    return drawn != nullptr ? *drawn : QImage();
+}
+
+void Image::draw(QPainter& painter, const QRectF& target, float opacity) const {
     const qreal scale = pixelsPerPoint(painter);
     const QPointF origin(onPixel(target.left(), scale), onPixel(target.top(), scale));
     const QSizeF size(onPixel(target.right(), scale) - origin.x(),
                       onPixel(target.bottom(), scale) - origin.y());
-    if (const QImage picture = bitmap(size, scale); !picture.isNull())
-        drawPixels(painter, origin, picture);
+    if (const QImage* const drawn = picture(size, scale, opacity))
+        drawPixels(painter, origin, *drawn);
 }
 
 } // namespace platform

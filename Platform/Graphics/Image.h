@@ -62,8 +62,9 @@ public:
     /// A copy that is `opacity` times as opaque, from 0 to 1.
     Image faded(float opacity) const;
 
-    /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred.
-    void draw(QPainter& painter, const QRectF& target) const;
+    /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred. `opacity`,
+    /// from 0 to 1, spares a faded copy.
+    void draw(QPainter& painter, const QRectF& target, float opacity = 1) const;
 
     /// The picture of `size` points at `scale` pixels a point, kept for the next call with the same
     /// arguments. Null if the size is empty.
@@ -71,6 +72,9 @@ public:
 
 private:
     struct Data;
+
+    /// Null if there is nothing to draw. Valid until another picture is drawn.
+    const QImage* picture(QSizeF size, qreal scale, float opacity) const;
 
     std::shared_ptr<Data> m_data;
     std::optional<QRgb> m_tint;

@@ -83,7 +83,7 @@ void PreparedText::make(const Made& made) const {
     painter.setPen(QColor::fromRgba(made.color));
     const QPointF baseline(overhang, onPixel(overhang + m_ascent, made.scale));
     painter.drawText(baseline, shown);
-    if (made.showsMnemonic && m_mnemonic >= 0)
+    if (made.showsMnemonic && hasMnemonic())
         underlineMnemonic(painter, baseline);
     painter.end();
     const QRect ink = inkBounds(line);

@@ -27,6 +27,8 @@ public:
 
     const QString& text() const { return m_text; }
 
+    bool hasMnemonic() const { return m_mnemonic >= 0; }
+
     /// In points; the height is the font's line height, made even.
     QSizeF size() const { return m_size; }
 
