@@ -17,6 +17,8 @@ class QRectF;
 
 namespace platform {
 
+class PreparedPicture;
+
 /// A bitmap with several resolutions, drawn at any size: its corners keep theirs, what lies between is
 /// stretched or tiled. A value whose copies share their pixels and what they have drawn. Main thread.
 class Image {
@@ -74,7 +76,7 @@ private:
     struct Data;
 
     /// Null if there is nothing to draw. Valid until another picture is drawn.
-    const QImage* picture(QSizeF size, qreal scale, float opacity) const;
+    const PreparedPicture* picture(QSizeF size, qreal scale, float opacity) const;
 
     std::shared_ptr<Data> m_data;
     std::optional<QRgb> m_tint;
