@@ -142,9 +142,8 @@ const PreparedPicture* Image::picture(QSizeF size, qreal scale, float opacity) c
         return known;
     QImage drawn = m_data->render(key, scale);
     drawn.setDevicePixelRatio(scale);
-    auto* const prepared = new PreparedPicture(std::move(drawn));
-    m_data->drawn.insert(key, prepared);
-    return prepared;
+    m_data->drawn.insert(key, new PreparedPicture(std::move(drawn)));
+    return m_data->drawn.object(key);
 }
 
 QImage Image::bitmap(QSizeF size, qreal scale) const {
