@@ -66,9 +66,9 @@ void drawBezel(QPainter& painter, const QRectF& frame, const platform::Image* be
         return;
     const float opacity = cell.isEnabled() ? 1 : dimmed;
     if (bezel->isTemplate())
-        bezel->tinted(cell.controlTextColor()).faded(opacity).draw(painter, frame);
+        bezel->tinted(cell.controlTextColor()).draw(painter, frame, opacity);
     else
-        bezel->faded(opacity).draw(painter, frame);
+        bezel->draw(painter, frame, opacity);
 }
 
 QRectF imageFrame(QSizeF size, const QRectF& frame, ImageScaling scaling, qreal backingScale) {
@@ -87,7 +87,7 @@ QRectF imageFrame(QSizeF size, const QRectF& frame, ImageScaling scaling, qreal 
 void drawImage(QPainter& painter, const QRectF& frame, const platform::Image& image,
                const platform::ButtonCell& cell) {
     const QRectF target = imageFrame(image.size(), frame, cell.imageScaling(), cell.backingScale());
-    image.faded(cell.isHighlighted() || !cell.isEnabled() ? dimmed : 1).draw(painter, target);
+    image.draw(painter, target, cell.isHighlighted() || !cell.isEnabled() ? dimmed : 1);
 }
 
 void drawFocusRing(QPainter& painter, const QRectF& maskBounds, const QColor& color) {

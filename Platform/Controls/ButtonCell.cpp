@@ -68,7 +68,8 @@ const PreparedText& ButtonCell::preparedTitle(const QFont& font) const {
 }
 
 bool ButtonCell::showsMnemonic() const {
-    return QApplication::style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, controlView()) != 0;
+    return m_preparedTitle.hasMnemonic() &&
+           QApplication::style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, controlView()) != 0;
 }
 
 CellContent ButtonCell::content() const {
@@ -139,7 +140,7 @@ void ButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
 
 void ButtonCell::drawImage(QPainter& painter, const QRectF& frame) const {
     const Image shown = shownImage().tinted(controlTextColor());
-    shown.faded(isEnabled() ? 1 : disabledOpacity).draw(painter, frame);
+    shown.draw(painter, frame, isEnabled() ? 1 : disabledOpacity);
 }
 
 } // namespace platform

@@ -44,12 +44,18 @@ public:
 
     const QString& title() const { return m_title; }
 
-    void setTitle(const QString& title) { m_title = title; }
+    void setTitle(const QString& title) {
+        if (title != m_title)
+            m_title = title;
+    }
 
     /// The title's font, unless a style says otherwise.
     const QFont& font() const { return m_font; }
 
-    void setFont(const QFont& font) { m_font = font; }
+    void setFont(const QFont& font) {
+        if (font != m_font)
+            m_font = font;
+    }
 
     Qt::LayoutDirection layoutDirection() const { return m_direction; }
 

@@ -8,7 +8,7 @@
 namespace platform {
 
 qreal pixelsPerPoint(const QPainter& painter) {
-    const QTransform transform = painter.deviceTransform();
+    const QTransform& transform = painter.deviceTransform();
     const bool isUniform = transform.type() <= QTransform::TxScale && transform.m11() == transform.m22();
     return isUniform && transform.m11() > 0 ? transform.m11() : painter.device()->devicePixelRatioF();
 }
@@ -19,7 +19,7 @@ qreal onPixel(qreal points, qreal scale) {
 
 void drawPixels(QPainter& painter, QPointF origin, const QImage& image) {
     const qreal scale = image.devicePixelRatio();
-    const QTransform transform = painter.deviceTransform();
+    const QTransform& transform = painter.deviceTransform();
     const bool isScaledOnly =
         transform.type() == QTransform::TxScale && transform.m11() == scale && transform.m22() == scale;
     if (!isScaledOnly) {

@@ -3,6 +3,7 @@
 #include "Platform/Graphics/Bitmap.h"
 #include "Platform/Graphics/DevicePixels.h"
 #include "Platform/Graphics/NineSlice.h"
+#include "Platform/Graphics/PreparedPicture.h"
 
 #include <QCache>
 #include <QPainter>
@@ -49,7 +50,7 @@ void fade(QImage& image, float opacity) {
 struct Image::Data {
     Description description;
     std::map<int, QImage> bitmaps;
-    QCache<DrawnKey, QImage> drawn{drawnPictures};
+    QCache<DrawnKey, PreparedPicture> drawn{drawnPictures};
 
     const QImage& representation(qreal scale);
     QImage render(const DrawnKey& key, qreal scale);
@@ -131,27 +132,32 @@ Image Image::faded(float opacity) const {
     return copy;
 }
 
-QImage Image::bitmap(QSizeF size, qreal scale) const {
+const PreparedPicture* Image::picture(QSizeF size, qreal scale, float opacity) const {
     const QSize pixels = (size * scale).toSize();
     if (isNull() || pixels.isEmpty())
-        return {};
-    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring, m_opacity};
-    if (const QImage* known = m_data->drawn.object(key))
-        return *known;
-    auto* const drawn = new QImage(m_data->render(key, scale));
-    drawn->setDevicePixelRatio(scale);
-    QImage result = *drawn;
-    m_data->drawn.insert(key, drawn);
-    return result;
+        return nullptr;
+    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring,
+                       m_opacity * opacity};
+    if (const PreparedPicture* known = m_data->drawn.object(key))
+        return known;
+    QImage drawn = m_data->render(key, scale);
+    drawn.setDevicePixelRatio(scale);
+    m_data->drawn.insert(key, new PreparedPicture(std::move(drawn)));
+    return m_data->drawn.object(key);
 }
 
-void Image::draw(QPainter& painter, const QRectF& target) const {
+QImage Image::bitmap(QSizeF size, qreal scale) const {
+    const PreparedPicture* const drawn = picture(size, scale, 1);
+    return drawn != nullptr ? drawn->image() : QImage();
+}
+
+void Image::draw(QPainter& painter, const QRectF& target, float opacity) const {
     const qreal scale = pixelsPerPoint(painter);
     const QPointF origin(onPixel(target.left(), scale), onPixel(target.top(), scale));
     const QSizeF size(onPixel(target.right(), scale) - origin.x(),
                       onPixel(target.bottom(), scale) - origin.y());
-    if (const QImage picture = bitmap(size, scale); !picture.isNull())
-        drawPixels(painter, origin, picture);
+    if (const PreparedPicture* const drawn = picture(size, scale, opacity))
+        drawn->draw(painter, origin);
 }
 
 } // namespace platform

@@ -17,6 +17,8 @@ class QRectF;
 
 namespace platform {
 
+class PreparedPicture;
+
 /// A bitmap with several resolutions, drawn at any size: its corners keep theirs, what lies between is
 /// stretched or tiled. A value whose copies share their pixels and what they have drawn. Main thread.
 class Image {
@@ -62,8 +64,9 @@ public:
     /// A copy that is `opacity` times as opaque, from 0 to 1.
     Image faded(float opacity) const;
 
-    /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred.
-    void draw(QPainter& painter, const QRectF& target) const;
+    /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred. `opacity`,
+    /// from 0 to 1, spares a faded copy.
+    void draw(QPainter& painter, const QRectF& target, float opacity = 1) const;
 
     /// The picture of `size` points at `scale` pixels a point, kept for the next call with the same
     /// arguments. Null if the size is empty.
@@ -71,6 +74,9 @@ public:
 
 private:
     struct Data;
+
+    /// Null if there is nothing to draw. Valid until another picture is drawn.
+    const PreparedPicture* picture(QSizeF size, qreal scale, float opacity) const;
 
     std::shared_ptr<Data> m_data;
     std::optional<QRgb> m_tint;

@@ -83,12 +83,12 @@ void PreparedText::make(const Made& made) const {
     painter.setPen(QColor::fromRgba(made.color));
     const QPointF baseline(overhang, onPixel(overhang + m_ascent, made.scale));
     painter.drawText(baseline, shown);
-    if (made.showsMnemonic && m_mnemonic >= 0)
+    if (made.showsMnemonic && hasMnemonic())
         underlineMnemonic(painter, baseline);
     painter.end();
     const QRect ink = inkBounds(line);
     m_inkOrigin = ink.topLeft();
-    m_picture = line.copy(ink);
+    m_picture = PreparedPicture(line.copy(ink));
     m_made = made;
 }
 
@@ -105,7 +105,7 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look)
         x = rect.right() - m_shownWidth;
     const qreal baseline = onPixel(rect.center().y() + m_capHeight / 2, scale);
     const qreal top = baseline - onPixel(overhang + m_ascent, scale);
-    drawPixels(painter, QPointF(onPixel(x - overhang, scale), top) + QPointF(m_inkOrigin) / scale, m_picture);
+    m_picture.draw(painter, QPointF(onPixel(x - overhang, scale), top) + QPointF(m_inkOrigin) / scale);
 }
 
 void PreparedText::underlineMnemonic(QPainter& painter, QPointF baseline) const {

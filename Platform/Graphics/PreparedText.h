@@ -1,7 +1,8 @@
 #pragma once
 
+#include "Platform/Graphics/PreparedPicture.h"
+
 #include <QFont>
-#include <QImage>
 #include <QRectF>
 #include <QString>
 
@@ -26,6 +27,8 @@ public:
     void set(const QString& text, const QFont& font);
 
     const QString& text() const { return m_text; }
+
+    bool hasMnemonic() const { return m_mnemonic >= 0; }
 
     /// In points; the height is the font's line height, made even.
     QSizeF size() const { return m_size; }
@@ -55,8 +58,8 @@ private:
     qreal m_ascent = 0;
     qreal m_capHeight = 0;
     qsizetype m_mnemonic = -1;
-    mutable QImage m_picture;   // of the ink only
-    mutable QPoint m_inkOrigin; // in the line's room, in pixels
+    mutable PreparedPicture m_picture; // of the ink only
+    mutable QPoint m_inkOrigin;        // in the line's room, in pixels
     mutable std::optional<Made> m_made;
     mutable qreal m_shownWidth = 0; // of the text or of what the ellipsis leaves of it
 };
