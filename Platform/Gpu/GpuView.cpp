@@ -2,8 +2,8 @@
 
 #include "Platform/Core/MainThread.h"
 #include "Platform/Gpu/GpuDevice.h"
+#include "Platform/Graphics/DevicePixels.h"
 
-#include <QPaintEngine>
 #include <QPainter>
 #include <QTimerEvent>
 
@@ -13,23 +13,16 @@ namespace platform {
 
 namespace {
 
-/// The memory behind `rect` of the painter's widget, if it is of `size` and all of it may be painted: null
-/// unless the painter paints pixels of an image as they are.
-QImage pixelsBehind(QPainter& painter, const QRect& rect, QSize size) {
-    const QPaintEngine& engine = *painter.paintEngine();
-    if (engine.type() != QPaintEngine::Raster || engine.paintDevice()->devType() != QInternal::Image)
-        return {};
-    auto& image = static_cast<QImage&>(*engine.paintDevice());
-    const bool is32Bit =
-        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied;
-    const QRectF mapped = painter.deviceTransform().mapRect(QRectF(rect));
+/// The memory behind `rect`, in points; null unless all of it may be painted, and pixel for pixel.
+QImage pixelsBehind(const QPainter& painter, const QRectF& rect, qreal scale) {
+    const auto memory = paintedMemory(painter, scale);
+    const QRectF mapped = painter.deviceTransform().mapRect(rect);
     const QRect pixels = mapped.toRect();
-    const bool isWhole = QRectF(pixels) == mapped && pixels.size() == size && image.rect().contains(pixels) &&
-                         painter.deviceTransform().type() <= QTransform::TxScale;
-    if (!is32Bit || !isWhole || !(QRegion(pixels) - engine.systemClip()).isEmpty() || painter.hasClipping())
+    if (!memory || QRectF(pixels) != mapped || !memory->bounds.contains(pixels))
         return {};
-    return {image.scanLine(pixels.y()) + qsizetype(4) * pixels.x(), size.width(), size.height(),
-            image.bytesPerLine(), QImage::Format_RGB32};
+    QRgb* const first = memory->pixels + pixels.y() * memory->stride + pixels.x();
+    return {reinterpret_cast<uchar*>(first), pixels.width(), pixels.height(),
+            memory->stride * static_cast<qsizetype>(sizeof(QRgb)), QImage::Format_RGB32};
 }
 
 } // namespace
@@ -124,12 +117,13 @@ void GpuView::paintEvent(QPaintEvent*) {
 
 // True if the frame is where the painter would put it already.
 bool GpuView::drawFrame(QPainter& painter) {
-    QImage pixels = m_drawable ? pixelsBehind(painter, rect(), m_drawable->size()) : QImage();
+    QImage pixels = m_drawable ? pixelsBehind(painter, rect(), devicePixelRatioF()) : QImage();
     const std::size_t before = m_drawable ? m_drawable->frames() : 0;
-    if (!pixels.isNull())
+    const bool isDirect = !pixels.isNull() && pixels.size() == m_drawable->size();
+    if (isDirect)
         m_drawable->setDestination(&pixels);
     m_delegate->draw(*this);
-    if (pixels.isNull() || !m_drawable)
+    if (!isDirect || !m_drawable)
         return false;
     m_drawable->setDestination(nullptr);
     return m_drawable->frames() != before;

@@ -1,5 +1,6 @@
 #include "Platform/Graphics/DevicePixels.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QTransform>
 
@@ -11,6 +12,25 @@ qreal pixelsPerPoint(const QPainter& painter) {
     const QTransform& transform = painter.deviceTransform();
     const bool isUniform = transform.type() <= QTransform::TxScale && transform.m11() == transform.m22();
     return isUniform && transform.m11() > 0 ? transform.m11() : painter.device()->devicePixelRatioF();
+}
+
+std::optional<PaintedMemory> paintedMemory(const QPainter& painter, qreal scale) {
+    const QTransform& transform = painter.deviceTransform();
+    const QPaintEngine& engine = *painter.paintEngine();
+    if (transform.type() > QTransform::TxScale || transform.m11() != scale || transform.m22() != scale ||
+        painter.hasClipping() || painter.opacity() < 1 ||
+        painter.compositionMode() != QPainter::CompositionMode_SourceOver ||
+        engine.type() != QPaintEngine::Raster || engine.paintDevice()->devType() != QInternal::Image)
+        return std::nullopt;
+    const auto& image = static_cast<const QImage&>(*engine.paintDevice());
+    const QRegion clip = engine.systemClip();
+    if ((image.format() != QImage::Format_RGB32 && image.format() != QImage::Format_ARGB32_Premultiplied) ||
+        clip.rectCount() > 1)
+        return std::nullopt;
+    // The engine's own pointer: to ask for writable bits would part the image from a copy that shares them.
+    auto* const pixels = reinterpret_cast<QRgb*>(const_cast<uchar*>(image.constBits()));
+    return PaintedMemory{pixels, image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb)),
+                         clip.isEmpty() ? image.rect() : clip.boundingRect() & image.rect()};
 }
 
 qreal onPixel(qreal points, qreal scale) {

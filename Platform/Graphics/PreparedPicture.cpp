@@ -2,7 +2,6 @@
 
 #include "Platform/Graphics/DevicePixels.h"
 
-#include <QPaintEngine>
 #include <QPainter>
 
 #include <algorithm>
@@ -96,23 +95,6 @@ NOTELOFT_VECTOR_CLONES void drawRows(const Source& source, const QRect& part, QR
     }
 }
 
-/// The picture in memory that `painter` draws on, if it does no more to a picture of `scale` than to place
-/// it.
-QImage* plainTarget(const QPainter& painter, qreal scale) {
-    const QTransform& transform = painter.deviceTransform();
-    if (transform.type() > QTransform::TxScale || transform.m11() != scale || transform.m22() != scale ||
-        painter.hasClipping() || painter.opacity() < 1 ||
-        painter.compositionMode() != QPainter::CompositionMode_SourceOver ||
-        painter.paintEngine()->type() != QPaintEngine::Raster)
-        return nullptr;
-    QPaintDevice* const device = painter.paintEngine()->paintDevice();
-    if (device->devType() != QInternal::Image)
-        return nullptr;
-    auto* const image = static_cast<QImage*>(device);
-    const QImage::Format format = image->format();
-    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied ? image : nullptr;
-}
-
 PictureRow partsOf(const QRgb* row, int width) {
     int begin = 0;
     while (begin < width && row[begin] == 0)
@@ -148,23 +130,17 @@ PreparedPicture::PreparedPicture(QImage image)
 }
 
 void PreparedPicture::draw(QPainter& painter, QPointF origin) const {
-    if (QImage* const target = plainTarget(painter, m_image.devicePixelRatio())) {
-        const QRegion clip = painter.paintEngine()->systemClip();
-        if (clip.rectCount() <= 1) {
-            const QRect bounds = clip.isEmpty() ? target->rect() : clip.boundingRect() & target->rect();
-            draw(*target, bounds, painter.deviceTransform().map(origin).toPoint());
-            return;
-        }
+    const auto memory = paintedMemory(painter, m_image.devicePixelRatio());
+    if (!memory) {
+        drawPixels(painter, origin, m_image);
+        return;
     }
-    drawPixels(painter, origin, m_image);
-}
-
-void PreparedPicture::draw(QImage& target, const QRect& clip, QPoint position) const {
-    const QRect part = QRect(position, m_image.size()) & clip;
-    const qsizetype stride = target.bytesPerLine() / 4;
-    auto* const pixels = reinterpret_cast<QRgb*>(target.bits()) + position.y() * stride + position.x();
+    const QPoint position = painter.deviceTransform().map(origin).toPoint();
+    const QRect part = QRect(position, m_image.size()) & memory->bounds;
     const auto* const own = reinterpret_cast<const QRgb*>(m_image.constBits());
-    drawRows({m_rows.data(), own, m_image.bytesPerLine() / 4}, part.translated(-position), pixels, stride);
+    drawRows({m_rows.data(), own, m_image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))},
+             part.translated(-position), memory->pixels + position.y() * memory->stride + position.x(),
+             memory->stride);
 }
 
 } // namespace platform

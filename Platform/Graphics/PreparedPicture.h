@@ -28,8 +28,6 @@ public:
     void draw(QPainter& painter, QPointF origin) const;
 
 private:
-    void draw(QImage& target, const QRect& clip, QPoint position) const;
-
     QImage m_image;
     std::vector<PictureRow> m_rows;
 };
