@@ -21,8 +21,14 @@ public:
         values().insert(&widget, std::move(value));
     }
 
+    /// Takes the value of `widget` away, so that what holds around it holds for it too.
+    static void unset(QWidget& widget) {
+        requireMainThread();
+        values().remove(&widget);
+    }
+
     /// The value of the nearest of `widget` and its ancestors, beyond window borders too; null if none has
-    /// one. Valid until the next `set`. Costs nothing while nobody has set a value.
+    /// one. Valid until the next `set` or `unset`. Costs nothing while nobody has set a value.
     static const T* find(const QWidget* widget) {
         const QHash<const QWidget*, T>& known = values();
         if (known.isEmpty())

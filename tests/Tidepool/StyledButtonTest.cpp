@@ -261,6 +261,8 @@ TEST(StyleSet, HoldsForAWindowAndGivesWayToAnOwnStyle) {
     button.setButtonStyle(styled(Qt::blue));
     EXPECT_EQ(color(button), QColor(Qt::blue));
     button.setButtonStyle(nullptr);
+    StyleSet::apply(group, nullptr);
+    EXPECT_EQ(color(button), QColor(Qt::red)) << "what lies around holds again";
     button.setParent(nullptr);
     EXPECT_EQ(color(button), sharedStyle<ButtonCellStyle>().textColor());
     StyleSet::apply(window, nullptr);
