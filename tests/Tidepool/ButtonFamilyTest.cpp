@@ -65,6 +65,18 @@ TEST(BackButton, StaysHiddenIfItWasTransparentBeforeItsWindowWasShown) {
     EXPECT_TRUE(button->isHidden());
 }
 
+TEST(BackButton, IsNoWindowBeforeItHasOne) {
+    BackButton button(QStringLiteral("Back"));
+    button.setAlphaValue(0.4);
+    EXPECT_FALSE(button.isVisible());
+    QWidget window;
+    button.setParent(&window);
+    show(window);
+    EXPECT_TRUE(button.isVisible());
+    window.close();
+    button.setParent(nullptr);
+}
+
 TEST(BackButton, PointsToWhereLinesBegin) {
     BackButton button;
     button.resize(60, 28);
