@@ -48,8 +48,25 @@ PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
     setMenu(std::make_unique<Menu>());
 }
 
+PopUpButton::~PopUpButton() {
+    discardMenu();
+}
+
+/// A menu that tells of a choice is not done when everybody has heard of it.
+void PopUpButton::discardMenu() {
+    const bool isBusy = std::exchange(m_isChoosing, false);
+    if (!isBusy || m_menu == nullptr) {
+        delete m_menu;
+        return;
+    }
+    m_menu->disconnect(this);
+    m_menu->removeEventFilter(this);
+    m_menu->setParent(nullptr);
+    m_menu->deleteLater();
+}
+
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
-    delete m_menu;
+    discardMenu();
     m_selected = nullptr;
     m_menu = menu.release();
     PushButton::setMenu(m_menu);
@@ -57,7 +74,7 @@ void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
         // A child, which goes with the button, and yet a window of its own.
         m_menu->setParent(this, m_menu->windowFlags());
         m_menu->installEventFilter(this);
-        connect(m_menu, &Menu::willSendAction, this, &PopUpButton::choose);
+        connect(m_menu, &Menu::willSendAction, this, &PopUpButton::beginChoice);
         connect(m_menu, &Menu::didSendAction, this, &PopUpButton::finishChoice);
         for (MenuItem* item : m_menu->items())
             makeRoomForMark(*item);
@@ -159,6 +176,11 @@ void PopUpButton::choose(MenuItem* item) {
     Q_EMIT itemChosen(item);
 }
 
+void PopUpButton::beginChoice(MenuItem* item) {
+    m_isChoosing = true;
+    choose(item);
+}
+
 void PopUpButton::chooseAndSend(MenuItem* item) {
     const QPointer<PopUpButton> self(this);
     choose(item);
@@ -167,8 +189,11 @@ void PopUpButton::chooseAndSend(MenuItem* item) {
 }
 
 void PopUpButton::finishChoice(MenuItem* item) {
+    const QPointer<PopUpButton> self(this);
     if (!item->action)
         sendAction();
+    if (self)
+        m_isChoosing = false;
 }
 
 void PopUpButton::selectNextItem(QObject*) {

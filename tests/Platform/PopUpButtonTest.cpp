@@ -257,6 +257,28 @@ TEST_F(PopUpButtonTest, MayBeDestroyedByItsChoice) {
     EXPECT_TRUE(m_owner.selected.isEmpty());
 }
 
+TEST_F(PopUpButtonTest, MayBeRefilledAndDestroyedByAChoiceInItsMenu) {
+    fill(QStringLiteral("AB"));
+    QObject::connect(&m_button, &PopUpButton::itemChosen, &m_button, [this] {
+        m_button.setMenu(std::make_unique<Menu>());
+        m_button.addItem(QStringLiteral("New"));
+    });
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    chooseInMenu(m_button, *m_button.itemArray()[1]);
+    EXPECT_EQ(m_button.title(), QStringLiteral("New"));
+    EXPECT_FALSE(m_button.cell().isHighlighted());
+
+    const QPointer<PopUpButton> doomed(new PopUpButton(false, &m_window));
+    doomed->addItem(QStringLiteral("A"));
+    doomed->setGeometry(10, 10, 120, 24);
+    doomed->show();
+    QObject::connect(doomed, &PopUpButton::itemChosen, doomed, [doomed] { delete doomed.data(); });
+    QTest::mousePress(doomed, Qt::LeftButton);
+    chooseInMenu(*doomed, *doomed->itemArray()[0]);
+    EXPECT_EQ(doomed, nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 TEST_F(PopUpButtonTest, TheMnemonicOfItsLabelOpensTheMenu) {
     fill(QStringLiteral("AB"));
     QLabel label(QStringLiteral("&Choice"), &m_window);
