@@ -173,7 +173,8 @@ bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
 
 void PopUpButton::choose(MenuItem* item) {
     selectItem(item);
-    Q_EMIT itemChosen(item);
+    if (item != nullptr)
+        Q_EMIT itemChosen(item);
 }
 
 void PopUpButton::beginChoice(MenuItem* item) {

@@ -241,7 +241,9 @@ TEST_F(PopUpButtonTest, CyclingSkipsWhatCannotBeChosenAndWrapsToWhatIsThere) {
 }
 
 TEST_F(PopUpButtonTest, CyclingWrapsWithinOneItemAndNone) {
+    QSignalSpy choices(&m_button, &PopUpButton::itemChosen);
     EXPECT_EQ(cycled(next), QString());
+    EXPECT_EQ(choices.count(), 0) << "there is nothing to choose";
     EXPECT_EQ(m_button.indexOfSelectedItem(), -1);
     fill(QStringLiteral("Ab"));
     EXPECT_EQ(cycled(next), QStringLiteral("A"));
