@@ -27,10 +27,15 @@ bool isSelectable(const MenuItem* item) {
     return item->isEnabled() && !item->isSeparator();
 }
 
+/// What a user can choose: an item with a submenu only opens it.
+bool isChoice(const MenuItem* item) {
+    return isSelectable(item) && item->submenu() == nullptr;
+}
+
 /// Null for none.
 template <typename Iterator>
-MenuItem* firstSelectable(Iterator begin, Iterator end) {
-    const auto found = std::find_if(begin, end, isSelectable);
+MenuItem* first(Iterator begin, Iterator end, bool (*condition)(const MenuItem*)) {
+    const auto found = std::find_if(begin, end, condition);
     return found != end ? *found : nullptr;
 }
 
@@ -199,7 +204,7 @@ void PopUpButton::finishChoice(MenuItem* item) {
 
 void PopUpButton::selectNextItem(QObject*) {
     const auto items = itemArray();
-    MenuItem* next = firstSelectable(items.begin() + (indexOfSelectedItem() + 1), items.end());
+    MenuItem* next = first(items.begin() + (indexOfSelectedItem() + 1), items.end(), isSelectable);
     if (next == nullptr)
         next = items.value(0);
     chooseAndSend(next);
@@ -210,7 +215,7 @@ void PopUpButton::selectPreviousItem(QObject*) {
     if (selected < 0)
         fatalError("selectPreviousItem: no item is selected");
     const auto items = itemArray();
-    MenuItem* previous = firstSelectable(items.rend() - selected, items.rend());
+    MenuItem* previous = first(items.rend() - selected, items.rend(), isSelectable);
     chooseAndSend(previous != nullptr ? previous : items.back());
 }
 
@@ -218,8 +223,8 @@ void PopUpButton::step(int from, int by) {
     if (m_pullsDown)
         return;
     const auto items = itemArray();
-    MenuItem* const item = by > 0 ? firstSelectable(items.begin() + from, items.end())
-                                  : firstSelectable(items.rend() - from, items.rend());
+    MenuItem* const item = by > 0 ? first(items.begin() + from, items.end(), isChoice)
+                                  : first(items.rend() - from, items.rend(), isChoice);
     if (item != nullptr && item != m_selected)
         item->trigger();
 }
@@ -228,7 +233,7 @@ void PopUpButton::selectTyped(const QString& text) {
     const auto items = itemArray();
     QStringList titles;
     for (const MenuItem* item : items)
-        titles << (isSelectable(item) ? item->title() : QString());
+        titles << (isChoice(item) ? item->title() : QString());
     const auto index = m_typeAhead.find(text, titles, indexOfSelectedItem());
     if (index >= 0 && index != indexOfSelectedItem())
         items[index]->trigger();

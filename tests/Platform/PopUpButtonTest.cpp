@@ -281,6 +281,16 @@ TEST_F(PopUpButtonTest, MayBeRefilledAndDestroyedByAChoiceInItsMenu) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+TEST_F(PopUpButtonTest, KeysPassOverWhatOnlyOpensASubmenu) {
+    fill(QStringLiteral("ABC"));
+    MenuItem& folder = *m_button.itemArray()[1];
+    folder.setSubmenu(std::make_unique<Menu>());
+    folder.submenu()->addItem(QStringLiteral("inner"));
+    EXPECT_EQ(keyed(Qt::Key_Down), QStringLiteral("C"));
+    EXPECT_EQ(keyed(Qt::Key_B), QStringLiteral("C"));
+    EXPECT_EQ(keyed(Qt::Key_Up), QStringLiteral("A"));
+}
+
 TEST_F(PopUpButtonTest, TheMnemonicOfItsLabelOpensTheMenu) {
     fill(QStringLiteral("AB"));
     QLabel label(QStringLiteral("&Choice"), &m_window);
