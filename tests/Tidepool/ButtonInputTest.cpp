@@ -164,6 +164,23 @@ TYPED_TEST(ButtonInputTest, KeyboardPresses) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return this->m_target.count == 2; }));
 }
 
+TYPED_TEST(ButtonInputTest, DisablingAndHidingCancelWhatTheKeyboardHasPressed) {
+    QSignalSpy clicks(this->m_button.data(), &QAbstractButton::clicked);
+    for (const bool hides : {false, true}) {
+        this->m_button->setFocus();
+        QTest::keyClick(this->m_button, Qt::Key_Return);
+        hides ? this->m_button->hide() : this->m_button->setEnabled(false);
+        QTest::qWait(150);
+        this->m_button->setEnabled(true);
+        this->m_button->show();
+        EXPECT_FALSE(this->m_button->isDown());
+        EXPECT_EQ(clicks.count(), 0) << hides;
+        EXPECT_EQ(this->m_target.count, 0);
+    }
+    QTest::keyClick(this->m_button, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return this->m_target.count == 1; })) << "and then it works again";
+}
+
 TYPED_TEST(ButtonInputTest, TouchPresses) {
     const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
     const auto finger = [&] { return QTest::touchEvent(&this->m_window, screen.get()); };
