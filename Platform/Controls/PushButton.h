@@ -66,6 +66,9 @@ public:
     /// The menu that users can open from the button, or null.
     virtual QMenu* offeredMenu() const { return menu(); }
 
+    /// Whether the menu key does something on the button.
+    virtual bool answersMenuKey() const { return offeredMenu() != nullptr; }
+
     QWidget& view() override { return *this; }
 
     QSize sizeHint() const override;
