@@ -153,6 +153,12 @@ TYPED_TEST(ButtonInputTest, MayBeDestroyedWhilePressedAndByItsAction) {
     EXPECT_EQ(this->m_button, nullptr);
 }
 
+TYPED_TEST(ButtonInputTest, MayBeDestroyedByItsPress) {
+    QObject::connect(this->m_button, &QAbstractButton::pressed, [this] { delete this->m_button.data(); });
+    this->press();
+    EXPECT_EQ(this->m_button, nullptr);
+}
+
 TYPED_TEST(ButtonInputTest, KeyboardPresses) {
     QTest::keyClick(&this->m_field, Qt::Key_Tab);
     ASSERT_TRUE(this->m_button->hasFocus());
