@@ -216,6 +216,11 @@ TEST(FavouriteCheckBox, ShowsItsStarAndDimsWhileHeld) {
     EXPECT_EQ(star.alphaValue(), 1);
     EXPECT_EQ(star.state(), ControlState::on);
     EXPECT_GT(difference(empty, picture(star)), 100);
+    const QImage full = picture(star);
+    QTest::keyPress(&star, Qt::Key_Space);
+    EXPECT_GT(difference(full, picture(star)), 60) << "the keyboard's press shows, too";
+    QTest::keyRelease(&star, Qt::Key_Space);
+    EXPECT_LE(difference(empty, picture(star)), 1);
 }
 
 TEST(FavouriteCheckBox, StandsOnWholePoints) {
