@@ -7,7 +7,7 @@
 
 namespace tidepool {
 
-/// What can be a control's target: a QObject with a slot for the action. Main thread.
+/// What can be the target of a control with a handler: a QObject with a slot for the action. Main thread.
 class ActionReceiver : public QObject {
     Q_OBJECT
 
@@ -15,6 +15,16 @@ public:
     static constexpr platform::Selector actionWithSenderSelector{"actionWithSender"};
 
     Q_INVOKABLE virtual void actionWithSender(QObject* sender) = 0;
+};
+
+/// The same for a control with a publisher.
+class ControlActionReceiver : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr platform::Selector controlActionWithSenderSelector{"controlActionWithSender"};
+
+    Q_INVOKABLE virtual void controlActionWithSender(QObject* sender) = 0;
 };
 
 /// The action's sender as what its receiver expects; a sender of another type stops the program.

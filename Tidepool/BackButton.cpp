@@ -7,7 +7,8 @@ BackButton::BackButton(const QString& title, QWidget* parent)
 
 void BackButton::setAlphaValue(qreal alpha) {
     StyledButton::setAlphaValue(alpha);
-    if (alpha > 0 && isHidden())
+    // One that nobody has hidden would become a window of its own if it is not in one yet.
+    if (alpha > 0 && isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide))
         show();
     else if (alpha == 0)
         hide(); // also one that was never shown, which its window would show

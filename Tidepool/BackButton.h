@@ -22,7 +22,7 @@ public:
         return QRectF(rect()).marginsRemoved(alignmentRectInsets());
     }
 
-    /// Its cell toggles, but there is nothing to see or to tell of that.
+    /// Its cell toggles, which every other time makes the title greyer, but there is nothing to tell of that.
     bool showsState() const override { return false; }
 };
 

@@ -1,12 +1,25 @@
 #include "Tidepool/FavouriteCheckBox.h"
 
+#include <QPainter>
+
 namespace tidepool {
+
+namespace {
+
+constexpr qreal held = 0.5;
+
+} // namespace
 
 FavouriteCheckBox::FavouriteCheckBox(QWidget* parent)
     : StyledCheckBox({}, std::make_unique<FavouriteCheckBoxCell>(), parent) {}
 
+void FavouriteCheckBox::draw(QPainter& painter) {
+    if (isDown() && !isTracking())
+        painter.setOpacity(painter.opacity() * held);
+    StyledCheckBox::draw(painter);
+}
+
 void FavouriteCheckBox::beginTracking(QMouseEvent& event) {
-    constexpr qreal held = 0.5;
     setAlphaValue(held);
     StyledCheckBox::beginTracking(event);
 }

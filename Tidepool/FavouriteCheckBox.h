@@ -13,6 +13,9 @@ public:
     explicit FavouriteCheckBox(QWidget* parent = nullptr);
 
 protected:
+    /// As opaque as while the pointer holds it, also while the keyboard does.
+    void draw(QPainter& painter) override;
+
     void beginTracking(QMouseEvent& event) override;
     void endTracking() override;
 };

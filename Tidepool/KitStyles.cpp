@@ -65,6 +65,8 @@ void applyAccent(ControlStyle& style, const QColor& accent) {
         slider->setBarImages(recolored(slider->barImages(), accent));
         slider->setKnobImages(recolored(slider->knobImages(), accent));
     }
+    if (auto* const table = dynamic_cast<TableViewStyle*>(&style))
+        table->setSelectedRowBackgroundColor(accent);
     style.setSelectedBackgroundColor(accent);
     style.setFocusRingColor(accent);
 }

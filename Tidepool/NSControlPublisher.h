@@ -40,20 +40,22 @@ private:
 
 /// What the control keeps: its target, and with it the publisher.
 template <CombineCompatible Control>
-class ControlPublisherTarget : public ActionReceiver {
+class ControlPublisherTarget : public ControlActionReceiver {
 public:
+    static QString key() { return QStringLiteral("PublisherHelperKey"); }
+
     explicit ControlPublisherTarget(Control& control)
         : m_publisher(std::make_shared<NSControlPublisher<Control>>(control)) {
         setParent(&control);
-        setObjectName(QStringLiteral("PublisherHelperKey"));
-        control.setAction(actionWithSenderSelector, this);
+        setObjectName(key());
+        control.setAction(controlActionWithSenderSelector, this);
     }
 
     ~ControlPublisherTarget() override { m_publisher->finish(); }
 
     const std::shared_ptr<NSControlPublisher<Control>>& publisher() const { return m_publisher; }
 
-    void actionWithSender(QObject* sender) override { m_publisher->send(senderAs<Control>(sender)); }
+    void controlActionWithSender(QObject* sender) override { m_publisher->send(senderAs<Control>(sender)); }
 
 private:
     const std::shared_ptr<NSControlPublisher<Control>> m_publisher;
@@ -61,13 +63,15 @@ private:
 
 /// The one publisher of `control`. The first call makes it the control's target, in place of any other; a
 /// target that is set later silences it. Always call it with the same static type: a control has one
-/// publisher, and one of another type takes its place.
+/// publisher, and one of another type takes its place and ends it.
 template <CombineCompatible Control>
 std::shared_ptr<NSControlPublisher<Control>> publisher(Control& control) {
     using Target = ControlPublisherTarget<Control>;
-    for (QObject* const child : control.children())
-        if (const auto* target = dynamic_cast<Target*>(child))
-            return target->publisher();
+    auto* const known =
+        control.template findChild<ControlActionReceiver*>(Target::key(), Qt::FindDirectChildrenOnly);
+    if (const auto* const target = dynamic_cast<Target*>(known))
+        return target->publisher();
+    const std::unique_ptr<QObject> former(known);
     return (new Target(control))->publisher();
 }
 

@@ -15,7 +15,10 @@ using Environment = platform::Environment<std::shared_ptr<const StyleSet>>;
 } // namespace
 
 void StyleSet::apply(QWidget& root, std::shared_ptr<const StyleSet> set) {
-    Environment::set(root, std::move(set));
+    if (set)
+        Environment::set(root, std::move(set));
+    else
+        Environment::unset(root);
     const auto refresh = [](QWidget& widget) {
         widget.updateGeometry();
         widget.update();

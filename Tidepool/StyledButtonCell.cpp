@@ -22,13 +22,13 @@ QRectF StyledButtonCell::imageRect(const QRectF& bounds) const {
     const QRectF inner = bounds.marginsRemoved(imageEdgeInsets());
     if (imagePosition() == platform::ImagePosition::imageOnly)
         return integral(inner);
-    return integral(verticallyCentered(ButtonCell::imageRect(inner), inner));
+    return integral(verticallyCentered(ButtonCell::imageRect(inner), bounds));
 }
 
 QRectF StyledButtonCell::titleRect(const QRectF& bounds) const {
     const QRectF inner = bounds.marginsRemoved(titleEdgeInsets());
     const QRectF title = ButtonCell::titleRect(inner);
-    return integral(m_verticallyCenterTitle ? verticallyCentered(title, inner) : title);
+    return integral(m_verticallyCenterTitle ? verticallyCentered(title, bounds) : title);
 }
 
 void StyledButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {

@@ -23,11 +23,13 @@ public:
 
     void setSelected(bool selected) { m_selected = selected; }
 
+    /// Whether the title stands in the middle, whatever is kept free above and below it.
     bool verticallyCenterTitle() const { return m_verticallyCenterTitle; }
 
     void setVerticallyCenterTitle(bool centers) { m_verticallyCenterTitle = centers; }
 
-    /// What the style keeps free around the image, the title and the content of a framed cell.
+    /// What the style keeps free around the image, the title and the content of a framed cell. An image
+    /// beside a title stands in the middle all the same.
     virtual const QMarginsF& imageEdgeInsets() const { return style().imageEdgeInsets(); }
 
     virtual const QMarginsF& titleEdgeInsets() const { return style().titleEdgeInsets(); }

@@ -41,12 +41,12 @@ QSizeF ToolButton::intrinsicContentSize() const {
 }
 
 void ToolButton::beginTracking(QMouseEvent& event) {
-    StyledButton::beginTracking(event);
     const bool isSingleClick = event.type() == QEvent::MouseButtonPress;
     if (m_secondaryAction && isSingleClick)
         m_hold.start(QApplication::doubleClickInterval());
     else
         m_hold.stop();
+    StyledButton::beginTracking(event); // last: who hears of the press may destroy the button
 }
 
 void ToolButton::sendSecondaryAction() {

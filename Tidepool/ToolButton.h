@@ -30,6 +30,10 @@ public:
 
     QSizeF intrinsicContentSize() const override;
 
+    bool answersMenuKey() const override {
+        return StyledButton::answersMenuKey() || m_secondaryAction.has_value();
+    }
+
 protected:
     void beginTracking(QMouseEvent& event) override;
     bool popUpMenu(const QMouseEvent& press) override;

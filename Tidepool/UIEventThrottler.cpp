@@ -1,5 +1,6 @@
 #include "Tidepool/UIEventThrottler.h"
 
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -13,7 +14,7 @@ using Clock = std::chrono::steady_clock;
 /// Outlives its throttler while a closure runs, so that nobody waits for it.
 struct UIEventThrottler::Timer {
     explicit Timer(std::chrono::duration<double> seconds)
-        : interval(std::chrono::duration_cast<Clock::duration>(seconds)) {}
+        : interval(std::max(std::chrono::duration_cast<Clock::duration>(seconds), Clock::duration(1))) {}
 
     const Clock::duration interval;
     std::mutex mutex; // guards what follows: the caller's thread and the timer's
@@ -28,19 +29,31 @@ struct UIEventThrottler::Timer {
         while (!isReleased) {
             if (!deadline)
                 changed.wait(lock);
-            else if (changed.wait_until(lock, *deadline) == std::cv_status::timeout)
+            else if (const auto due = *deadline; changed.wait_until(lock, due) == std::cv_status::timeout)
                 fireIfDue(lock);
         }
     }
 
     void fireIfDue(std::unique_lock<std::mutex>& lock) {
-        if (!deadline || Clock::now() < *deadline)
+        const auto now = Clock::now();
+        if (!deadline || now < *deadline)
             return;
-        *deadline += interval;
-        const auto current = work;
+        // What a long run or a sleeping machine has missed is not made up for.
+        *deadline += ((now - *deadline) / interval + 1) * interval;
+        auto current = work;
         lock.unlock();
         current();
+        current = nullptr; // what it captured may end this timer
         lock.lock();
+    }
+
+    /// The closure before, to be destroyed without the lock.
+    [[nodiscard]] std::function<void()> replace(std::function<void()> next,
+                                                std::optional<Clock::time_point> due) {
+        const std::lock_guard lock(mutex);
+        deadline = due;
+        changed.notify_all();
+        return std::exchange(work, std::move(next));
     }
 };
 
@@ -48,24 +61,21 @@ UIEventThrottler::UIEventThrottler(std::chrono::duration<double> interval)
     : m_timer(std::make_shared<Timer>(interval)) {}
 
 UIEventThrottler::~UIEventThrottler() {
+    cancel();
     const std::lock_guard lock(m_timer->mutex);
     m_timer->isReleased = true;
     m_timer->changed.notify_all();
 }
 
 void UIEventThrottler::throttle(std::function<void()> work) {
+    const auto former = m_timer->replace(std::move(work), Clock::now() + m_timer->interval);
     const std::lock_guard lock(m_timer->mutex);
-    m_timer->work = std::move(work);
-    m_timer->deadline = Clock::now() + m_timer->interval;
     if (!std::exchange(m_timer->hasThread, true))
         std::thread([timer = m_timer] { timer->run(); }).detach();
-    m_timer->changed.notify_all();
 }
 
 void UIEventThrottler::cancel() {
-    const std::lock_guard lock(m_timer->mutex);
-    m_timer->deadline.reset();
-    m_timer->changed.notify_all();
+    const auto former = m_timer->replace(nullptr, std::nullopt);
 }
 
 } // namespace tidepool

@@ -7,7 +7,8 @@
 namespace tidepool {
 
 /// Runs the last of a burst of closures when the burst is over, on a background thread, and then again after
-/// each interval until it is told otherwise: a closure that wants to run once cancels. All calls on one
+/// each interval until it is told otherwise: a closure that wants to run once cancels. Runs that a long one
+/// has kept from their time are left out. All calls on one
 /// thread, except that the closure may cancel or release the throttler.
 class UIEventThrottler {
 public:
@@ -19,7 +20,7 @@ public:
     /// Forgets what was given before and waits anew.
     void throttle(std::function<void()> work);
 
-    /// No closure begins after this, though one that runs already goes on.
+    /// No closure begins after this, and what was given is forgotten; a closure that runs already goes on.
     void cancel();
 
 private:

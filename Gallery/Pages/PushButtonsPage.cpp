@@ -81,6 +81,7 @@ void addInsets(Section& section, const GallerySettings& settings) {
             button.setFixedHeight(height);
             button.setFixedWidth(96);
             button.vantorCell().setTitleEdgeInsets(insets);
+            button.vantorCell().setVerticallyCenterTitle(insets.isNull());
             button.setSelected(settings.isSelected);
         });
     };

@@ -27,10 +27,15 @@ bool isSelectable(const MenuItem* item) {
     return item->isEnabled() && !item->isSeparator();
 }
 
+/// What a user can choose: an item with a submenu only opens it.
+bool isChoice(const MenuItem* item) {
+    return isSelectable(item) && item->submenu() == nullptr;
+}
+
 /// Null for none.
 template <typename Iterator>
-MenuItem* firstSelectable(Iterator begin, Iterator end) {
-    const auto found = std::find_if(begin, end, isSelectable);
+MenuItem* first(Iterator begin, Iterator end, bool (*condition)(const MenuItem*)) {
+    const auto found = std::find_if(begin, end, condition);
     return found != end ? *found : nullptr;
 }
 
@@ -48,8 +53,25 @@ PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
     setMenu(std::make_unique<Menu>());
 }
 
+PopUpButton::~PopUpButton() {
+    discardMenu();
+}
+
+/// A menu that tells of a choice is not done when everybody has heard of it.
+void PopUpButton::discardMenu() {
+    const bool isBusy = std::exchange(m_isChoosing, false);
+    if (!isBusy || m_menu == nullptr) {
+        delete m_menu;
+        return;
+    }
+    m_menu->disconnect(this);
+    m_menu->removeEventFilter(this);
+    m_menu->setParent(nullptr);
+    m_menu->deleteLater();
+}
+
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
-    delete m_menu;
+    discardMenu();
     m_selected = nullptr;
     m_menu = menu.release();
     PushButton::setMenu(m_menu);
@@ -57,7 +79,7 @@ void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
         // A child, which goes with the button, and yet a window of its own.
         m_menu->setParent(this, m_menu->windowFlags());
         m_menu->installEventFilter(this);
-        connect(m_menu, &Menu::willSendAction, this, &PopUpButton::choose);
+        connect(m_menu, &Menu::willSendAction, this, &PopUpButton::beginChoice);
         connect(m_menu, &Menu::didSendAction, this, &PopUpButton::finishChoice);
         for (MenuItem* item : m_menu->items())
             makeRoomForMark(*item);
@@ -156,7 +178,13 @@ bool PopUpButton::eventFilter(QObject* watched, QEvent* event) {
 
 void PopUpButton::choose(MenuItem* item) {
     selectItem(item);
-    Q_EMIT itemChosen(item);
+    if (item != nullptr)
+        Q_EMIT itemChosen(item);
+}
+
+void PopUpButton::beginChoice(MenuItem* item) {
+    m_isChoosing = true;
+    choose(item);
 }
 
 void PopUpButton::chooseAndSend(MenuItem* item) {
@@ -167,13 +195,16 @@ void PopUpButton::chooseAndSend(MenuItem* item) {
 }
 
 void PopUpButton::finishChoice(MenuItem* item) {
+    const QPointer<PopUpButton> self(this);
     if (!item->action)
         sendAction();
+    if (self)
+        m_isChoosing = false;
 }
 
 void PopUpButton::selectNextItem(QObject*) {
     const auto items = itemArray();
-    MenuItem* next = firstSelectable(items.begin() + (indexOfSelectedItem() + 1), items.end());
+    MenuItem* next = first(items.begin() + (indexOfSelectedItem() + 1), items.end(), isSelectable);
     if (next == nullptr)
         next = items.value(0);
     chooseAndSend(next);
@@ -184,7 +215,7 @@ void PopUpButton::selectPreviousItem(QObject*) {
     if (selected < 0)
         fatalError("selectPreviousItem: no item is selected");
     const auto items = itemArray();
-    MenuItem* previous = firstSelectable(items.rend() - selected, items.rend());
+    MenuItem* previous = first(items.rend() - selected, items.rend(), isSelectable);
     chooseAndSend(previous != nullptr ? previous : items.back());
 }
 
@@ -192,8 +223,8 @@ void PopUpButton::step(int from, int by) {
     if (m_pullsDown)
         return;
     const auto items = itemArray();
-    MenuItem* const item = by > 0 ? firstSelectable(items.begin() + from, items.end())
-                                  : firstSelectable(items.rend() - from, items.rend());
+    MenuItem* const item = by > 0 ? first(items.begin() + from, items.end(), isChoice)
+                                  : first(items.rend() - from, items.rend(), isChoice);
     if (item != nullptr && item != m_selected)
         item->trigger();
 }
@@ -202,7 +233,7 @@ void PopUpButton::selectTyped(const QString& text) {
     const auto items = itemArray();
     QStringList titles;
     for (const MenuItem* item : items)
-        titles << (isSelectable(item) ? item->title() : QString());
+        titles << (isChoice(item) ? item->title() : QString());
     const auto index = m_typeAhead.find(text, titles, indexOfSelectedItem());
     if (index >= 0 && index != indexOfSelectedItem())
         items[index]->trigger();

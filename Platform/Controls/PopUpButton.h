@@ -20,6 +20,7 @@ class PopUpButton : public PushButton {
 
 public:
     explicit PopUpButton(bool pullsDown = false, QWidget* parent = nullptr);
+    ~PopUpButton() override;
 
     /// True if the first item is the title, which the menu does not show.
     bool pullsDown() const { return m_pullsDown; }
@@ -83,12 +84,14 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void discardMenu();
     void makeRoomForMark(MenuItem& item) const;
     void selectFirstItem();
     void itemAdded(MenuItem& item);
     void itemsChanged();
     int titleOverhang() const;
     void choose(MenuItem* item);
+    void beginChoice(MenuItem* item);
     void chooseAndSend(MenuItem* item);
     void finishChoice(MenuItem* item);
     void step(int from, int by);
@@ -96,6 +99,7 @@ private:
 
     const bool m_pullsDown;
     Menu* m_menu = nullptr;
+    bool m_isChoosing = false;    // while an item of the menu sends its action
     QPointer<QAction> m_selected; // what is left of an item that is being destroyed is no item
     TypeAhead m_typeAhead;
 };

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 
 #include <cmath>
 #include <utility>
@@ -99,7 +100,7 @@ QSize PushButton::sizeHint() const {
 }
 
 void PushButton::nextCheckState() {
-    if (m_cell->showsStateBy() != ButtonCell::none)
+    if (!m_isPressOver && m_cell->showsStateBy() != ButtonCell::none)
         setState(m_cell->nextState());
 }
 
@@ -210,6 +211,23 @@ void PushButton::changeEvent(QEvent* event) {
     QAbstractButton::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
         updateGeometry();
+}
+
+void PushButton::hideEvent(QHideEvent* event) {
+    setDown(false);
+    QAbstractButton::hideEvent(event);
+}
+
+/// Qt clicks a while after Return or the mnemonic, also if the button was disabled or hidden meanwhile.
+void PushButton::timerEvent(QTimerEvent* event) {
+    if (isDown()) {
+        QAbstractButton::timerEvent(event);
+        return;
+    }
+    const QSignalBlocker nobodyHears(this);
+    m_isPressOver = true;
+    QAbstractButton::timerEvent(event);
+    m_isPressOver = false;
 }
 
 } // namespace platform

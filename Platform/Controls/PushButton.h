@@ -66,6 +66,9 @@ public:
     /// The menu that users can open from the button, or null.
     virtual QMenu* offeredMenu() const { return menu(); }
 
+    /// Whether the menu key does something on the button.
+    virtual bool answersMenuKey() const { return offeredMenu() != nullptr; }
+
     QWidget& view() override { return *this; }
 
     QSize sizeHint() const override;
@@ -113,6 +116,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     void menuClosed();
@@ -121,6 +126,7 @@ private:
     QPointer<QMenu> m_menu;
     QPointer<QMenu> m_openMenu; // while it is open
     qreal m_alphaValue = 1;
+    bool m_isPressOver = false;                  // while Qt clicks for a press that has ended
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
 };
 

@@ -3,6 +3,8 @@
 #include "Platform/Controls/PushButton.h"
 
 #include <QAccessibleWidget>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QMenu>
 
 namespace platform {
@@ -20,6 +22,8 @@ public:
     }
 
     QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Accelerator && !m_button.shortcut().isEmpty())
+            return m_button.shortcut().toString(QKeySequence::NativeText);
         const QString own = QAccessibleWidget::text(kind);
         return kind == QAccessible::Name && own.isEmpty() ? m_button.cell().plainTitle() : own;
     }
@@ -35,18 +39,37 @@ public:
     }
 
     QStringList actionNames() const override {
-        return m_button.isEnabled() ? QStringList{m_button.showsState() ? toggleAction() : pressAction()}
-                                    : QStringList();
+        if (!m_button.isEnabled())
+            return {};
+        QStringList names{clickAction()};
+        if (m_button.answersMenuKey())
+            names << showMenuAction();
+        return names;
     }
 
     void doAction(const QString& name) override {
-        if (actionNames().contains(name))
+        if (!actionNames().contains(name))
+            QAccessibleWidget::doAction(name);
+        else if (name == clickAction())
             m_button.click();
         else
-            QAccessibleWidget::doAction(name);
+            pressMenuKey();
+    }
+
+    QStringList keyBindingsForAction(const QString& name) const override {
+        const QString keys = text(QAccessible::Accelerator);
+        return name == clickAction() && !keys.isEmpty() ? QStringList{keys} : QStringList();
     }
 
 private:
+    const QString& clickAction() const { return m_button.showsState() ? toggleAction() : pressAction(); }
+
+    void pressMenuKey() {
+        const QPoint center = m_button.rect().center();
+        QContextMenuEvent key(QContextMenuEvent::Keyboard, center, m_button.mapToGlobal(center));
+        QCoreApplication::sendEvent(&m_button, &key);
+    }
+
     PushButton& m_button;
 };
 

@@ -16,26 +16,43 @@ public:
     /// Replaces the value of `widget`, which is dropped with it.
     static void set(QWidget& widget, T value) {
         requireMainThread();
-        if (!values().contains(&widget))
-            QObject::connect(&widget, &QObject::destroyed, [key = &widget] { values().remove(key); });
-        values().insert(&widget, std::move(value));
+        const auto known = values().find(&widget);
+        if (known != values().end())
+            known->value = std::move(value);
+        else
+            values().insert(&widget, {std::move(value), removedWith(widget)});
+    }
+
+    /// Takes the value of `widget` away, so that what holds around it holds for it too.
+    static void unset(QWidget& widget) {
+        requireMainThread();
+        QObject::disconnect(values().take(&widget).removal);
     }
 
     /// The value of the nearest of `widget` and its ancestors, beyond window borders too; null if none has
-    /// one. Valid until the next `set`. Costs nothing while nobody has set a value.
+    /// one. Valid until the next `set` or `unset`. Costs nothing while nobody has set a value.
     static const T* find(const QWidget* widget) {
-        const QHash<const QWidget*, T>& known = values();
+        const auto& known = std::as_const(values());
         if (known.isEmpty())
             return nullptr;
         for (; widget != nullptr; widget = widget->parentWidget())
             if (const auto value = known.constFind(widget); value != known.constEnd())
-                return &*value;
+                return &value->value;
         return nullptr;
     }
 
 private:
-    static QHash<const QWidget*, T>& values() {
-        static QHash<const QWidget*, T> values;
+    struct Entry {
+        T value;
+        QMetaObject::Connection removal;
+    };
+
+    static QMetaObject::Connection removedWith(const QWidget& widget) {
+        return QObject::connect(&widget, &QObject::destroyed, [key = &widget] { values().remove(key); });
+    }
+
+    static QHash<const QWidget*, Entry>& values() {
+        static QHash<const QWidget*, Entry> values;
         return values;
     }
 };

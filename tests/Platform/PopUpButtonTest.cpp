@@ -241,7 +241,9 @@ TEST_F(PopUpButtonTest, CyclingSkipsWhatCannotBeChosenAndWrapsToWhatIsThere) {
 }
 
 TEST_F(PopUpButtonTest, CyclingWrapsWithinOneItemAndNone) {
+    QSignalSpy choices(&m_button, &PopUpButton::itemChosen);
     EXPECT_EQ(cycled(next), QString());
+    EXPECT_EQ(choices.count(), 0) << "there is nothing to choose";
     EXPECT_EQ(m_button.indexOfSelectedItem(), -1);
     fill(QStringLiteral("Ab"));
     EXPECT_EQ(cycled(next), QStringLiteral("A"));
@@ -255,6 +257,38 @@ TEST_F(PopUpButtonTest, MayBeDestroyedByItsChoice) {
     QObject::connect(button, &PopUpButton::itemChosen, button, [button] { delete button; });
     button->selectNextItem();
     EXPECT_TRUE(m_owner.selected.isEmpty());
+}
+
+TEST_F(PopUpButtonTest, MayBeRefilledAndDestroyedByAChoiceInItsMenu) {
+    fill(QStringLiteral("AB"));
+    QObject::connect(&m_button, &PopUpButton::itemChosen, &m_button, [this] {
+        m_button.setMenu(std::make_unique<Menu>());
+        m_button.addItem(QStringLiteral("New"));
+    });
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    chooseInMenu(m_button, *m_button.itemArray()[1]);
+    EXPECT_EQ(m_button.title(), QStringLiteral("New"));
+    EXPECT_FALSE(m_button.cell().isHighlighted());
+
+    const QPointer<PopUpButton> doomed(new PopUpButton(false, &m_window));
+    doomed->addItem(QStringLiteral("A"));
+    doomed->setGeometry(10, 10, 120, 24);
+    doomed->show();
+    QObject::connect(doomed, &PopUpButton::itemChosen, doomed, [doomed] { delete doomed.data(); });
+    QTest::mousePress(doomed, Qt::LeftButton);
+    chooseInMenu(*doomed, *doomed->itemArray()[0]);
+    EXPECT_EQ(doomed, nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+TEST_F(PopUpButtonTest, KeysPassOverWhatOnlyOpensASubmenu) {
+    fill(QStringLiteral("ABC"));
+    MenuItem& folder = *m_button.itemArray()[1];
+    folder.setSubmenu(std::make_unique<Menu>());
+    folder.submenu()->addItem(QStringLiteral("inner"));
+    EXPECT_EQ(keyed(Qt::Key_Down), QStringLiteral("C"));
+    EXPECT_EQ(keyed(Qt::Key_B), QStringLiteral("C"));
+    EXPECT_EQ(keyed(Qt::Key_Up), QStringLiteral("A"));
 }
 
 TEST_F(PopUpButtonTest, TheMnemonicOfItsLabelOpensTheMenu) {

@@ -80,6 +80,11 @@ TEST(PushButton, TellsAssistiveTechnologyWhatItIs) {
     EXPECT_EQ(accessible(button).role(), QAccessible::Button);
     EXPECT_EQ(accessible(button).text(QAccessible::Name), QStringLiteral("Mute"));
     EXPECT_FALSE(accessible(button).state().checkable);
+    const QString keys = QKeySequence(Qt::ALT | Qt::Key_M).toString(QKeySequence::NativeText);
+    EXPECT_EQ(accessible(button).text(QAccessible::Accelerator), keys);
+    EXPECT_EQ(
+        accessible(button).actionInterface()->keyBindingsForAction(QAccessibleActionInterface::pressAction()),
+        QStringList{keys});
     button.setAccessibleName(QStringLiteral("Mute the track"));
     EXPECT_EQ(accessible(button).text(QAccessible::Name), QStringLiteral("Mute the track"));
 
@@ -101,6 +106,10 @@ TEST(PushButton, TellsAssistiveTechnologyWhatItIs) {
     opener.setMenu(&menu);
     EXPECT_EQ(accessible(opener).role(), QAccessible::ButtonMenu);
     EXPECT_TRUE(accessible(opener).state().hasPopup);
+    menu.addAction(QStringLiteral("Item"));
+    opener.show();
+    accessible(opener).actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(menu.isVisible());
 }
 
 TEST(PushButton, MenuKeyOpensItsMenu) {

@@ -65,6 +65,18 @@ TEST(BackButton, StaysHiddenIfItWasTransparentBeforeItsWindowWasShown) {
     EXPECT_TRUE(button->isHidden());
 }
 
+TEST(BackButton, IsNoWindowBeforeItHasOne) {
+    BackButton button(QStringLiteral("Back"));
+    button.setAlphaValue(0.4);
+    EXPECT_FALSE(button.isVisible());
+    QWidget window;
+    button.setParent(&window);
+    show(window);
+    EXPECT_TRUE(button.isVisible());
+    window.close();
+    button.setParent(nullptr);
+}
+
 TEST(BackButton, PointsToWhereLinesBegin) {
     BackButton button;
     button.resize(60, 28);
@@ -204,6 +216,11 @@ TEST(FavouriteCheckBox, ShowsItsStarAndDimsWhileHeld) {
     EXPECT_EQ(star.alphaValue(), 1);
     EXPECT_EQ(star.state(), ControlState::on);
     EXPECT_GT(difference(empty, picture(star)), 100);
+    const QImage full = picture(star);
+    QTest::keyPress(&star, Qt::Key_Space);
+    EXPECT_GT(difference(full, picture(star)), 60) << "the keyboard's press shows, too";
+    QTest::keyRelease(&star, Qt::Key_Space);
+    EXPECT_LE(difference(empty, picture(star)), 1);
 }
 
 TEST(FavouriteCheckBox, StandsOnWholePoints) {
@@ -268,6 +285,9 @@ TEST_F(ToolButtonTest, MenuKeyReachesWhatHoldingDoes) {
     QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
     QApplication::sendEvent(&m_button, &key);
     EXPECT_EQ(m_target.secondCount, 1);
+    QAccessible::queryAccessibleInterface(&m_button)->actionInterface()->doAction(
+        QAccessibleActionInterface::showMenuAction());
+    EXPECT_EQ(m_target.secondCount, 2) << "so does assistive technology";
     SpiedMenu menu;
     m_button.setMenu(&menu);
     QTest::mousePress(&m_button, Qt::RightButton);

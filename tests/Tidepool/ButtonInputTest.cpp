@@ -153,6 +153,12 @@ TYPED_TEST(ButtonInputTest, MayBeDestroyedWhilePressedAndByItsAction) {
     EXPECT_EQ(this->m_button, nullptr);
 }
 
+TYPED_TEST(ButtonInputTest, MayBeDestroyedByItsPress) {
+    QObject::connect(this->m_button, &QAbstractButton::pressed, [this] { delete this->m_button.data(); });
+    this->press();
+    EXPECT_EQ(this->m_button, nullptr);
+}
+
 TYPED_TEST(ButtonInputTest, KeyboardPresses) {
     QTest::keyClick(&this->m_field, Qt::Key_Tab);
     ASSERT_TRUE(this->m_button->hasFocus());
@@ -162,6 +168,23 @@ TYPED_TEST(ButtonInputTest, KeyboardPresses) {
     EXPECT_EQ(this->m_target.count, 1);
     QTest::keyClick(this->m_button, Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([this] { return this->m_target.count == 2; }));
+}
+
+TYPED_TEST(ButtonInputTest, DisablingAndHidingCancelWhatTheKeyboardHasPressed) {
+    QSignalSpy clicks(this->m_button.data(), &QAbstractButton::clicked);
+    for (const bool hides : {false, true}) {
+        this->m_button->setFocus();
+        QTest::keyClick(this->m_button, Qt::Key_Return);
+        hides ? this->m_button->hide() : this->m_button->setEnabled(false);
+        QTest::qWait(150);
+        this->m_button->setEnabled(true);
+        this->m_button->show();
+        EXPECT_FALSE(this->m_button->isDown());
+        EXPECT_EQ(clicks.count(), 0) << hides;
+        EXPECT_EQ(this->m_target.count, 0);
+    }
+    QTest::keyClick(this->m_button, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return this->m_target.count == 1; })) << "and then it works again";
 }
 
 TYPED_TEST(ButtonInputTest, TouchPresses) {

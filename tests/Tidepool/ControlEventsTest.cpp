@@ -99,6 +99,23 @@ TEST(NSControlPublisher, TheLastTargetWins) {
     EXPECT_EQ(published, 1);
 }
 
+TEST(NSControlPublisher, OfAnotherTypeTakesThePlaceOfTheFormer) {
+    StyledCheckBox box;
+    int ends = 0;
+    const auto former = statePublisher(box)->sink([](ControlState) {}, [&](auto&) { ++ends; });
+    int published = 0;
+    const auto general =
+        publisher<platform::PushButton>(box)->sink([&](platform::PushButton* const&) { ++published; });
+    EXPECT_EQ(ends, 1) << "a control has one publisher";
+    box.click();
+    EXPECT_EQ(published, 1);
+    int again = 0;
+    const auto latter = publisher(box)->sink([&](StyledCheckBox* const&) { ++again; });
+    box.click();
+    EXPECT_EQ(again, 1);
+    EXPECT_STREQ(box.action()->name, "controlActionWithSender");
+}
+
 TEST(FocusOnOutput, GivesTheKeyboardToAViewThatIsShown) {
     QWidget window;
     QLineEdit first(&window);

@@ -91,6 +91,36 @@ TEST(UIEventThrottler, ClosureMayCancelOrRelease) {
     EXPECT_EQ(runs, 2);
 }
 
+TEST(UIEventThrottler, SkipsWhatALongRunHasMissed) {
+    std::atomic<int> runs = 0;
+    UIEventThrottler throttler(20ms);
+    throttler.throttle([&] {
+        if (++runs == 1)
+            std::this_thread::sleep_for(600ms);
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return runs >= 2; }));
+    QTest::qWait(40);
+    EXPECT_LT(runs, 20) << "not all 30 at once";
+    throttler.cancel();
+}
+
+TEST(UIEventThrottler, LetsGoOfAClosureThatNoLongerRuns) {
+    const auto captured = std::make_shared<int>();
+    UIEventThrottler throttler(1h);
+    throttler.throttle([captured] {});
+    throttler.throttle([captured] {});
+    EXPECT_EQ(captured.use_count(), 2);
+    throttler.cancel();
+    EXPECT_EQ(captured.use_count(), 1);
+
+    // Its own closure is all that keeps this one.
+    auto kept = std::make_shared<UIEventThrottler>(1ms);
+    const std::weak_ptr observed = kept;
+    kept->throttle([kept] { kept->cancel(); });
+    kept.reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return observed.expired(); }));
+}
+
 TEST(DateUtil, CountsTheDistanceInEitherDirection) {
     const auto now = QDateTime::currentDateTimeUtc();
     for (const int seconds : {-10, 10}) {

@@ -3,6 +3,7 @@
 #include "Tidepool/CheckBoxCellStyle.h"
 #include "Tidepool/StyledCheckBox.h"
 #include "Tidepool/TPColors.h"
+#include "Tidepool/TableViewStyle.h"
 #include "tests/support/Pixels.h"
 
 #include <gtest/gtest.h>
@@ -63,4 +64,6 @@ TEST(KitStyles, SetHasEveryStyleInItsAppearance) {
     EXPECT_EQ(style->appearanceName(), Appearance::light);
     EXPECT_EQ(style->focusRingColor(), QColor(Qt::red));
     EXPECT_NE(style->textColor(), TPColors::grey85.color());
+    EXPECT_EQ(set->get<TableViewStyle>()->selectedRowBackgroundColor(), QColor(Qt::red));
+    EXPECT_EQ(set->get<OutlineViewStyle>()->selectedRowBackgroundColor(), QColor(Qt::red));
 }

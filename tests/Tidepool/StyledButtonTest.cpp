@@ -86,7 +86,7 @@ TEST(StyledButtonCell, GeometryFollowsTheInsetsOfTheStyle) {
     const auto style = std::make_shared<ButtonCellStyle>();
     style->setEdgeInsets({3, 1, 2, 4});
     style->setImageEdgeInsets({1, -1, 0, 1});
-    style->setTitleEdgeInsets({4, 0, 0, 0});
+    style->setTitleEdgeInsets({4, 6, 0, 0});
     StyledButtonCell cell;
     cell.setStyle(style);
     const QRectF bounds(0, 0, 100.5, 31);
@@ -102,7 +102,11 @@ TEST(StyledButtonCell, GeometryFollowsTheInsetsOfTheStyle) {
     cell.setTitle(QStringLiteral("Title"));
     const QRectF image = cell.imageRect(QRectF(0, 0, 100, 31));
     EXPECT_EQ(image.size(), QSizeF(16, 16));
-    EXPECT_EQ(image.top(), 6) << "the middle of what the insets leave, without its fraction";
+    EXPECT_EQ(image.top(), 7) << "the middle of the bounds, without its fraction, whatever the insets";
+    const auto titleMiddle = [&] { return cell.titleRect(QRectF(0, 0, 100, 31)).center().y(); };
+    EXPECT_NEAR(titleMiddle(), 15.5, 1);
+    cell.setVerticallyCenterTitle(false);
+    EXPECT_NEAR(titleMiddle(), 18.5, 1) << "the middle of what the insets leave";
     cell.setLayoutDirection(Qt::RightToLeft);
     EXPECT_GT(cell.imageRect(QRectF(0, 0, 100, 31)).left(),
               cell.titleRect(QRectF(0, 0, 100, 31)).right() - 1);
@@ -261,6 +265,8 @@ TEST(StyleSet, HoldsForAWindowAndGivesWayToAnOwnStyle) {
     button.setButtonStyle(styled(Qt::blue));
     EXPECT_EQ(color(button), QColor(Qt::blue));
     button.setButtonStyle(nullptr);
+    StyleSet::apply(group, nullptr);
+    EXPECT_EQ(color(button), QColor(Qt::red)) << "what lies around holds again";
     button.setParent(nullptr);
     EXPECT_EQ(color(button), sharedStyle<ButtonCellStyle>().textColor());
     StyleSet::apply(window, nullptr);
