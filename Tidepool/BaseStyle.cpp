@@ -1,9 +1,9 @@
 #include "Tidepool/BaseStyle.h"
 
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Styles.h"
 
 namespace tidepool {
 
-BaseStyle::BaseStyle() : m_backgroundColor(TPColors::Background::normal) {}
+BaseStyle::BaseStyle() : m_backgroundColor(Styles::BaseStyles::background) {}
 
 } // namespace tidepool

@@ -8,7 +8,7 @@
 namespace tidepool {
 
 ButtonCellStyle::ButtonCellStyle() {
-    setBackgroundColor(QColor(Styles::Control::clear));
+    setBackgroundColor(QColor(Styles::BaseStyles::clear));
     setFont(Styles::Control::mediumFont());
     setBezelImages(
         {{normal, TPImages::button}, {on, PushButtonImages::selected}, {highlighted, TPImages::buttonDown}});

@@ -11,7 +11,7 @@ SegmentedCellStyle::SegmentedCellStyle() : m_segmentPadding(insets(0, 21, 0, 21)
     setTextColor(Styles::PropertiesTab::text);
     setSelectedTextColor(Styles::PropertiesTab::selectedText);
     setHighlightedTextColor(Styles::PropertiesTab::highlightedText);
-    setBackgroundColor(QColor(Styles::Control::clear));
+    setBackgroundColor(QColor(Styles::BaseStyles::clear));
     setBezelImages({{normal, WindowTabImages::normal},
                     {selected, WindowTabImages::selected},
                     {highlighted, WindowTabImages::down}});

@@ -9,7 +9,7 @@ namespace tidepool {
 
 TextFieldCellStyle::TextFieldCellStyle()
     : m_placeholderTextColor(Styles::TextInput::placeholder),
-      m_placeholderBackground(QColor(Styles::Control::clear)),
+      m_placeholderBackground(QColor(Styles::BaseStyles::clear)),
       m_padding(insets(2, 6, 2, 6)) {
     setHighlightedTextColor(Styles::TextInput::highlightedText);
     setInvalidTextColor(Styles::Control::error);

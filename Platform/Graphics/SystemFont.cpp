@@ -1,7 +1,10 @@
 #include "Platform/Graphics/SystemFont.h"
 
+#include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
 
 namespace platform {
@@ -16,6 +19,14 @@ QFont font(const QStringList& families, qreal size, QFont::Weight weight) {
     return font;
 }
 
+bool hasEqualDigits(const QFont& font) {
+    const QFontMetricsF metrics(font);
+    const QString digits = QStringLiteral("0123456789");
+    return std::all_of(digits.begin(), digits.end(), [&](QChar digit) {
+        return metrics.horizontalAdvance(digit) == metrics.horizontalAdvance(u'0');
+    });
+}
+
 } // namespace
 
 QFont systemFont(qreal size, QFont::Weight weight, FontDesign design) {
@@ -27,6 +38,13 @@ QFont systemFont(qreal size, QFont::Weight weight, FontDesign design) {
     const QString rounded =
         weight == QFont::Medium ? QStringLiteral("Quicksand Medium") : QStringLiteral("Quicksand");
     return font({rounded, standard, general}, size, weight);
+}
+
+QFont monospacedDigitSystemFont(qreal size, QFont::Weight weight) {
+    for (const QString& family : systemFont(size, weight).families())
+        if (const QFont face = customFont(family, size, weight); hasEqualDigits(face))
+            return face;
+    return customFont(QFontDatabase::systemFont(QFontDatabase::FixedFont).family(), size, weight);
 }
 
 QFont customFont(const QString& family, qreal size, QFont::Weight weight) {

@@ -8,6 +8,7 @@
 
 using platform::customFont;
 using platform::FontDesign;
+using platform::monospacedDigitSystemFont;
 using platform::systemFont;
 
 TEST(SystemFont, HasItsSizeInPointsAndItsWeight) {
@@ -31,6 +32,16 @@ TEST(SystemFont, RoundedDesignHasAFaceForEachWeight) {
     };
     EXPECT_LT(width(QFont::Medium), width(QFont::Bold));
     EXPECT_NE(width(QFont::Medium), width(QFont::Normal));
+}
+
+TEST(SystemFont, DigitsOfOneWidthKeepNumbersStill) {
+    for (const int size : {10, 13, 40}) {
+        const QFont font = monospacedDigitSystemFont(size, QFont::Medium);
+        EXPECT_EQ(QFontInfo(font).pixelSize(), size);
+        const QFontMetricsF metrics(font);
+        for (const QChar digit : QStringLiteral("0123456789"))
+            EXPECT_EQ(metrics.horizontalAdvance(digit), metrics.horizontalAdvance(u'8')) << size;
+    }
 }
 
 TEST(SystemFont, EndsWithTheDesktopsOwnFont) {
