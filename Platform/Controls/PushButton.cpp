@@ -112,8 +112,16 @@ void PushButton::draw(QPainter& painter) {
     cell().draw(painter, QRectF(rect()));
 }
 
+// The view's font and colours would cost a fourteenth of a repaint, and no cell asks for them.
+void PushButton::initPainter(QPainter* painter) const {
+    if (!m_isPainting)
+        QAbstractButton::initPainter(painter);
+}
+
 void PushButton::paintEvent(QPaintEvent*) {
+    m_isPainting = true;
     QPainter painter(this);
+    m_isPainting = false;
     painter.setOpacity(m_alphaValue);
     draw(painter);
     if (showsFocus())

@@ -82,6 +82,7 @@ protected:
     /// What a click does, whichever way it was made: sends the action.
     virtual void performClick();
 
+    /// Draws the cell. The painter is as new: it has neither the button's font nor its colours.
     virtual void draw(QPainter& painter);
 
     /// Shows that the keyboard is on the button: a ring within `focusRingMaskBounds`.
@@ -110,6 +111,7 @@ protected:
 
     void nextCheckState() override;
     void paintEvent(QPaintEvent* event) override;
+    void initPainter(QPainter* painter) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -128,6 +130,7 @@ private:
     qreal m_alphaValue = 1;
     bool m_isPressOver = false;                  // while Qt clicks for a press that has ended
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
+    bool m_isPainting = false;                   // while the painter is made
 };
 
 } // namespace platform
