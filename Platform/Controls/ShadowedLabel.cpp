@@ -37,9 +37,10 @@ QImage ShadowedLabel::render(qreal scale) const {
 void ShadowedLabel::paintEvent(QPaintEvent*) {
     if (auto look = std::tuple(text(), font(), size(), devicePixelRatioF()); look != m_renderedLook) {
         m_renderedLook = std::move(look);
-        m_rendered = render(devicePixelRatioF());
+        m_rendered = PreparedPicture(render(devicePixelRatioF()));
     }
-    QPainter(this).drawImage(QPointF(), m_rendered);
+    QPainter painter(this);
+    m_rendered.draw(painter, {});
 }
 
 } // namespace platform

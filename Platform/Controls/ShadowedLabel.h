@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Graphics/DropShadow.h"
+#include "Platform/Graphics/PreparedPicture.h"
 
 #include <QLabel>
 
@@ -31,7 +32,7 @@ private:
     std::vector<DropShadow> m_shadows;
     int m_margin;
     std::tuple<QString, QFont, QSize, qreal> m_renderedLook;
-    QImage m_rendered;
+    PreparedPicture m_rendered;
 };
 
 } // namespace platform
