@@ -67,7 +67,6 @@ struct Styles {
     };
 
     struct TableView {
-        static constexpr auto background = TPColors::Background::darker;
         static constexpr qreal rowHeight = 24;
     };
 

@@ -44,6 +44,7 @@ public:
 
     const QString& title() const { return m_title; }
 
+    // A view tells its cell all of this before each paint: to compare costs less than to share it again.
     void setTitle(const QString& title) {
         if (title != m_title)
             m_title = title;

@@ -114,14 +114,14 @@ void PushButton::draw(QPainter& painter) {
 
 // The view's font and colours would cost a fourteenth of a repaint, and no cell asks for them.
 void PushButton::initPainter(QPainter* painter) const {
-    if (!m_isPainting)
+    if (!m_isMakingPainter)
         QAbstractButton::initPainter(painter);
 }
 
 void PushButton::paintEvent(QPaintEvent*) {
-    m_isPainting = true;
+    m_isMakingPainter = true;
     QPainter painter(this);
-    m_isPainting = false;
+    m_isMakingPainter = false;
     painter.setOpacity(m_alphaValue);
     draw(painter);
     if (showsFocus())

@@ -130,7 +130,7 @@ private:
     qreal m_alphaValue = 1;
     bool m_isPressOver = false;                  // while Qt clicks for a press that has ended
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
-    bool m_isPainting = false;                   // while the painter is made
+    bool m_isMakingPainter = false;
 };
 
 } // namespace platform

@@ -126,18 +126,11 @@ Image Image::recolored(const Recoloring& recoloring) const {
     return copy;
 }
 
-Image Image::faded(float opacity) const {
-    Image copy = *this;
-    copy.m_opacity *= opacity;
-    return copy;
-}
-
 const PreparedPicture* Image::picture(QSizeF size, qreal scale, float opacity) const {
     const QSize pixels = (size * scale).toSize();
     if (isNull() || pixels.isEmpty())
         return nullptr;
-    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring,
-                       m_opacity * opacity};
+    const DrawnKey key{pixels, static_cast<int>(std::lround(scale * 1000)), m_tint, m_recoloring, opacity};
     if (const PreparedPicture* known = m_data->drawn.object(key))
         return known;
     QImage drawn = m_data->render(key, scale);

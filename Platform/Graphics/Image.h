@@ -61,11 +61,8 @@ public:
     /// A copy with other colours; of a template, the same.
     Image recolored(const Recoloring& recoloring) const;
 
-    /// A copy that is `opacity` times as opaque, from 0 to 1.
-    Image faded(float opacity) const;
-
-    /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred. `opacity`,
-    /// from 0 to 1, spares a faded copy.
+    /// Fills `target`, whose edges are moved to the nearest pixels, so that nothing is blurred. It is
+    /// `opacity` times as opaque, from 0 to 1.
     void draw(QPainter& painter, const QRectF& target, float opacity = 1) const;
 
     /// The picture of `size` points at `scale` pixels a point, kept for the next call with the same
@@ -81,7 +78,6 @@ private:
     std::shared_ptr<Data> m_data;
     std::optional<QRgb> m_tint;
     std::optional<Recoloring> m_recoloring;
-    float m_opacity = 1;
     bool m_template = false;
 };
 

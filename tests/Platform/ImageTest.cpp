@@ -231,15 +231,22 @@ TEST_F(ImageFileTest, OnlyATemplateTakesAColor) {
         << "the template itself stays as it was";
 }
 
-TEST_F(ImageFileTest, FadedCopiesMultiply) {
+TEST_F(ImageFileTest, FadesInEachDrawingAlone) {
     auto description = frame();
     description.files = {{1, write("shape", {12, 12}, [](int, int) { return qRgba(200, 100, 0, 200); })}};
     const Image image(description);
-    const auto alpha = [](const Image& shown) { return qAlpha(shown.bitmap({12, 12}, 1).pixel(5, 5)); };
-    EXPECT_NEAR(alpha(image.faded(0.5F).faded(0.5F)), 50, 1);
-    EXPECT_NEAR(alpha(image.faded(0.5F)), 100, 1);
-    EXPECT_EQ(alpha(image), 200);
-    EXPECT_NEAR(qRed(qUnpremultiply(image.faded(0.5F).bitmap({12, 12}, 1).pixel(5, 5))), 200, 2);
+    const auto drawn = [&](float opacity) {
+        QImage target({12, 12}, QImage::Format_ARGB32_Premultiplied);
+        target.fill(Qt::transparent);
+        QPainter painter(&target);
+        image.draw(painter, QRectF(0, 0, 12, 12), opacity);
+        painter.end();
+        return target.pixel(5, 5);
+    };
+    EXPECT_NEAR(qAlpha(drawn(0.25F)), 50, 1);
+    EXPECT_NEAR(qAlpha(drawn(0.5F)), 100, 1);
+    EXPECT_EQ(qAlpha(drawn(1)), 200);
+    EXPECT_NEAR(qRed(qUnpremultiply(drawn(0.5F))), 200, 2);
 }
 
 TEST_F(ImageFileTest, WithoutPixelsDrawsNothing) {
