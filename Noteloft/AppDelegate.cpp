@@ -36,7 +36,7 @@ void AppDelegate::checkForUpdates(QObject*) {
 void AppDelegate::orderFrontStandardAboutPanel(QObject*) {
     platform::orderFrontStandardAboutPanel({
         tr("Qt %1, LGPL 3").arg(QString::fromLatin1(qVersion())),
-        tr("lilv, ISC · libepoxy, MIT · QCoro, MIT"),
+        tr("lilv, ISC · QCoro, MIT"),
         tr("Inter and Quicksand, SIL Open Font License"),
     });
 }

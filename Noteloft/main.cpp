@@ -3,6 +3,7 @@
 #include "Noteloft/NoteloftApp.h"
 #include "Noteloft/ResourceBundle.h"
 #include "Platform/Core/SingleInstance.h"
+#include "Platform/Gpu/GpuContext.h"
 #include "Platform/Graphics/Bitmap.h"
 #include "Platform/Graphics/SystemFont.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
@@ -76,6 +77,7 @@ int main(int argc, char** argv) {
     const bool isAlone = !options.screenshot.isEmpty();
     if (!isAlone && instance.handOver(options.urls))
         return 0;
+    platform::GpuContext::setKeptCurrent(true);
     // A screenshot has the waveform in it however long the graphics device takes.
     if (!isAlone)
         noteloft::ContentViewShader::prepare();

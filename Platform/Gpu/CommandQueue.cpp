@@ -2,9 +2,8 @@
 
 #include "Platform/Gpu/GpuDevice.h"
 #include "Platform/Gpu/GpuDrawable.h"
+#include "Platform/Gpu/OpenGL.h"
 #include "Platform/Gpu/RenderPipeline.h"
-
-#include <epoxy/gl.h>
 
 #include <utility>
 

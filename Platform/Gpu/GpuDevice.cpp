@@ -3,9 +3,8 @@
 #include "Platform/Core/MainQueue.h"
 #include "Platform/Gpu/CommandQueue.h"
 #include "Platform/Gpu/GpuLibrary.h"
+#include "Platform/Gpu/OpenGL.h"
 #include "Platform/Gpu/RenderPipeline.h"
-
-#include <epoxy/gl.h>
 
 #include <future>
 #include <mutex>

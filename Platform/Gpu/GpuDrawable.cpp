@@ -1,8 +1,7 @@
 #include "Platform/Gpu/GpuDrawable.h"
 
 #include "Platform/Gpu/GpuDevice.h"
-
-#include <epoxy/gl.h>
+#include "Platform/Gpu/OpenGL.h"
 
 #include <cstddef>
 #include <cstring>

@@ -2,30 +2,14 @@
 
 #include "Platform/Core/MainThread.h"
 #include "Platform/Gpu/GpuDevice.h"
-#include "Platform/Graphics/DevicePixels.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QTimerEvent>
 
 #include <utility>
 
 namespace platform {
-
-namespace {
-
-/// The memory behind `rect`, in points; null unless all of it may be painted, and pixel for pixel.
-QImage pixelsBehind(const QPainter& painter, const QRectF& rect, qreal scale) {
-    const auto memory = paintedMemory(painter, scale);
-    const QRectF mapped = painter.deviceTransform().mapRect(rect);
-    const QRect pixels = mapped.toRect();
-    if (!memory || QRectF(pixels) != mapped || !memory->bounds.contains(pixels))
-        return {};
-    QRgb* const first = memory->pixels + pixels.y() * memory->stride + pixels.x();
-    return {reinterpret_cast<uchar*>(first), pixels.width(), pixels.height(),
-            memory->stride * static_cast<qsizetype>(sizeof(QRgb)), QImage::Format_RGB32};
-}
-
-} // namespace
 
 GpuView::GpuView(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -97,7 +81,7 @@ std::optional<RenderPassDescriptor> GpuView::currentRenderPassDescriptor() {
     return m_drawable ? std::optional(RenderPassDescriptor{m_drawable.get()}) : std::nullopt;
 }
 
-void GpuView::paintEvent(QPaintEvent*) {
+void GpuView::paintEvent(QPaintEvent* event) {
     if (m_delegate == nullptr || !m_device)
         return;
     if (const QSizeF size = drawableSize(); size != m_announcedSize) {
@@ -105,19 +89,40 @@ void GpuView::paintEvent(QPaintEvent*) {
         m_delegate->drawableSizeWillChange(*this, size);
     }
     updateDrawable();
-    QPainter painter(this);
     // Parts of the view that are uncovered show the last frame; only a due frame costs drawing one.
-    const bool isShown = std::exchange(m_frameDue, false) && drawFrame(painter);
+    const bool isShown = std::exchange(m_frameDue, false) && drawFrame(*event);
     const QImage picture = isShown ? QImage() : image();
     if (!isShown)
-        painter.drawImage(rect(), picture);
+        QPainter(this).drawImage(rect(), picture);
     // What lies below need not be painted any more.
     setAttribute(Qt::WA_OpaquePaintEvent, isShown || !picture.isNull());
 }
 
+// The window's memory behind the view, found without beginning a painter for each frame; null unless all of
+// the view may be painted, and pixel for pixel.
+QImage GpuView::pixelsBehind(const QPaintEvent& event) const {
+    QPoint origin;
+    auto* const device = redirected(&origin);
+    if (sharedPainter() != nullptr || device == nullptr || device->devType() != QInternal::Image ||
+        event.rect() != rect() || event.region().rectCount() != 1)
+        return {};
+    const auto& image = static_cast<const QImage&>(*device);
+    const qreal scale = image.devicePixelRatio();
+    const QRectF place(-QPointF(origin) * scale, QSizeF(size()) * scale);
+    const QRect pixels = place.toRect();
+    const bool isKnown =
+        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied;
+    if (!isKnown || QRectF(pixels) != place || !image.rect().contains(pixels))
+        return {};
+    // The image's own pointer: to ask for writable bits would part it from a copy that shares them.
+    auto* const first = const_cast<uchar*>(image.constScanLine(pixels.y())) +
+                        static_cast<qsizetype>(sizeof(QRgb)) * pixels.x();
+    return {first, pixels.width(), pixels.height(), image.bytesPerLine(), QImage::Format_RGB32};
+}
+
 // True if the frame is where the painter would put it already.
-bool GpuView::drawFrame(QPainter& painter) {
-    QImage pixels = m_drawable ? pixelsBehind(painter, rect(), devicePixelRatioF()) : QImage();
+bool GpuView::drawFrame(const QPaintEvent& event) {
+    QImage pixels = m_drawable ? pixelsBehind(event) : QImage();
     const std::size_t before = m_drawable ? m_drawable->frames() : 0;
     const bool isDirect = !pixels.isNull() && pixels.size() == m_drawable->size();
     if (isDirect)
@@ -130,8 +135,10 @@ bool GpuView::drawFrame(QPainter& painter) {
 }
 
 void GpuView::timerEvent(QTimerEvent* event) {
-    if (event->timerId() == m_timer.timerId())
-        setNeedsDisplay();
+    if (event->timerId() != m_timer.timerId())
+        return;
+    m_frameDue = true;
+    repaint(); // at once: an update would wake the loop a second time
 }
 
 void GpuView::resizeEvent(QResizeEvent*) {

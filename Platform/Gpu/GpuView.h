@@ -77,7 +77,8 @@ protected:
 
 private:
     void updateDrawable();
-    bool drawFrame(QPainter& painter);
+    QImage pixelsBehind(const QPaintEvent& event) const;
+    bool drawFrame(const QPaintEvent& event);
     void updateTimer();
 
     std::shared_ptr<GpuDevice> m_device;

@@ -1,8 +1,7 @@
 #include "Platform/Gpu/RenderPipeline.h"
 
 #include "Platform/Gpu/GpuDevice.h"
-
-#include <epoxy/gl.h>
+#include "Platform/Gpu/OpenGL.h"
 
 #include <array>
 #include <utility>

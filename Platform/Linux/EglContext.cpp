@@ -1,9 +1,11 @@
 #include "Platform/Gpu/GpuContext.h"
+#include "Platform/Gpu/OpenGL.h"
 
-#include <epoxy/egl.h>
-#include <epoxy/gl.h>
+#include <EGL/egl.h>
+#include <EGL/eglext.h>
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace platform {
@@ -24,7 +26,10 @@ public:
     bool isSoftware() const override { return m_software; }
 
 protected:
-    void makeCurrent() override { eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, m_context); }
+    void makeCurrent() override {
+        if (eglGetCurrentContext() != m_context)
+            eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, m_context);
+    }
 
     void doneCurrent() override { eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT); }
 
@@ -39,22 +44,40 @@ EGLDisplay initialized(EGLDisplay display) {
                                                                                              : EGL_NO_DISPLAY;
 }
 
+/// True if the machine's EGL has an extension that needs no display.
+bool hasClientExtension(std::string_view extension) {
+    const char* const all = eglQueryString(EGL_NO_DISPLAY, EGL_EXTENSIONS);
+    return all != nullptr &&
+           (' ' + std::string(all) + ' ').find(' ' + std::string(extension) + ' ') != std::string::npos;
+}
+
+template <typename Function>
+Function extensionFunction(const char* name) {
+    return reinterpret_cast<Function>(eglGetProcAddress(name));
+}
+
+EGLDisplay platformDisplay(EGLenum platform, void* native) {
+    static const auto display =
+        extensionFunction<PFNEGLGETPLATFORMDISPLAYEXTPROC>("eglGetPlatformDisplayEXT");
+    return display != nullptr ? initialized(display(platform, native, nullptr)) : EGL_NO_DISPLAY;
+}
+
 EGLDisplay surfacelessDisplay() {
-    if (!epoxy_has_egl_extension(EGL_NO_DISPLAY, "EGL_MESA_platform_surfaceless"))
-        return EGL_NO_DISPLAY;
-    return initialized(eglGetPlatformDisplayEXT(EGL_PLATFORM_SURFACELESS_MESA, EGL_DEFAULT_DISPLAY, nullptr));
+    return hasClientExtension("EGL_MESA_platform_surfaceless")
+               ? platformDisplay(EGL_PLATFORM_SURFACELESS_MESA, EGL_DEFAULT_DISPLAY)
+               : EGL_NO_DISPLAY;
 }
 
 EGLDisplay deviceDisplay() {
-    if (!epoxy_has_egl_extension(EGL_NO_DISPLAY, "EGL_EXT_platform_device") ||
-        !epoxy_has_egl_extension(EGL_NO_DISPLAY, "EGL_EXT_device_enumeration"))
+    const auto queryDevices = extensionFunction<PFNEGLQUERYDEVICESEXTPROC>("eglQueryDevicesEXT");
+    if (queryDevices == nullptr || !hasClientExtension("EGL_EXT_platform_device") ||
+        !hasClientExtension("EGL_EXT_device_enumeration"))
         return EGL_NO_DISPLAY;
     std::array<EGLDeviceEXT, 8> devices{};
     EGLint count = 0;
-    eglQueryDevicesEXT(static_cast<EGLint>(devices.size()), devices.data(), &count);
+    queryDevices(static_cast<EGLint>(devices.size()), devices.data(), &count);
     for (EGLint i = 0; i < count; ++i) {
-        auto* const device = devices[static_cast<std::size_t>(i)];
-        auto* const display = initialized(eglGetPlatformDisplayEXT(EGL_PLATFORM_DEVICE_EXT, device, nullptr));
+        auto* const display = platformDisplay(EGL_PLATFORM_DEVICE_EXT, devices[static_cast<std::size_t>(i)]);
         if (display != EGL_NO_DISPLAY)
             return display;
     }
@@ -83,8 +106,6 @@ EGLContext contextOf(EGLDisplay display) {
 } // namespace
 
 std::unique_ptr<GpuContext> GpuContext::make() {
-    if (!epoxy_has_egl())
-        return nullptr;
     for (auto* const makeDisplay : {surfacelessDisplay, deviceDisplay}) {
         auto* const display = makeDisplay();
         if (display == EGL_NO_DISPLAY)

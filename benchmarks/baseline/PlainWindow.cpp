@@ -1,8 +1,8 @@
 // plain-window VERTEX FRAGMENT: the least that shows the waveform. A window without a toolkit and, in its
 // header, a child window with an OpenGL loop of 60 frames a second. The shaders write linear light; OpenGL
 // encodes it as it stores a pixel (GL_FRAMEBUFFER_SRGB), which costs no pass and no copy.
-#include <epoxy/gl.h>
-#include <epoxy/glx.h>
+#define GL_GLEXT_PROTOTYPES
+#include <GL/glx.h>
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -76,7 +76,9 @@ GLXContext makeContext(Display* display, GLXFBConfig configuration) {
                                 GLX_CONTEXT_MINOR_VERSION_ARB, 3,
                                 GLX_CONTEXT_PROFILE_MASK_ARB,  GLX_CONTEXT_CORE_PROFILE_BIT_ARB,
                                 static_cast<int>(None)};
-    return glXCreateContextAttribsARB(display, configuration, nullptr, True, attributes.data());
+    const auto create = reinterpret_cast<PFNGLXCREATECONTEXTATTRIBSARBPROC>(
+        glXGetProcAddress(reinterpret_cast<const GLubyte*>("glXCreateContextAttribsARB")));
+    return create != nullptr ? create(display, configuration, nullptr, True, attributes.data()) : nullptr;
 }
 
 /// Without a frame, as the application's window is.
