@@ -58,4 +58,9 @@ long Process::peakMemory() const {
     return statusNumber("/proc/" + std::to_string(m_id) + "/status", "VmHWM");
 }
 
+long Process::ownMemory() const {
+    const std::string status = "/proc/" + std::to_string(m_id) + "/status";
+    return statusNumber(status, "RssAnon") + statusNumber(status, "RssShmem");
+}
+
 } // namespace benchmark

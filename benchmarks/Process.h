@@ -31,6 +31,9 @@ public:
     /// The most memory that was resident at one time, in KiB.
     long peakMemory() const;
 
+    /// What is resident now and no file holds: what the program wrote or shares with the screen, in KiB.
+    long ownMemory() const;
+
 private:
     Clock::time_point m_started;
     pid_t m_id = 0;
