@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QScopedValueRollback>
 #include <QStyleOptionMenuItem>
 
 #include <utility>
@@ -92,6 +93,7 @@ void Menu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) 
 
 void Menu::keyPressEvent(QKeyEvent* event) {
     if (!m_typeAhead.takes(*event)) {
+        const QScopedValueRollback handling(m_isHandlingInput, true);
         QMenu::keyPressEvent(event);
         return;
     }
@@ -102,6 +104,11 @@ void Menu::keyPressEvent(QKeyEvent* event) {
     const auto index = m_typeAhead.find(event->text(), titles, all.indexOf(activeAction()));
     if (index >= 0)
         setActiveAction(all[index]);
+}
+
+void Menu::mouseReleaseEvent(QMouseEvent* event) {
+    const QScopedValueRollback handling(m_isHandlingInput, true);
+    QMenu::mouseReleaseEvent(event);
 }
 
 void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {

@@ -48,6 +48,9 @@ public:
     /// The menu that has this as a submenu; null for none.
     Menu* supermenu() const;
 
+    /// True while the menu acts on a click or a key: then it must not be destroyed.
+    bool isHandlingInput() const { return m_isHandlingInput; }
+
 Q_SIGNALS:
     /// Around the action of an item of this menu or of its submenus, also if the item has no action.
     void willSendAction(platform::MenuItem* item);
@@ -56,12 +59,14 @@ Q_SIGNALS:
 protected:
     void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void enableAllItems();
 
     QPointer<MenuDelegate> m_delegate;
     bool m_autoenablesItems = true;
+    bool m_isHandlingInput = false;
     TypeAhead m_typeAhead;
 };
 

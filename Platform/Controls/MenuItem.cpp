@@ -24,7 +24,7 @@ MenuItem::MenuItem(const QString& title, std::optional<Selector> sentAction, con
     : action(sentAction) {
     setTitle(title);
     setShortcut(keyEquivalent(key, modifiers));
-    connect(this, &QAction::triggered, this, &MenuItem::perform);
+    connect(this, &QAction::triggered, this, &MenuItem::performWhenClosed);
 }
 
 MenuItem::~MenuItem() = default;
@@ -64,10 +64,18 @@ Menu* MenuItem::enclosingMenu() const {
     return nullptr;
 }
 
-void MenuItem::perform() {
+void MenuItem::performWhenClosed() {
     // Undoes what an action does to its mark when it is triggered.
     if (isCheckable())
         setState(m_state);
+    // Qt 6.4 still writes to a menu after it has told of a choice, and what the item does may destroy the
+    // menu.
+    const Menu* const menu = enclosingMenu();
+    const bool isBusy = menu != nullptr && menu->isHandlingInput();
+    QMetaObject::invokeMethod(this, &MenuItem::perform, isBusy ? Qt::QueuedConnection : Qt::DirectConnection);
+}
+
+void MenuItem::perform() {
     const QPointer<MenuItem> self(this);
     notify(&Menu::willSendAction);
     if (self && action)

@@ -13,7 +13,8 @@ namespace platform {
 
 class Menu;
 
-/// An item of a menu. When it is chosen, or its keys are pressed, it sends its action. Main thread.
+/// An item of a menu. When it is chosen, or its keys are pressed, it sends its action; from an open menu it
+/// does so in the next turn of the loop, when the menu is closed and may be destroyed. Main thread.
 class MenuItem : public QAction {
     Q_OBJECT
 
@@ -57,6 +58,7 @@ public:
     Menu* enclosingMenu() const;
 
 private:
+    void performWhenClosed();
     void perform();
     void notify(void (Menu::*signal)(MenuItem*));
 

@@ -54,24 +54,11 @@ PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
 }
 
 PopUpButton::~PopUpButton() {
-    discardMenu();
-}
-
-/// A menu that tells of a choice is not done when everybody has heard of it.
-void PopUpButton::discardMenu() {
-    const bool isBusy = std::exchange(m_isChoosing, false);
-    if (!isBusy || m_menu == nullptr) {
-        delete m_menu;
-        return;
-    }
-    m_menu->disconnect(this);
-    m_menu->removeEventFilter(this);
-    m_menu->setParent(nullptr);
-    m_menu->deleteLater();
+    delete m_menu;
 }
 
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
-    discardMenu();
+    delete m_menu;
     m_selected = nullptr;
     m_menu = menu.release();
     PushButton::setMenu(m_menu);
@@ -79,7 +66,7 @@ void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
         // A child, which goes with the button, and yet a window of its own.
         m_menu->setParent(this, m_menu->windowFlags());
         m_menu->installEventFilter(this);
-        connect(m_menu, &Menu::willSendAction, this, &PopUpButton::beginChoice);
+        connect(m_menu, &Menu::willSendAction, this, &PopUpButton::choose);
         connect(m_menu, &Menu::didSendAction, this, &PopUpButton::finishChoice);
         for (MenuItem* item : m_menu->items())
             makeRoomForMark(*item);
@@ -182,11 +169,6 @@ void PopUpButton::choose(MenuItem* item) {
         Q_EMIT itemChosen(item);
 }
 
-void PopUpButton::beginChoice(MenuItem* item) {
-    m_isChoosing = true;
-    choose(item);
-}
-
 void PopUpButton::chooseAndSend(MenuItem* item) {
     const QPointer<PopUpButton> self(this);
     choose(item);
@@ -195,11 +177,8 @@ void PopUpButton::chooseAndSend(MenuItem* item) {
 }
 
 void PopUpButton::finishChoice(MenuItem* item) {
-    const QPointer<PopUpButton> self(this);
     if (!item->action)
         sendAction();
-    if (self)
-        m_isChoosing = false;
 }
 
 void PopUpButton::selectNextItem(QObject*) {

@@ -84,14 +84,12 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    void discardMenu();
     void makeRoomForMark(MenuItem& item) const;
     void selectFirstItem();
     void itemAdded(MenuItem& item);
     void itemsChanged();
     int titleOverhang() const;
     void choose(MenuItem* item);
-    void beginChoice(MenuItem* item);
     void chooseAndSend(MenuItem* item);
     void finishChoice(MenuItem* item);
     void step(int from, int by);
@@ -99,7 +97,6 @@ private:
 
     const bool m_pullsDown;
     Menu* m_menu = nullptr;
-    bool m_isChoosing = false;    // while an item of the menu sends its action
     QPointer<QAction> m_selected; // what is left of an item that is being destroyed is no item
     TypeAhead m_typeAhead;
 };

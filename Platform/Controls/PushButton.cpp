@@ -223,6 +223,8 @@ void PushButton::changeEvent(QEvent* event) {
 
 void PushButton::hideEvent(QHideEvent* event) {
     setDown(false);
+    if (m_openMenu != nullptr)
+        m_openMenu->close();
     QAbstractButton::hideEvent(event);
 }
 

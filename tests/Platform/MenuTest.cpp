@@ -61,6 +61,7 @@ protected:
         QTest::mouseMove(&m_menu, center - QPoint(2, 2));
         QTest::mouseMove(&m_menu, center);
         QTest::mouseClick(&m_menu, Qt::LeftButton, {}, center);
+        QCoreApplication::processEvents(); // an open menu's item acts once it is closed
     }
 
     QString typed(const QString& text) {
@@ -178,9 +179,27 @@ TEST_F(MenuTest, SubmenusOpenByKeyAndTellTheirSupermenu) {
     QTest::keyClick(&m_menu, Qt::Key_Right);
     ASSERT_TRUE(QTest::qWaitFor([&] { return submenu.isVisible(); }));
     QTest::keyClick(&submenu, Qt::Key_Return);
+    QCoreApplication::processEvents();
     EXPECT_EQ(events, (QStringList{QStringLiteral("will Inner"), QStringLiteral("did Inner")}));
     EXPECT_EQ(m_window.senders.size(), 1);
     EXPECT_FALSE(m_menu.isVisible());
+}
+
+TEST_F(MenuTest, AChoiceMayDestroyAllThatIsOpen) {
+    const QPointer<Menu> menu(new Menu);
+    MenuItem& folder = menu->addItem(QStringLiteral("Folder"));
+    folder.setSubmenu(std::make_unique<Menu>());
+    Menu& submenu = *folder.submenu();
+    submenu.addItem(QStringLiteral("Close"), play);
+    QObject::connect(menu, &Menu::willSendAction, [menu] { delete menu.data(); });
+    menu->popup(m_window.mapToGlobal(QPoint(10, 10)));
+    menu->setActiveAction(&folder);
+    QTest::keyClick(menu, Qt::Key_Right);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return submenu.isVisible(); }));
+    QTest::keyClick(&submenu, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menu, nullptr);
+    EXPECT_TRUE(m_window.senders.isEmpty());
 }
 
 TEST_F(MenuTest, AnItemMayRemoveItself) {

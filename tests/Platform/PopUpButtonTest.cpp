@@ -75,6 +75,7 @@ protected:
         QTest::mouseMove(button.menu(), center - QPoint(3, 3));
         QTest::mouseMove(button.menu(), center);
         QTest::mouseClick(button.menu(), Qt::LeftButton, {}, center);
+        QCoreApplication::processEvents(); // an open menu's item acts once it is closed
     }
 
     Owner m_owner;
@@ -250,6 +251,15 @@ TEST_F(PopUpButtonTest, CyclingWrapsWithinOneItemAndNone) {
     EXPECT_EQ(cycled(previous), QStringLiteral("B")) << "though it is disabled";
 }
 
+TEST_F(PopUpButtonTest, ClosesItsMenuWhenItIsHidden) {
+    fill(QStringLiteral("AB"));
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    ASSERT_TRUE(m_button.menu()->isVisible());
+    m_window.hide();
+    EXPECT_FALSE(m_button.menu()->isVisible());
+    EXPECT_FALSE(m_button.cell().isHighlighted());
+}
+
 TEST_F(PopUpButtonTest, MayBeDestroyedByItsChoice) {
     auto* const button = new PopUpButton;
     button->setAction(chosen, &m_owner);
@@ -278,7 +288,6 @@ TEST_F(PopUpButtonTest, MayBeRefilledAndDestroyedByAChoiceInItsMenu) {
     QTest::mousePress(doomed, Qt::LeftButton);
     chooseInMenu(*doomed, *doomed->itemArray()[0]);
     EXPECT_EQ(doomed, nullptr);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 TEST_F(PopUpButtonTest, KeysPassOverWhatOnlyOpensASubmenu) {
