@@ -2,6 +2,7 @@
 
 #include "Platform/Core/MainThread.h"
 #include "Platform/Gpu/GpuDevice.h"
+#include "Platform/Graphics/DevicePixels.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -102,22 +103,19 @@ void GpuView::paintEvent(QPaintEvent* event) {
 // the view may be painted, and pixel for pixel.
 QImage GpuView::pixelsBehind(const QPaintEvent& event) const {
     QPoint origin;
-    auto* const device = redirected(&origin);
-    if (sharedPainter() != nullptr || device == nullptr || device->devType() != QInternal::Image ||
-        event.rect() != rect() || event.region().rectCount() != 1)
+    const auto* const device = redirected(&origin);
+    if (sharedPainter() != nullptr || device == nullptr || event.rect() != rect() ||
+        event.region().rectCount() != 1)
         return {};
-    const auto& image = static_cast<const QImage&>(*device);
-    const qreal scale = image.devicePixelRatio();
+    const auto memory = pictureMemory(*device);
+    const qreal scale = device->devicePixelRatioF();
     const QRectF place(-QPointF(origin) * scale, QSizeF(size()) * scale);
     const QRect pixels = place.toRect();
-    const bool isKnown =
-        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied;
-    if (!isKnown || QRectF(pixels) != place || !image.rect().contains(pixels))
+    if (!memory || QRectF(pixels) != place || !memory->bounds.contains(pixels))
         return {};
-    // The image's own pointer: to ask for writable bits would part it from a copy that shares them.
-    auto* const first = const_cast<uchar*>(image.constScanLine(pixels.y())) +
-                        static_cast<qsizetype>(sizeof(QRgb)) * pixels.x();
-    return {first, pixels.width(), pixels.height(), image.bytesPerLine(), QImage::Format_RGB32};
+    QRgb* const first = memory->pixels + pixels.y() * memory->stride + pixels.x();
+    return {reinterpret_cast<uchar*>(first), pixels.width(), pixels.height(),
+            memory->stride * static_cast<qsizetype>(sizeof(QRgb)), QImage::Format_RGB32};
 }
 
 // True if the frame is where the painter would put it already.

@@ -14,23 +14,32 @@ qreal pixelsPerPoint(const QPainter& painter) {
     return isUniform && transform.m11() > 0 ? transform.m11() : painter.device()->devicePixelRatioF();
 }
 
+std::optional<PaintedMemory> pictureMemory(const QPaintDevice& device) {
+    if (device.devType() != QInternal::Image)
+        return std::nullopt;
+    const auto& image = static_cast<const QImage&>(device);
+    if (image.format() != QImage::Format_RGB32 && image.format() != QImage::Format_ARGB32_Premultiplied)
+        return std::nullopt;
+    // The image's own pointer: to ask for writable bits would part it from a copy that shares them.
+    auto* const pixels = reinterpret_cast<QRgb*>(const_cast<uchar*>(image.constBits()));
+    return PaintedMemory{pixels, image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb)), image.rect()};
+}
+
 std::optional<PaintedMemory> paintedMemory(const QPainter& painter, qreal scale) {
     const QTransform& transform = painter.deviceTransform();
     const QPaintEngine& engine = *painter.paintEngine();
     if (transform.type() > QTransform::TxScale || transform.m11() != scale || transform.m22() != scale ||
         painter.hasClipping() || painter.opacity() < 1 ||
         painter.compositionMode() != QPainter::CompositionMode_SourceOver ||
-        engine.type() != QPaintEngine::Raster || engine.paintDevice()->devType() != QInternal::Image)
+        engine.type() != QPaintEngine::Raster)
         return std::nullopt;
-    const auto& image = static_cast<const QImage&>(*engine.paintDevice());
+    auto memory = pictureMemory(*engine.paintDevice());
     const QRegion clip = engine.systemClip();
-    if ((image.format() != QImage::Format_RGB32 && image.format() != QImage::Format_ARGB32_Premultiplied) ||
-        clip.rectCount() > 1)
+    if (!memory || clip.rectCount() > 1)
         return std::nullopt;
-    // The engine's own pointer: to ask for writable bits would part the image from a copy that shares them.
-    auto* const pixels = reinterpret_cast<QRgb*>(const_cast<uchar*>(image.constBits()));
-    return PaintedMemory{pixels, image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb)),
-                         clip.isEmpty() ? image.rect() : clip.boundingRect() & image.rect()};
+    if (!clip.isEmpty())
+        memory->bounds &= clip.boundingRect();
+    return memory;
 }
 
 qreal onPixel(qreal points, qreal scale) {

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+class QPaintDevice;
 class QPainter;
 
 namespace platform {
@@ -20,6 +21,9 @@ struct PaintedMemory {
     qsizetype stride; // from row to row, in pixels
     QRect bounds;     // where the painter may draw, in pixels
 };
+
+/// None unless `device` is a picture of such pixels in memory, as the windows of our platforms are.
+std::optional<PaintedMemory> pictureMemory(const QPaintDevice& device);
 
 /// None unless all that `painter` does to a picture with `scale` pixels a point is to place it: it neither
 /// turns, scales, fades, clips (but to one rectangle of its widget) nor mixes otherwise.
