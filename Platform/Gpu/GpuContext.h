@@ -15,8 +15,8 @@ public:
     /// True if a processor, not a graphics card, does the drawing.
     virtual bool isSoftware() const = 0;
 
-    /// Whether a context stays current on the main thread once it was, which spares a processor a tenth of a
-    /// frame's work there. False at first. For an application, before it makes a context: a plug-in's host
+    /// Whether a context stays current on the main thread once it was, so that the driver need not take it up
+    /// again for each frame. False at first. For an application, before it makes a context: a plug-in's host
     /// needs its thread as it was, and no other thread can use the context any more. Main thread.
     static void setKeptCurrent(bool isKept);
 
