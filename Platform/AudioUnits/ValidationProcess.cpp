@@ -39,6 +39,11 @@ ValidationProcess::ValidationProcess(const AudioComponent& component,
     m_total.start(settings.totalLimit);
 }
 
+ValidationProcess::~ValidationProcess() {
+    // A process that is destroyed while it runs says so, to whom is no longer there.
+    m_process.disconnect(this);
+}
+
 void ValidationProcess::readFrames() {
     const QByteArray bytes = m_process.readAllStandardOutput();
     if (bytes.isEmpty())

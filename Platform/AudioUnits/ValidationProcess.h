@@ -18,6 +18,8 @@ public:
     ValidationProcess(const AudioComponent& component, const AudioComponentValidationSettings& settings,
                       AudioComponentValidationCompletion completion, QObject* parent);
 
+    ~ValidationProcess() override;
+
     void start() { m_process.start(); }
 
 private:

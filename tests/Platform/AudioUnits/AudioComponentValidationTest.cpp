@@ -1,12 +1,15 @@
 #include "Platform/AudioUnits/AudioComponentValidation.h"
 #include "Platform/AudioUnits/AudioComponentManager.h"
 #include "Platform/AudioUnits/FourCharCode.h"
+#include "Platform/AudioUnits/ValidationProcess.h"
 #include "Platform/Core/CodeLocation.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -104,6 +107,36 @@ TEST_F(AudioComponentValidationTest, SilenceTimesOut) {
 TEST_F(AudioComponentValidationTest, TotalTimeIsLimited) {
     AudioComponentValidationSettings::shared().totalLimit = 300ms;
     EXPECT_EQ(validate(u"hang").result, Result::timedOut);
+}
+
+TEST_F(AudioComponentValidationTest, EachLineBreaksTheSilence) {
+    QTemporaryDir folder;
+    QFile program(folder.filePath(QStringLiteral("talkative")));
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\nfor i in 1 2 3 4 5; do printf 'L\\001\\0\\0\\0x'; sleep 0.2; done\n"
+                  "printf 'V\\001\\0\\0\\0\\001E\\0\\0\\0\\0'\n");
+    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    program.close();
+    AudioComponentValidationSettings::shared().program = program.fileName();
+    AudioComponentValidationSettings::shared().silenceLimit = 600ms;
+    const Outcome outcome = validate(u"mdfx");
+    EXPECT_EQ(outcome.result, Result::passed);
+    EXPECT_EQ(outcome.lines().size(), 5);
+}
+
+TEST_F(AudioComponentValidationTest, ItsEndBelongsToWhoeverStillWaits) {
+    int completions = 0;
+    {
+        QObject owner;
+        const auto found = platform::AudioComponentManager::shared().components(
+            {.componentSubType = platform::fourCharCode(u"hang")});
+        auto* const process = new platform::ValidationProcess(
+            found.first(), m_settings, [&](auto...) { ++completions; }, &owner);
+        process->start();
+        QTest::qWait(300);
+    }
+    QTest::qWait(50);
+    EXPECT_EQ(completions, 0);
 }
 
 TEST_F(AudioComponentValidationTest, NoiseOfThePluginIsNoOutput) {
