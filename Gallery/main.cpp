@@ -2,6 +2,7 @@
 #include "Gallery/PagePicture.h"
 #include "Gallery/Window/GalleryWindow.h"
 #include "Platform/Core/Bundle.h"
+#include "Platform/Core/CommandLine.h"
 #include "Platform/Graphics/SystemFont.h"
 
 #include <QApplication>
@@ -24,7 +25,6 @@ const QString& lastPageKey() {
 
 void addOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(QStringLiteral("Shows every control of the kit in every state."));
-    parser.addHelpOption();
     parser.addOptions({
         {QStringLiteral("pictures"), QStringLiteral("Write a picture of each page and end."),
          QStringLiteral("folder")},
@@ -100,14 +100,11 @@ int openWindow(const QCommandLineParser& parser) {
 int main(int argc, char** argv) {
     QCommandLineParser parser;
     addOptions(parser);
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments << QString::fromLocal8Bit(argv[i]);
-    const QString error = parser.parse(arguments) ? errorIn(parser) : parser.errorText();
-    if (!error.isEmpty()) {
-        std::fprintf(stderr, "gallery: %s\n", qPrintable(error));
-        return 2;
-    }
+    platform::Bundle::shareMainOf(QStringLiteral("noteloft"));
+    if (const auto status = platform::readCommandLine(parser, argc, argv))
+        return *status;
+    if (const QString error = errorIn(parser); !error.isEmpty())
+        return platform::refuseCommandLine(argv[0], qPrintable(error));
     const bool writesPictures = parser.isSet(QStringLiteral("pictures"));
     if (writesPictures)
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -117,9 +114,5 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName(QStringLiteral("Quillfen"));
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setFont(platform::systemFont(13));
-    if (parser.isSet(QStringLiteral("help")))
-        parser.showHelp();
-    platform::Bundle::setMainDirectory(QCoreApplication::applicationDirPath() +
-                                       QStringLiteral("/../share/noteloft"));
     return writesPictures ? writePictures(parser) : openWindow(parser);
 }

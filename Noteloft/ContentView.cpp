@@ -12,8 +12,8 @@
 #include "Platform/Core/ConstantUrl.h"
 #include "Platform/Graphics/DisplayP3.h"
 #include "Platform/Graphics/SystemFont.h"
+#include "Platform/Windows/Browser.h"
 
-#include <QDesktopServices>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -128,6 +128,7 @@ QBoxLayout* ContentView::makeButtonRow(qreal buttonWidth) {
 
 QLabel* ContentView::makeStatusLine() {
     m_statusLine = makeText({}, 12, QFont::Bold);
+    m_statusLine->setWordWrap(true);
     connect(m_model, &ContentViewModel::statusTextChanged, this, &ContentView::showStatus);
     showStatus();
     return m_statusLine;
@@ -145,11 +146,11 @@ const QUrl& ContentView::helpURL() {
 }
 
 void ContentView::openHelp() {
-    QDesktopServices::openUrl(helpURL());
+    platform::openInBrowser(helpURL());
 }
 
 void ContentView::openWebsite() {
-    QDesktopServices::openUrl(chorale::MakerLinks::website());
+    platform::openInBrowser(chorale::MakerLinks::website());
 }
 
 void ContentView::paintEvent(QPaintEvent* event) {

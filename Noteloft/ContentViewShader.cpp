@@ -34,8 +34,8 @@ ContentViewShader::ContentViewShader(QWidget* parent) : QWidget(parent) {
 
 ContentViewShader::~ContentViewShader() = default;
 
-void ContentViewShader::prepare() {
-    vantor::MetalShaderRenderer::prepare(vertexShader(), fragmentShader());
+std::shared_ptr<const void> ContentViewShader::prepare() {
+    return vantor::MetalShaderRenderer::prepare(vertexShader(), fragmentShader());
 }
 
 void ContentViewShader::updateController() {

@@ -16,8 +16,9 @@ public:
     explicit ContentViewShader(QWidget* parent = nullptr);
     ~ContentViewShader() override;
 
-    /// Begins loading what the waveform needs on another thread.
-    static void prepare();
+    /// Begins loading what the waveform needs on another thread. What is returned waits for the thread when
+    /// it goes, which must be before the application object does.
+    [[nodiscard]] static std::shared_ptr<const void> prepare();
 
     /// Draws the waveform anew, also while its clock stands.
     void updateController();

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+class QCommandLineParser;
+
 namespace noteloft {
 
 /// What the program was started with.
@@ -12,11 +14,14 @@ struct LaunchOptions {
     QString screenshot;
     /// Validate the plug-in; a build without the developer mode does not know the option.
     bool developerMode = false;
-    /// Not empty for an option that there is not, or that lacks its value.
-    QString error;
+    /// End the instance that runs.
+    bool quits = false;
 
-    /// `arguments` without the program's name.
-    static LaunchOptions parse(const QStringList& arguments);
+    /// Tells the parser what there is.
+    static void describe(QCommandLineParser& parser);
+
+    /// `parser` has read the command line.
+    static LaunchOptions from(const QCommandLineParser& parser);
 };
 
 } // namespace noteloft

@@ -4,10 +4,11 @@
 #include "Noteloft/ContentViewModel.h"
 #include "Platform/AudioUnits/AudioComponentManager.h"
 #include "Platform/Controls/Menu.h"
+#include "Platform/Core/SingleInstance.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
+#include "Platform/Windows/WindowActions.h"
 
 #include <QApplication>
-#include <QShortcut>
 
 namespace noteloft {
 
@@ -22,6 +23,7 @@ NoteloftApp::NoteloftApp(const LaunchOptions& options) {
     m_appDelegate.sparkleHelper = &m_sparkleHelper;
     makeMenu();
     makeScene(options.developerMode);
+    shareActions();
 }
 
 NoteloftApp::~NoteloftApp() = default;
@@ -44,9 +46,18 @@ void NoteloftApp::makeScene(bool debugMode) {
     m_window =
         std::make_unique<HiddenTitleBarWindow>(QStringLiteral("Noteloft"), m_contentView, m_menu.get());
     m_window->setObjectName(QStringLiteral("main"));
-    m_window->addActions(m_menu->actions());
-    QObject::connect(new QShortcut(QKeySequence::HelpContents, m_window.get()), &QShortcut::activated,
-                     &ContentView::openHelp);
+}
+
+void NoteloftApp::shareActions() {
+    auto* const help = new QAction(m_window.get());
+    help->setShortcuts(QKeySequence::HelpContents);
+    QObject::connect(help, &QAction::triggered, m_contentView, &ContentView::openHelp);
+    auto* const openMenu = new QAction(m_window.get());
+    openMenu->setShortcut(Qt::Key_F10);
+    QObject::connect(openMenu, &QAction::triggered, m_window.get(), &HiddenTitleBarWindow::openMenu);
+    const auto actions = m_menu->actions() << help << openMenu;
+    m_window->addActions(actions);
+    m_actions = std::make_unique<platform::WindowActions>(actions);
 }
 
 void NoteloftApp::finishLaunching() {
@@ -54,9 +65,18 @@ void NoteloftApp::finishLaunching() {
     m_window->makeKeyAndOrderFront();
 }
 
-void NoteloftApp::reopen(const QStringList& urls) {
-    m_window->makeKeyAndOrderFront();
-    m_appDelegate.applicationOpen(urls);
+const QString& NoteloftApp::quitRequest() {
+    static const QString request = QStringLiteral("--quit"); // no address begins like that
+    return request;
+}
+
+void NoteloftApp::reopen(const platform::StartRequest& start) {
+    if (start.arguments.contains(quitRequest())) {
+        m_appDelegate.terminate(nullptr);
+        return;
+    }
+    m_window->makeKeyAndOrderFront(start.activation);
+    m_appDelegate.applicationOpen(start.arguments);
 }
 
 } // namespace noteloft

@@ -9,6 +9,8 @@
 namespace platform {
 class HiddenTitleBarWindow;
 class Menu;
+class WindowActions;
+struct StartRequest;
 } // namespace platform
 
 namespace noteloft {
@@ -27,8 +29,11 @@ public:
     /// Delivers the launch notification and shows the window.
     void finishLaunching();
 
-    /// What a later start of the program hands over: shows the window and opens the URLs.
-    void reopen(const QStringList& urls);
+    /// What a later start of the program hands over: shows the window and opens the URLs, or quits.
+    void reopen(const platform::StartRequest& start);
+
+    /// What a start hands over to have the running instance quit.
+    static const QString& quitRequest();
 
     AppDelegate& delegate() { return m_appDelegate; }
 
@@ -38,6 +43,7 @@ public:
 
 private:
     void makeMenu();
+    void shareActions();
     void makeScene(bool debugMode);
 
     AppDelegate m_appDelegate;
@@ -45,6 +51,7 @@ private:
     std::unique_ptr<platform::Menu> m_menu;
     ContentView* m_contentView = nullptr;
     std::unique_ptr<platform::HiddenTitleBarWindow> m_window;
+    std::unique_ptr<platform::WindowActions> m_actions;
 };
 
 } // namespace noteloft

@@ -2,16 +2,17 @@
 #include "Noteloft/LaunchOptions.h"
 #include "Noteloft/NoteloftApp.h"
 #include "Noteloft/ResourceBundle.h"
+#include "Platform/Core/CommandLine.h"
 #include "Platform/Core/SingleInstance.h"
 #include "Platform/Gpu/GpuContext.h"
-#include "Platform/Graphics/Bitmap.h"
 #include "Platform/Graphics/SystemFont.h"
+#include "Platform/Windows/ApplicationIcon.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QFontDatabase>
-#include <QIcon>
 #include <QTimer>
 
 #include <chrono>
@@ -42,10 +43,7 @@ void nameApplication(QApplication& application) {
 /// The icon can wait until people see the window.
 void setIconLater(const QApplication& application) {
     constexpr auto firstFrames = std::chrono::milliseconds(250);
-    QTimer::singleShot(firstFrames, &application, [] {
-        const QString file = noteloft::resourceBundle().path(QStringLiteral("Icons/noteloft.png"));
-        QApplication::setWindowIcon(QPixmap::fromImage(platform::readBitmap(file)));
-    });
+    QTimer::singleShot(firstFrames, &application, &platform::useApplicationIcon);
 }
 
 void takeScreenshotLater(NoteloftApp& application, const QString& file) {
@@ -58,29 +56,23 @@ void takeScreenshotLater(NoteloftApp& application, const QString& file) {
     });
 }
 
-QStringList argumentsOf(int argc, char** argv) {
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i)
-        arguments << QString::fromLocal8Bit(argv[i]);
-    return arguments;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    const auto options = LaunchOptions::parse(argumentsOf(argc, argv));
-    if (!options.error.isEmpty()) {
-        std::fprintf(stderr, "%s\n", qPrintable(options.error));
-        return 2;
-    }
+    QCommandLineParser parser;
+    LaunchOptions::describe(parser);
+    if (const auto status = platform::readCommandLine(parser, argc, argv))
+        return *status;
+    const auto options = LaunchOptions::from(parser);
     platform::SingleInstance instance(QStringLiteral("noteloft"));
     const bool isAlone = !options.screenshot.isEmpty();
-    if (!isAlone && instance.handOver(options.urls))
+    const platform::StartRequest start{options.quits ? QStringList{NoteloftApp::quitRequest()} : options.urls,
+                                       platform::ActivationToken::fromEnvironment()};
+    if ((!isAlone && instance.handOver(start)) || options.quits)
         return 0;
     platform::GpuContext::setKeptCurrent(true);
     // A screenshot has the waveform in it however long the graphics device takes.
-    if (!isAlone)
-        noteloft::ContentViewShader::prepare();
+    auto preparation = isAlone ? nullptr : noteloft::ContentViewShader::prepare();
     platform::prepareFonts();
     QApplication application(argc, argv);
     nameApplication(application);
@@ -90,9 +82,11 @@ int main(int argc, char** argv) {
     if (isAlone)
         takeScreenshotLater(app, options.screenshot);
     else
-        instance.listen([&app](const QStringList& urls) { app.reopen(urls); });
+        instance.listen([&app](const platform::StartRequest& later) { app.reopen(later); });
     app.finishLaunching();
     app.delegate().applicationOpen(options.urls);
     setIconLater(application);
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    preparation.reset();
+    return status;
 }

@@ -74,9 +74,10 @@ MetalShaderRenderer::MetalShaderRenderer(platform::GpuView& metalKitView, QStrin
 
 MetalShaderRenderer::~MetalShaderRenderer() = default;
 
-void MetalShaderRenderer::prepare(const QString& vertexShaderName, const QString& fragmentShaderName) {
+std::shared_ptr<const void> MetalShaderRenderer::prepare(const QString& vertexShaderName,
+                                                         const QString& fragmentShaderName) {
     resourceBundle(); // found here, since only the main thread may look for it
-    platform::GpuDevice::prepare([vertexShaderName, fragmentShaderName](platform::GpuDevice& device) {
+    return platform::GpuDevice::prepare([vertexShaderName, fragmentShaderName](platform::GpuDevice& device) {
         drawOnce(device, *makePipelineState(device, vertexShaderName, fragmentShaderName));
     });
 }

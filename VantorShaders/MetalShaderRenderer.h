@@ -26,8 +26,10 @@ public:
     ~MetalShaderRenderer() override;
 
     /// Begins making the machine's device and this pair's pipeline on another thread, so that the first
-    /// renderer has less to wait for. Errors are left to the renderer.
-    static void prepare(const QString& vertexShaderName, const QString& fragmentShaderName);
+    /// renderer has less to wait for. Errors are left to the renderer. What is returned waits for the thread
+    /// when it goes, which must be before the application object does.
+    [[nodiscard]] static std::shared_ptr<const void> prepare(const QString& vertexShaderName,
+                                                             const QString& fragmentShaderName);
 
     void drawableSizeWillChange(platform::GpuView& view, QSizeF size) override;
     void draw(platform::GpuView& view) override;

@@ -1,10 +1,11 @@
 #include "VantorShaders/MetalShaderViewController.h"
 
+#include "Platform/Core/MainThread.h"
 #include "Platform/Gpu/GpuDevice.h"
 #include "Platform/Windows/WindowNotifications.h"
 #include "VantorShaders/MetalShaderRenderer.h"
 
-#include <QVBoxLayout>
+#include <QEvent>
 
 #include <utility>
 
@@ -18,23 +19,20 @@ MetalShaderViewController::MetalShaderViewController(QWidget* view, QString rend
     : ViewController(view),
       m_rendererName(std::move(rendererName)),
       m_vertxShaderName(std::move(vertxShaderName)),
-      m_fragmentShaderName(std::move(fragmentShaderName)) {
-    auto* const edges = new QVBoxLayout(view);
-    edges->setContentsMargins({});
-}
+      m_fragmentShaderName(std::move(fragmentShaderName)) {}
 
 MetalShaderViewController::~MetalShaderViewController() {
     delete m_metalKitView;
 }
 
 void MetalShaderViewController::viewWillAppear() {
+    platform::requireMainThread();
     if (m_metalKitView)
         return;
     m_metalKitView = new GpuView(view());
     m_metalKitView->setColorSpace(platform::ColorSpace::extendedLinearSRGB);
     m_metalKitView->setPreferredFramesPerSecond(60);
     m_metalKitView->setGeometry(view()->rect());
-    view()->layout()->addWidget(m_metalKitView);
     platform::GpuDevice::whenReady([this, appearance = m_metalKitView](const auto& device) {
         if (appearance)
             setDevice(device);
@@ -69,7 +67,15 @@ void MetalShaderViewController::viewDidAppear() {
             &MetalShaderViewController::handleDidResignKey, Qt::UniqueConnection);
 }
 
+// Without a layout: the view may have one of its own, for other children.
+bool MetalShaderViewController::eventFilter(QObject* watched, QEvent* event) {
+    if (m_metalKitView && watched == view() && event->type() == QEvent::Resize)
+        m_metalKitView->setGeometry(view()->rect());
+    return ViewController::eventFilter(watched, event);
+}
+
 bool MetalShaderViewController::isMyWindow(const QWidget* window) const {
+    platform::requireMainThread();
     return m_metalKitView && view() != nullptr && window == view()->window();
 }
 

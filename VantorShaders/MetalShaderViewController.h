@@ -12,7 +12,7 @@ namespace vantor {
 
 class MetalShaderRenderer;
 
-/// Fills a view with a shader effect while the view appears. The effect's clock and its drawing stand still
+/// Covers a view with a shader effect while the view appears. The effect's clock and its drawing stand still
 /// while the view's window is not the key window. Where no effect can be made the view stays empty. Main
 /// thread.
 class MetalShaderViewController : public platform::ViewController {
@@ -37,6 +37,8 @@ public:
 
     void handleDidBecomeKey(QWidget* window);
     void handleDidResignKey(QWidget* window);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     bool isMyWindow(const QWidget* window) const;

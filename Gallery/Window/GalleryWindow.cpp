@@ -6,6 +6,7 @@
 #include "Gallery/Window/SettingsBar.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -15,7 +16,7 @@ namespace gallery {
 
 GalleryWindow::GalleryWindow(const std::vector<GalleryPage>& pages)
     : m_pages(pages), m_list(new PageList(pages)), m_settings(new SettingsBar), m_preview(new PagePreview) {
-    resize(1240, 860);
+    resize(QSize(1240, 860).boundedTo(screen()->availableSize()));
     auto* const side = new QVBoxLayout;
     side->setSpacing(0);
     side->addWidget(m_settings);

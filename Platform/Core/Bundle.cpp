@@ -20,10 +20,10 @@ std::unique_ptr<Bundle>& mainBundle() {
     return bundle;
 }
 
-QString mainDirectory() {
-    const QFileInfo program(programPath());
-    const QDir shared(program.absolutePath() + u"/../share/" + program.completeBaseName());
-    return shared.exists() ? shared.canonicalPath() : program.absolutePath();
+QString mainDirectory(const QString& program) {
+    const QString programs = QFileInfo(programPath()).absolutePath();
+    const QDir shared(programs + u"/../share/" + program);
+    return shared.exists() ? shared.canonicalPath() : programs;
 }
 
 } // namespace
@@ -31,8 +31,12 @@ QString mainDirectory() {
 const Bundle& Bundle::main() {
     auto& bundle = mainBundle();
     if (!bundle)
-        bundle = std::make_unique<Bundle>(mainDirectory());
+        bundle = std::make_unique<Bundle>(mainDirectory(QFileInfo(programPath()).completeBaseName()));
     return *bundle;
+}
+
+void Bundle::shareMainOf(const QString& program) {
+    setMainDirectory(mainDirectory(program));
 }
 
 void Bundle::setMainDirectory(const QString& directory) {

@@ -19,6 +19,9 @@ public:
     /// program itself the main bundle, for a loaded library the directory that it lies in.
     static Bundle containing(const void* address);
 
+    /// Makes the main bundle that of another program of the same installation.
+    static void shareMainOf(const QString& program);
+
     /// Makes `directory` the main bundle, for programs that do not lie beside their resources (tests).
     static void setMainDirectory(const QString& directory);
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QObject>
+#include "Platform/Core/Activation.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -8,6 +9,12 @@
 #include <memory>
 
 namespace platform {
+
+/// What a start of the program was given.
+struct StartRequest {
+    QStringList arguments;
+    ActivationToken activation = {};
+};
 
 /// Lets one process of a program run for each user. The first one listens on a socket that only its user can
 /// open; a later one hands over what it was started with and ends. Main thread.
@@ -20,19 +27,19 @@ public:
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    /// Sends `arguments` to the instance that runs, or none if they are longer than 64 KiB in all. False if
+    /// Sends `start` to the instance that runs, or an empty one if it is longer than 64 KiB in all. False if
     /// no instance runs, or it does not answer within two seconds: then this one is to run.
-    bool handOver(const QStringList& arguments);
+    bool handOver(const StartRequest& start);
 
-    /// Becomes the instance that runs: `received` gets the arguments of later ones, on the main thread. False
+    /// Becomes the instance that runs: `received` gets the later starts, on the main thread. False
     /// if there is no directory for the socket; the program then runs alone, which is no error.
-    bool listen(std::function<void(const QStringList&)> received);
+    bool listen(std::function<void(const StartRequest&)> received);
 
 private:
     struct Listener;
 
     bool lock();
-    bool send(const QStringList& arguments) const;
+    bool send(const QByteArray& message) const;
 
     QString m_path;
     int m_lock =

@@ -1,10 +1,13 @@
 #include "Platform/Gpu/GpuDevice.h"
 
 #include "Platform/Core/MainQueue.h"
+#include "Platform/Core/MainThread.h"
 #include "Platform/Gpu/CommandQueue.h"
 #include "Platform/Gpu/GpuLibrary.h"
 #include "Platform/Gpu/OpenGL.h"
 #include "Platform/Gpu/RenderPipeline.h"
+
+#include <QScopeGuard>
 
 #include <future>
 #include <mutex>
@@ -18,15 +21,14 @@ namespace {
 using SharedDevice = std::shared_ptr<GpuDevice>;
 
 SharedDevice makeDevice(const std::function<void(GpuDevice&)>& warmUp) {
-    auto context = GpuContext::make();
-    if (!context)
-        return nullptr;
-    auto device = std::make_shared<GpuDevice>(std::move(context));
+    SharedDevice device;
     try {
-        if (warmUp)
+        if (auto context = GpuContext::make())
+            device = std::make_shared<GpuDevice>(std::move(context));
+        if (device && warmUp)
             warmUp(*device);
-    } catch (const GpuError&) {
-        // Who draws with the pipeline meets the same error and decides about it.
+    } catch (const std::exception&) {
+        // Who draws with the device meets the same error and decides about it.
     }
     return device;
 }
@@ -60,23 +62,25 @@ void endPreparation() {
 } // namespace
 
 SharedDevice GpuDevice::systemDefault() {
+    requireMainThread();
     if (!systemDevice().valid())
         systemDevice() = std::async(std::launch::deferred, makeDevice, nullptr);
     return systemDevice().get();
 }
 
-void GpuDevice::prepare(std::function<void(GpuDevice&)> warmUp) {
-    if (systemDevice().valid())
-        return;
-    preparation().isUnderWay = true;
-    systemDevice() = std::async(std::launch::async, [warmUp = std::move(warmUp)] {
-        auto device = makeDevice(warmUp);
-        endPreparation();
-        return device;
-    });
+std::shared_ptr<const void> GpuDevice::prepare(std::function<void(GpuDevice&)> warmUp) {
+    if (!systemDevice().valid()) {
+        preparation().isUnderWay = true;
+        systemDevice() = std::async(std::launch::async, [warmUp = std::move(warmUp)] {
+            const auto end = qScopeGuard(endPreparation);
+            return makeDevice(warmUp);
+        });
+    }
+    return {nullptr, [](const void*) { systemDevice().wait(); }};
 }
 
 void GpuDevice::whenReady(std::function<void(const SharedDevice&)> use) {
+    requireMainThread();
     {
         const std::scoped_lock lock(preparation().mutex);
         if (preparation().isUnderWay) {

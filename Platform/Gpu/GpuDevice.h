@@ -36,7 +36,9 @@ public:
 
     /// Starts making the machine's device on a thread of its own, so that the application can start
     /// meanwhile. `warmUp` then runs on that thread, if there is a device; errors that it throws are dropped.
-    static void prepare(std::function<void(GpuDevice&)> warmUp);
+    /// What is returned waits for the thread when it goes. That must be before the application object goes,
+    /// and before `main` returns, since graphics drivers are torn down after it.
+    [[nodiscard]] static std::shared_ptr<const void> prepare(std::function<void(GpuDevice&)> warmUp);
 
     explicit GpuDevice(std::unique_ptr<GpuContext> context);
     ~GpuDevice();

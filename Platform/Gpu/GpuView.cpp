@@ -135,6 +135,7 @@ bool GpuView::drawFrame(const QPaintEvent& event) {
 void GpuView::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_timer.timerId())
         return;
+    waitForNextFrame();
     m_frameDue = true;
     repaint(); // at once: an update would wake the loop a second time
 }
@@ -154,10 +155,17 @@ void GpuView::hideEvent(QHideEvent*) {
 
 void GpuView::updateTimer() {
     const bool canDraw = m_device != nullptr && m_delegate != nullptr && m_framesPerSecond > 0;
-    if (m_paused || !isVisible() || !canDraw)
+    if (m_paused || !isVisible() || !canDraw) {
         m_timer.stop();
-    else
-        m_timer.start(1000 / m_framesPerSecond, Qt::PreciseTimer, this);
+        return;
+    }
+    m_pacer.start(m_framesPerSecond, FramePacer::Clock::now());
+    waitForNextFrame();
+}
+
+void GpuView::waitForNextFrame() {
+    const auto wait = m_pacer.untilNext(FramePacer::Clock::now());
+    m_timer.start(static_cast<int>(wait.count()), Qt::PreciseTimer, this);
 }
 
 } // namespace platform

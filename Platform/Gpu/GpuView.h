@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Gpu/CommandQueue.h"
+#include "Platform/Gpu/FramePacer.h"
 #include "Platform/Gpu/GpuDrawable.h"
 
 #include <QBasicTimer>
@@ -80,11 +81,13 @@ private:
     QImage pixelsBehind(const QPaintEvent& event) const;
     bool drawFrame(const QPaintEvent& event);
     void updateTimer();
+    void waitForNextFrame();
 
     std::shared_ptr<GpuDevice> m_device;
     GpuViewDelegate* m_delegate = nullptr;
     std::unique_ptr<GpuDrawable> m_drawable;
-    QBasicTimer m_timer;
+    QBasicTimer m_timer; // for the next frame alone
+    FramePacer m_pacer;
     ColorSpace m_space = ColorSpace::extendedLinearSRGB;
     QSizeF m_announcedSize;
     int m_framesPerSecond = 60;

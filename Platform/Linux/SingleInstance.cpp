@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QSocketNotifier>
 
 #include <fcntl.h>
@@ -91,12 +92,25 @@ bool isSameUser(int connection) {
     return getsockopt(connection, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == getuid();
 }
 
+QByteArray encoded(const StartRequest& start) {
+    const QJsonObject message{{QStringLiteral("arguments"), QJsonArray::fromStringList(start.arguments)},
+                              {QStringLiteral("wayland"), start.activation.wayland},
+                              {QStringLiteral("x11"), start.activation.x11}};
+    return QJsonDocument(message).toJson(QJsonDocument::Compact);
+}
+
+StartRequest decoded(const QByteArray& message) {
+    const QJsonObject start = QJsonDocument::fromJson(message).object();
+    return {start[u"arguments"].toVariant().toStringList(),
+            {start[u"wayland"].toString(), start[u"x11"].toString()}};
+}
+
 } // namespace
 
 struct SingleInstance::Listener {
     Descriptor socket{makeSocket()};
     std::unique_ptr<QSocketNotifier> notifier;
-    std::function<void(const QStringList&)> received;
+    std::function<void(const StartRequest&)> received;
 
     void accept() const {
         const Descriptor connection(accept4(socket.number(), nullptr, nullptr, SOCK_CLOEXEC));
@@ -109,11 +123,7 @@ struct SingleInstance::Listener {
             return;
         message.truncate(size);
         ::send(connection.number(), &acknowledgement, 1, MSG_NOSIGNAL);
-        QStringList arguments;
-        const auto parts = QJsonDocument::fromJson(message).array();
-        for (const auto& part : parts)
-            arguments << part.toString();
-        received(arguments);
+        received(decoded(message));
     }
 };
 
@@ -143,10 +153,13 @@ bool SingleInstance::lock() {
     return true;
 }
 
-bool SingleInstance::handOver(const QStringList& arguments) {
+bool SingleInstance::handOver(const StartRequest& start) {
     const QDeadlineTimer patience(2s);
+    QByteArray message = encoded(start);
+    if (message.size() > maximumMessage)
+        message = encoded({});
     // Whoever holds the lock without listening is starting.
-    while (!send(arguments)) {
+    while (!send(message)) {
         if (lock() || patience.hasExpired())
             return false;
         std::this_thread::sleep_for(10ms);
@@ -154,7 +167,7 @@ bool SingleInstance::handOver(const QStringList& arguments) {
     return true;
 }
 
-bool SingleInstance::send(const QStringList& arguments) const {
+bool SingleInstance::send(const QByteArray& message) const {
     sockaddr_un address{};
     const Descriptor socket(makeSocket());
     setPatience(socket, 2s);
@@ -162,16 +175,13 @@ bool SingleInstance::send(const QStringList& arguments) const {
         connect(socket.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         !isSameUser(socket.number()))
         return false;
-    QByteArray message = QJsonDocument(QJsonArray::fromStringList(arguments)).toJson(QJsonDocument::Compact);
-    if (message.size() > maximumMessage)
-        message = "[]";
     char answer = 0;
     return ::send(socket.number(), message.constData(), static_cast<std::size_t>(message.size()),
                   MSG_NOSIGNAL) == message.size() &&
            recv(socket.number(), &answer, 1, 0) == 1 && answer == acknowledgement;
 }
 
-bool SingleInstance::listen(std::function<void(const QStringList&)> received) {
+bool SingleInstance::listen(std::function<void(const StartRequest&)> received) {
     auto listener = std::make_unique<Listener>();
     sockaddr_un address{};
     if (!setAddress(address, m_path) || !lock())

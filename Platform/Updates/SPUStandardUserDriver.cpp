@@ -3,8 +3,9 @@
 #include "Platform/Core/Bundle.h"
 #include "Platform/Updates/SPUStandardUserDriverDelegate.h"
 #include "Platform/Windows/Alert.h"
+#include "Platform/Windows/Browser.h"
 
-#include <QDesktopServices>
+#include <QApplication>
 #include <QPushButton>
 
 namespace platform {
@@ -29,9 +30,12 @@ SPUStandardUserDriver::~SPUStandardUserDriver() {
 }
 
 QMessageBox& SPUStandardUserDriver::replaceDialog(const QString& text, const QString& information) {
+    const bool isElsewhere = m_dialog && QApplication::activeWindow() == nullptr;
     delete m_dialog;
+    m_isChecking = false;
     m_dialog = makeAlert(text, information);
-    m_dialog->setAttribute(Qt::WA_ShowWithoutActivating);
+    m_dialog->setWindowTitle(QStringLiteral("Software Update"));
+    m_dialog->setAttribute(Qt::WA_ShowWithoutActivating, isElsewhere);
     m_dialog->setWindowModality(Qt::NonModal);
     return *m_dialog;
 }
@@ -44,6 +48,7 @@ void SPUStandardUserDriver::showMessage(const QString& text, const QString& info
 
 void SPUStandardUserDriver::showUserInitiatedUpdateCheck(std::function<void()> cancel) {
     QMessageBox& dialog = replaceDialog(QStringLiteral("Checking for updates…"), {});
+    m_isChecking = true;
     dialog.setEscapeButton(dialog.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole));
     connect(&dialog, &QDialog::finished, this, [cancel = std::move(cancel)] { cancel(); });
     dialog.show();
@@ -69,7 +74,7 @@ void SPUStandardUserDriver::addLink(const QString& title, QMessageBox::ButtonRol
     if (url.isEmpty())
         return;
     const QPushButton* button = m_dialog->addButton(title, role);
-    connect(button, &QPushButton::clicked, this, [url] { QDesktopServices::openUrl(url); });
+    connect(button, &QPushButton::clicked, this, [url] { openInBrowser(url); });
 }
 
 void SPUStandardUserDriver::showUpdateNotFound() {
@@ -83,8 +88,10 @@ void SPUStandardUserDriver::showUpdaterError(const UpdateError& error) {
 }
 
 void SPUStandardUserDriver::showInFront() {
-    if (m_dialog)
-        m_dialog->raise();
+    if (!m_dialog)
+        return;
+    m_dialog->raise();
+    m_dialog->activateWindow();
 }
 
 } // namespace platform

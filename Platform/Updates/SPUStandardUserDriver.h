@@ -13,8 +13,9 @@ namespace platform {
 
 class SPUStandardUserDriverDelegate;
 
-/// Shows the standard dialogs of an update check, one at a time. They block nothing and do not take the focus
-/// from where the user is working. Main thread.
+/// Shows the standard dialogs of an update check that the user asked for, one at a time, above the
+/// application's window. They block nothing. The first takes the keyboard, and so does each that follows
+/// while the user has not gone on to another application. Main thread.
 class SPUStandardUserDriver : public QObject {
 public:
     /// `delegate` may be null and is not owned.
@@ -27,7 +28,8 @@ public:
     void showUpdateNotFound();
     void showUpdaterError(const UpdateError& error);
 
-    bool isShowing() const { return m_dialog && m_dialog->isVisible(); }
+    /// True while the dialog of a check that runs is shown.
+    bool isChecking() const { return m_isChecking && m_dialog && m_dialog->isVisible(); }
 
     /// Brings the dialog that is shown before the other windows.
     void showInFront();
@@ -39,6 +41,7 @@ private:
 
     SPUStandardUserDriverDelegate* m_delegate;
     QPointer<QMessageBox> m_dialog;
+    bool m_isChecking = false;
 };
 
 } // namespace platform

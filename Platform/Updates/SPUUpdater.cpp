@@ -20,7 +20,7 @@ void SPUUpdater::checkForUpdates() {
     requireMainThread();
     if (!m_isStarted)
         return;
-    if (m_userDriver.isShowing()) {
+    if (m_userDriver.isChecking()) {
         m_userDriver.showInFront();
         return;
     }

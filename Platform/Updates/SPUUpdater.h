@@ -28,7 +28,7 @@ public:
     void startUpdater() { m_isStarted = true; }
 
     /// Starts a check and shows its progress and its result. Brings the dialog to the front instead while an
-    /// earlier check runs or its result is still shown. Does nothing before `startUpdater`.
+    /// earlier check runs; a result that is still shown is replaced. Does nothing before `startUpdater`.
     void checkForUpdates();
 
 private:

@@ -2,6 +2,7 @@
 
 #include "Platform/Core/Bundle.h"
 #include "Platform/Graphics/SystemFont.h"
+#include "Platform/Windows/ApplicationIcon.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -28,6 +29,7 @@ QLabel* addLine(QVBoxLayout& column, const QString& text, const QFont& font,
 
 QDialog* makePanel(const QStringList& libraries) {
     constexpr int iconSize = 96;
+    useApplicationIcon();
     const Bundle& bundle = Bundle::main();
     auto* const panel = new QDialog;
     panel->setAttribute(Qt::WA_DeleteOnClose);

@@ -87,18 +87,28 @@ void HiddenTitleBarWindow::addShortcuts() {
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     const QKeySequence minimize(Qt::CTRL | Qt::Key_M);
     connect(new QShortcut(minimize, this), &QShortcut::activated, this, &QWidget::showMinimized);
-    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &HiddenTitleBarWindow::openMenu);
 }
 
-void HiddenTitleBarWindow::makeKeyAndOrderFront() {
+void HiddenTitleBarWindow::makeKeyAndOrderFront(const ActivationToken& token) {
     setWindowState(windowState() & ~Qt::WindowMinimized);
+    if (!isVisible())
+        keepLowerEdgeInReach();
     show();
-    raise();
-    activateWindow();
+    activate(*windowHandle(), token);
+}
+
+// On a screen with less room than the window needs, its controls matter more than its upper edge.
+void HiddenTitleBarWindow::keepLowerEdgeInReach() {
+    const QRect room = screen()->availableGeometry();
+    if (height() > room.height())
+        move(room.center().x() - width() / 2, room.bottom() + 1 - height());
 }
 
 void HiddenTitleBarWindow::openMenu() {
-    m_menu->popup(m_menuButton->mapToGlobal(QPoint(0, m_menuButton->height() + 4)));
+    const QWidget* const front = QApplication::activeWindow();
+    const QWidget* const place = front == nullptr || front == this ? m_menuButton : front;
+    m_menu->popup(place == m_menuButton ? place->mapToGlobal(QPoint(0, place->height() + 4))
+                                        : place->mapToGlobal(QPoint()));
     m_menu->setActiveAction(m_menu->actions().value(0));
 }
 
@@ -117,14 +127,22 @@ void HiddenTitleBarWindow::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void HiddenTitleBarWindow::mousePressEvent(QMouseEvent* event) {
-    m_pressPosition = event->position().toPoint();
+    if (event->button() == Qt::LeftButton)
+        m_press = event->position().toPoint();
 }
 
 void HiddenTitleBarWindow::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint moved = event->position().toPoint() - m_pressPosition;
-    if ((event->buttons() & Qt::LeftButton) != 0 &&
-        moved.manhattanLength() >= QApplication::startDragDistance())
-        windowHandle()->startSystemMove();
+    if (!m_press || (event->buttons() & Qt::LeftButton) == 0)
+        return;
+    const QPoint moved = event->position().toPoint() - *m_press;
+    if (moved.manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_press.reset();
+    windowHandle()->startSystemMove();
+}
+
+void HiddenTitleBarWindow::mouseReleaseEvent(QMouseEvent*) {
+    m_press.reset();
 }
 
 void HiddenTitleBarWindow::enterEvent(QEnterEvent*) {

@@ -5,6 +5,7 @@
 #include "Noteloft/ResourceBundle.h"
 #include "Platform/Controls/Button.h"
 #include "Platform/Controls/ImageView.h"
+#include "Platform/Controls/ShadowedLabel.h"
 #include "Platform/Core/Bundle.h"
 #include "Platform/Gpu/GpuDevice.h"
 #include "Platform/Gpu/GpuView.h"
@@ -220,6 +221,30 @@ TEST_F(ContentViewTest, DrawsItsBackgroundAndItsLogo) {
         for (int x = logo.left(); x <= logo.right(); ++x)
             ink += difference(at({x, y}), Assets::buttonText.color().rgba()) < 8 ? 1 : 0;
     EXPECT_GT(ink, 50) << "the logo has the colour of the text";
+}
+
+TEST_F(ContentViewTest, TitleIsWhiteOnThreeShadows) {
+    show();
+    auto& title = *m_view->findChild<platform::ShadowedLabel*>();
+    title.setText(QStringLiteral("\u2588")); // a block, whose lower edge shows what falls below it
+    title.setAttribute(Qt::WA_TranslucentBackground);
+    title.resize(title.sizeHint());
+    const QImage image = picture(title);
+    const qreal scale = image.devicePixelRatio();
+    const int column = image.width() / 2;
+    int edge = image.height() / 2;
+    EXPECT_EQ(image.pixel(column, edge), 0xffffffff);
+    while (image.pixel(column, edge) == 0xffffffff)
+        ++edge;
+    const auto alphaBelow = [&](qreal points) {
+        const QRgb pixel = image.pixel(column, edge + static_cast<int>(points * scale));
+        EXPECT_TRUE(qBlue(pixel) >= qRed(pixel) && qRed(pixel) >= qGreen(pixel));
+        return qAlpha(pixel) / 255.0;
+    };
+    // Where all three lie, where the sharp one has ended, and where only the widest reaches.
+    EXPECT_NEAR(alphaBelow(0.5), 0.77, 0.08);
+    EXPECT_NEAR(alphaBelow(1.5), 0.58, 0.08);
+    EXPECT_NEAR(alphaBelow(5), 0.15, 0.06);
 }
 
 TEST_F(ContentViewTest, ButtonsOpenTheirPages) {

@@ -1,6 +1,7 @@
 #include "Noteloft/NoteloftApp.h"
 
 #include "Noteloft/ContentView.h"
+#include "Platform/Core/SingleInstance.h"
 #include "Platform/Graphics/Appearance.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 
@@ -63,7 +64,7 @@ TEST_F(NoteloftAppTest, LaunchShowsTheOneWindow) {
     EXPECT_EQ(m_app.window().size(), QSize(400, 572));
     EXPECT_EQ(m_app.contentView().geometry(), QRect(0, 0, 400, 572));
     m_app.window().close();
-    m_app.reopen({QStringLiteral("noteloft://other")});
+    m_app.reopen({.arguments = {QStringLiteral("noteloft://other")}});
     EXPECT_TRUE(m_app.window().isVisible());
     EXPECT_TRUE(dialogs().isEmpty());
 }
@@ -88,11 +89,11 @@ TEST_F(NoteloftAppTest, UpdatesAreCheckedFromTheMenuAndByAddress) {
     action(QStringLiteral("Check for Updates…"))->trigger();
     ASSERT_EQ(dialogs().size(), 1);
     EXPECT_NE(qobject_cast<QMessageBox*>(dialogs().constFirst()), nullptr);
-    m_app.reopen({QStringLiteral("noteloft://openAndUpdate")});
+    m_app.reopen({.arguments = {QStringLiteral("noteloft://openAndUpdate")}});
     EXPECT_EQ(dialogs().size(), 1) << "the check that runs is shown again";
     dialogs().constFirst()->close();
     EXPECT_TRUE(dialogs().isEmpty());
-    m_app.reopen({QStringLiteral("noteloft://openAndUpdate")});
+    m_app.reopen({.arguments = {QStringLiteral("noteloft://openAndUpdate")}});
     EXPECT_EQ(dialogs().size(), 1);
     dialogs().constFirst()->close();
 }

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <dlfcn.h>
+
 using platform::Bundle;
 
 namespace {
@@ -45,6 +47,22 @@ TEST_F(BundleTest, ModuleIsTakenFromTheFirstPlaceThatHasIt) {
     const QString inside = make(QStringLiteral("app/Resources/Kit_Kit.bundle"));
     Bundle::setMainDirectory(m_root.filePath(QStringLiteral("app")));
     EXPECT_EQ(Bundle::module(name, &marker).directory(), inside);
+}
+
+TEST_F(BundleTest, ModuleIsFoundBesideItsLoadedCodeFromAnyFolder) {
+    Bundle::setMainDirectory(make(QStringLiteral("app")));
+    const QString beside = make(QStringLiteral("plugin/Kit_Kit.bundle"));
+    ASSERT_TRUE(
+        QFile::copy(QStringLiteral(NOTELOFT_LOADED_CODE), m_root.filePath(QStringLiteral("plugin/code.so"))));
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(m_root.path());
+    void* const code = dlopen("plugin/code.so", RTLD_NOW);
+    ASSERT_NE(code, nullptr) << dlerror();
+    QDir::setCurrent(QStringLiteral("/"));
+    EXPECT_EQ(Bundle::module(QStringLiteral("Kit_Kit"), dlsym(code, "marker")).directory(),
+              QFileInfo(beside).canonicalFilePath());
+    QDir::setCurrent(before);
+    dlclose(code);
 }
 
 TEST_F(BundleTest, InformationIsEmptyWhenMissingOrBroken) {

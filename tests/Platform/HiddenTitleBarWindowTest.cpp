@@ -71,8 +71,8 @@ TEST_F(HiddenTitleBarWindowTest, ClosesByKeyAndComesBack) {
     EXPECT_FALSE(m_window.isMinimized());
 }
 
-TEST_F(HiddenTitleBarWindowTest, F10OpensTheMenuAtItsFirstItem) {
-    QTest::keyClick(&m_window, Qt::Key_F10);
+TEST_F(HiddenTitleBarWindowTest, MenuOpensAtItsFirstItemWhicheverWindowIsInFront) {
+    m_window.openMenu();
     EXPECT_TRUE(m_menu.isVisible());
     EXPECT_EQ(m_menu.activeAction(), m_menu.actions().constFirst());
     EXPECT_GE(m_menu.y(), m_window.y() + button(QStringLiteral("Menu"))->height());
@@ -80,6 +80,14 @@ TEST_F(HiddenTitleBarWindowTest, F10OpensTheMenuAtItsFirstItem) {
     EXPECT_FALSE(m_menu.isVisible());
     QTest::mouseClick(button(QStringLiteral("Menu")), Qt::LeftButton);
     EXPECT_TRUE(m_menu.isVisible());
+    m_menu.close();
+    QWidget other;
+    other.setGeometry(500, 300, 100, 100);
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    m_window.openMenu();
+    EXPECT_TRUE(other.frameGeometry().contains(m_menu.pos())) << m_menu.x() << ", " << m_menu.y();
 }
 
 TEST_F(HiddenTitleBarWindowTest, TabVisitsEveryControlOnce) {
@@ -127,4 +135,15 @@ TEST_F(HiddenTitleBarWindowTest, ButtonsShowThemselvesToThePointerAndTheKeyboard
     EXPECT_TRUE(QTest::qWaitFor([&] { return !hasInk(); }, 1000));
     button(QStringLiteral("Menu"))->setFocus();
     EXPECT_TRUE(QTest::qWaitFor(hasInk, 1000));
+    m_window.setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !hasInk(); }, 1000));
+    m_window.openMenu();
+    EXPECT_TRUE(QTest::qWaitFor(hasInk, 1000));
+    QApplication::sendEvent(&m_window, &leave);
+    QTest::qWait(300);
+    EXPECT_TRUE(hasInk()) << "the menu belongs to one of them";
+    m_menu.close();
+    QTest::qWait(50); // the pointer comes back first
+    QApplication::sendEvent(&m_window, &leave);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !hasInk(); }, 1000));
 }

@@ -29,7 +29,10 @@ protected:
     QString socketPath() const { return m_runtime.filePath(QStringLiteral("test.socket")); }
 
     bool listen(SingleInstance& instance) {
-        return instance.listen([this](const QStringList& arguments) { m_received << arguments; });
+        return instance.listen([this](const platform::StartRequest& start) {
+            m_received << start.arguments;
+            m_activation = start.activation;
+        });
     }
 
     /// Hands over from another thread, as another process would, while this one's event loop turns.
@@ -37,7 +40,8 @@ protected:
         std::atomic<bool> isDone = false;
         bool accepted = false;
         std::thread sender([&] {
-            accepted = SingleInstance(name).handOver(arguments);
+            accepted =
+                SingleInstance(name).handOver({arguments, {QStringLiteral("w"), QStringLiteral("x \"1\"")}});
             isDone = true;
         });
         EXPECT_TRUE(QTest::qWaitFor([&isDone] { return isDone.load(); }, 5000));
@@ -49,12 +53,16 @@ protected:
     const QByteArray m_previousDirectory = qgetenv("XDG_RUNTIME_DIR");
     QTemporaryDir m_runtime;
     QList<QStringList> m_received;
+    platform::ActivationToken m_activation;
 };
 
 } // namespace
 
 TEST_F(SingleInstanceTest, FirstGetsTheArgumentsOfLaterOnes) {
+    QElapsedTimer timer;
+    timer.start();
     EXPECT_FALSE(handOver({})) << "nobody runs";
+    EXPECT_LT(timer.elapsed(), 1000) << "and nobody is waited for";
     {
         SingleInstance first(name);
         ASSERT_TRUE(listen(first));
@@ -65,6 +73,8 @@ TEST_F(SingleInstanceTest, FirstGetsTheArgumentsOfLaterOnes) {
             many << QStringLiteral("noteloft://host/%1").arg(i);
         EXPECT_TRUE(handOver(many));
         EXPECT_EQ(m_received, (QList<QStringList>{{}, many}));
+        EXPECT_EQ(m_activation.wayland, QStringLiteral("w"));
+        EXPECT_EQ(m_activation.x11, QStringLiteral("x \"1\""));
     }
     EXPECT_FALSE(QFile::exists(socketPath())) << "the socket goes with its instance";
     EXPECT_FALSE(handOver({}));
@@ -97,7 +107,7 @@ TEST_F(SingleInstanceTest, OneThatDoesNotAnswerIsGivenUp) {
     ASSERT_TRUE(listen(frozen));
     QElapsedTimer timer;
     timer.start();
-    EXPECT_FALSE(SingleInstance(name).handOver({QStringLiteral("a")})) << "no event loop turns here";
+    EXPECT_FALSE(SingleInstance(name).handOver({{QStringLiteral("a")}, {}})) << "no event loop turns here";
     EXPECT_GE(timer.elapsed(), 1900);
     EXPECT_LT(timer.elapsed(), 4000);
 }
@@ -106,7 +116,7 @@ TEST_F(SingleInstanceTest, OneThatIsStartingIsWaitedFor) {
     SingleInstance first(name);
     ASSERT_FALSE(first.handOver({})) << "nobody runs, so it is to run";
     std::atomic<int> handed = -1;
-    std::thread second([&] { handed = SingleInstance(name).handOver({QStringLiteral("b")}) ? 1 : 0; });
+    std::thread second([&] { handed = SingleInstance(name).handOver({{QStringLiteral("b")}, {}}) ? 1 : 0; });
     QTest::qWait(100);
     EXPECT_EQ(handed, -1);
     ASSERT_TRUE(listen(first));

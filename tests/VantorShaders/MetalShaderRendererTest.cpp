@@ -138,8 +138,8 @@ TEST(RendererError, SaysThatThereIsNoDevice) {
 }
 
 TEST(GpuDevicePreparation, IsFinishedBeforeTheDeviceIsUsed) {
-    MetalShaderRenderer::prepare(vertexShader, fragmentShader);
-    MetalShaderRenderer::prepare(vertexShader, fragmentShader);
+    const auto first = MetalShaderRenderer::prepare(vertexShader, fragmentShader);
+    const auto second = MetalShaderRenderer::prepare(vertexShader, fragmentShader);
     const auto device = GpuDevice::systemDefault();
     EXPECT_EQ(GpuDevice::systemDefault(), device);
     if (!device)
@@ -148,7 +148,7 @@ TEST(GpuDevicePreparation, IsFinishedBeforeTheDeviceIsUsed) {
 }
 
 TEST(GpuDevicePreparation, LeavesErrorsToTheRenderer) {
-    MetalShaderRenderer::prepare(QStringLiteral("none"), fragmentShader);
+    const auto preparation = MetalShaderRenderer::prepare(QStringLiteral("none"), fragmentShader);
     NOTELOFT_REQUIRE_GPU();
     EXPECT_NO_THROW(vantor::makePipelineState(*GpuDevice::systemDefault(), vertexShader, fragmentShader));
 }

@@ -6,11 +6,14 @@
 #include "tests/support/GpuPicture.h"
 #include "tests/support/Pixels.h"
 
+#include <QHBoxLayout>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <future>
 #include <memory>
+#include <stdexcept>
 
 using vantor::MetalShaderRenderer;
 using vantor::MetalShaderViewController;
@@ -45,8 +48,8 @@ protected:
 /// Ends the process with success if a machine without graphics shows an empty view that works.
 [[noreturn]] void runWithoutGraphics() {
     qputenv("__EGL_VENDOR_LIBRARY_FILENAMES", "/dev/null");
-    MetalShaderRenderer::prepare(QStringLiteral("audioWaveformVertexShader"),
-                                 QStringLiteral("audioWaveformFragmentShader"));
+    const auto preparation = MetalShaderRenderer::prepare(QStringLiteral("audioWaveformVertexShader"),
+                                                          QStringLiteral("audioWaveformFragmentShader"));
     EXPECT_EQ(platform::GpuDevice::systemDefault(), nullptr);
     Effect effect;
     QWidget other;
@@ -67,7 +70,83 @@ protected:
     std::_Exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
+/// Makes the device on another thread, which waits until `finish` is called.
+class SlowDevice {
+public:
+    SlowDevice() {
+        m_preparation =
+            platform::GpuDevice::prepare([this](platform::GpuDevice&) { m_gate.get_future().wait(); });
+    }
+
+    void finish() {
+        m_gate.set_value();
+        m_preparation.reset();
+        QTest::qWait(50);
+    }
+
+private:
+    std::promise<void> m_gate;
+    std::shared_ptr<const void> m_preparation;
+};
+
+/// Ends the process with success if the device may arrive whatever became of the view in the meantime.
+[[noreturn]] void runWhileTheDeviceIsMade() {
+    SlowDevice device;
+    Effect shown;
+    Effect hidden;
+    Effect behind;
+    auto destroyed = std::make_unique<Effect>();
+    for (Effect* effect : {&hidden, destroyed.get(), &behind, &shown})
+        effect->activate();
+    EXPECT_EQ(shown.controller.renderer(), nullptr) << "the window does not wait";
+    hidden.window.hide();
+    destroyed.reset();
+    device.finish();
+    if (!platform::GpuDevice::systemDefault())
+        std::_Exit(0);
+    EXPECT_EQ(hidden.controller.renderer(), nullptr);
+    EXPECT_NE(shown.controller.renderer(), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !shown.controller.metalKitView()->image().isNull(); }));
+    EXPECT_TRUE(behind.controller.metalKitView()->isPaused());
+    EXPECT_NE(behind.controller.renderer(), nullptr);
+    const float time = behind.controller.renderer()->time();
+    QTest::qWait(100);
+    behind.activate();
+    EXPECT_LT(behind.controller.renderer()->time(), time + 0.05F)
+        << "its clock stood still from the first moment";
+    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+}
+
+/// Ends the process with success if a preparation that throws leaves a device that works.
+[[noreturn]] void runAfterAFailedPreparation() {
+    const auto preparation =
+        platform::GpuDevice::prepare([](platform::GpuDevice&) { throw std::logic_error("any"); });
+    Effect effect;
+    effect.activate();
+    const bool hasDevice = platform::GpuDevice::systemDefault() != nullptr;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (effect.controller.renderer() != nullptr) == hasDevice; }));
+    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+}
+
 } // namespace
+
+// Nobody may have asked for the device before.
+TEST(MetalShaderViewControllerStart, DeviceMayArriveAfterTheView) {
+    EXPECT_EXIT(runWhileTheDeviceIsMade(), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(runAfterAFailedPreparation(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(MetalShaderViewControllerTest, CoversAViewWithALayoutOfItsOwn) {
+    Effect effect;
+    auto* const child = new QWidget;
+    auto* const row = new QHBoxLayout(effect.view);
+    row->addWidget(child);
+    effect.activate();
+    EXPECT_EQ(effect.controller.metalKitView()->geometry(), effect.view->rect());
+    EXPECT_EQ(row->count(), 1);
+    effect.view->resize(100, 40);
+    EXPECT_EQ(effect.controller.metalKitView()->geometry(), QRect(0, 0, 100, 40));
+}
 
 TEST_F(MetalShaderViewControllerTest, ViewLivesWhileItAppears) {
     Effect effect;

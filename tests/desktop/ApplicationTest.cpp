@@ -1,8 +1,18 @@
+#include "Noteloft/ContentView.h"
+#include "Noteloft/NoteloftApp.h"
+#include "Platform/Controls/ShadowedLabel.h"
+#include "Platform/Core/Bundle.h"
+#include "Platform/Windows/HiddenTitleBarWindow.h"
 #include "tests/desktop/Desktop.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -34,9 +44,12 @@ protected:
     }
 
     /// The exit status of a start that is expected to end by itself.
-    int startAgain(const QStringList& arguments = {}) const {
+    int startAgain(const QStringList& arguments = {}, const QString& startupId = {}) const {
         QProcess process;
-        process.setProcessEnvironment(environment());
+        auto variables = environment();
+        if (!startupId.isEmpty())
+            variables.insert(QStringLiteral("DESKTOP_STARTUP_ID"), startupId);
+        process.setProcessEnvironment(variables);
         process.setProcessChannelMode(QProcess::ForwardedChannels);
         process.start(program, arguments);
         return process.waitForFinished(5000) ? process.exitCode() : -1;
@@ -46,10 +59,40 @@ protected:
         return Desktop::waitUntil([&] { return m_desktop.windowTitles() == titles; });
     }
 
+    bool ends() {
+        return Desktop::waitUntil([this] { return m_first.state() == QProcess::NotRunning; });
+    }
+
+    bool isActive(const QString& name) {
+        return Desktop::waitUntil([&] { return m_desktop.activeTitle() == name; });
+    }
+
+    /// What the window shows below the waveform.
+    QImage lowerHalf(const QString& command, const QString& folder) const {
+        const QImage window = screenshot(command, folder);
+        return window.copy(0, 300, window.width(), window.height() - 300);
+    }
+
+    /// What the window shows, started by `command` of a shell in `folder`.
+    QImage screenshot(const QString& command, const QString& folder) const {
+        const QString file = m_runtime.filePath(QStringLiteral("window.png"));
+        QProcess shell;
+        auto variables = environment();
+        variables.insert(QStringLiteral("PATH"), QFileInfo(program).absolutePath() + u":/usr/bin:/bin");
+        shell.setProcessEnvironment(variables);
+        shell.setProcessChannelMode(QProcess::ForwardedChannels);
+        shell.setWorkingDirectory(folder);
+        shell.start(QStringLiteral("bash"), {QStringLiteral("-c"), command + u" --screenshot " + file});
+        EXPECT_TRUE(shell.waitForFinished(10'000));
+        return QImage(file);
+    }
+
     Desktop m_desktop;
     QTemporaryDir m_runtime;
     QProcess m_first;
 };
+
+const QString updateAddress = QStringLiteral("noteloft://openAndUpdate");
 
 } // namespace
 
@@ -84,6 +127,147 @@ TEST_F(ApplicationTest, AddressOfTheFirstStartIsOpenedToo) {
     m_first.setProcessEnvironment(environment());
     m_first.start(program, {QStringLiteral("noteloft://openAndUpdate")});
     EXPECT_TRUE(Desktop::waitUntil([this] { return m_desktop.windowTitles().size() == 2; }));
+}
+
+TEST_F(ApplicationTest, ADialogThatWasAskedForTakesTheKeyboard) {
+    m_first.setProcessEnvironment(environment());
+    m_first.start(program, {updateAddress});
+    const QString dialog = QStringLiteral("Software Update — Noteloft");
+    ASSERT_TRUE(isActive(dialog)) << m_desktop.activeTitle().toStdString();
+    EXPECT_EQ(m_desktop.ownerOf(dialog), title);
+    EXPECT_TRUE(m_desktop.hasIcon(dialog));
+    Desktop::wait(500);
+    m_desktop.press(Key::enter);
+    EXPECT_TRUE(windowsBecome({title}));
+    EXPECT_EQ(startAgain({updateAddress}), 0);
+    ASSERT_TRUE(isActive(dialog));
+    m_desktop.press(Key::escape);
+    EXPECT_TRUE(windowsBecome({title}));
+}
+
+TEST_F(ApplicationTest, QuitsByKeyWhicheverWindowIsInFront) {
+    startFirst();
+    ASSERT_TRUE(isActive(title));
+    Desktop::wait(200);
+    m_desktop.press(Key::f10);
+    Desktop::wait(200);
+    m_desktop.press(Key::enter);
+    const QString panel = QStringLiteral("About Noteloft");
+    ASSERT_TRUE(isActive(panel));
+    m_desktop.press(Key::control, Key::q);
+    EXPECT_TRUE(ends());
+    EXPECT_EQ(m_first.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(m_first.exitCode(), 0);
+
+    startFirst();
+    ASSERT_TRUE(isActive(title));
+    Desktop::wait(200);
+    m_desktop.press(Key::control, Key::q);
+    EXPECT_TRUE(ends());
+}
+
+TEST_F(ApplicationTest, QuitsFromTheDesktopWithoutAWindow) {
+    EXPECT_EQ(startAgain({QStringLiteral("--quit")}), 0) << "nobody runs";
+    startFirst();
+    ASSERT_TRUE(isActive(title));
+    Desktop::wait(200);
+    m_desktop.press(Key::control, Key::w);
+    ASSERT_TRUE(windowsBecome({}));
+    EXPECT_EQ(startAgain({QStringLiteral("--quit")}), 0);
+    EXPECT_TRUE(ends());
+}
+
+TEST_F(ApplicationTest, SecondStartBringsTheWindowToTheFront) {
+    startFirst();
+    ASSERT_TRUE(isActive(title));
+    QWidget other;
+    other.setWindowTitle(QStringLiteral("Other"));
+    other.setGeometry(100, 100, 900, 700);
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(isActive(other.windowTitle()));
+    m_desktop.press(Key::tab);
+    m_desktop.startupMessages();
+
+    const QString startup = QStringLiteral("launcher-1-host_TIME%1").arg(m_desktop.time());
+    EXPECT_EQ(startAgain({}, startup), 0);
+    EXPECT_TRUE(isActive(title));
+    EXPECT_TRUE(m_desktop.startupMessages().contains("remove:"));
+}
+
+TEST_F(ApplicationTest, FindsItsResourcesWhereverItIsStartedByName) {
+    QDir(m_runtime.path()).mkdir(QStringLiteral("noteloft"));
+    const QImage expected = lowerHalf(program, m_runtime.path());
+    ASSERT_FALSE(expected.isNull());
+    EXPECT_EQ(lowerHalf(QStringLiteral("noteloft"), m_runtime.path()), expected);
+}
+
+TEST_F(ApplicationTest, TitleIsInTheFontThatItBrings) {
+    QFontDatabase::addApplicationFont(platform::Bundle::main().path(QStringLiteral("Fonts/Rocket.ttf")));
+    noteloft::NoteloftApp here{noteloft::LaunchOptions{}};
+    const auto labels = here.contentView().findChildren<platform::ShadowedLabel*>();
+    ASSERT_EQ(labels.size(), 1);
+    QImage expected(400, 300, QImage::Format_RGB32);
+    expected.fill(Qt::black);
+    here.window().grab(); // lays it out
+    static_cast<QWidget*>(labels.constFirst())
+        ->render(&expected, labels.constFirst()->mapTo(&here.window(), QPoint()), {}, QWidget::DrawChildren);
+    const QImage shown = screenshot(program, m_runtime.path());
+    int white = 0;
+    for (int y = 0; y < expected.height(); ++y)
+        for (int x = 0; x < expected.width(); ++x)
+            if (expected.pixel(x, y) == 0xffffffff) {
+                ++white;
+                ASSERT_EQ(shown.pixel(x, y), 0xffffffff) << x << ", " << y;
+            }
+    EXPECT_GT(white, 300);
+}
+
+#ifdef NOTELOFT_DEVELOPER_MODE
+TEST_F(ApplicationTest, DeveloperModeValidatesThePlugIn) {
+    QByteArray output;
+    m_first.setProcessEnvironment(environment());
+    m_first.start(program, {QStringLiteral("--developer")});
+    const auto isPrintedTwice = [&] {
+        output += m_first.readAllStandardOutput();
+        return output.count(" checks passed\n") == 2;
+    };
+    EXPECT_TRUE(Desktop::waitUntil(isPrintedTwice)) << output.constData();
+}
+#endif
+
+TEST_F(ApplicationTest, ShowsTheAddressOfALinkThatNothingCanOpen) {
+    auto variables = environment();
+    variables.remove(QStringLiteral("BROWSER"));
+    variables.insert(QStringLiteral("XDG_DATA_DIRS"), m_runtime.path());
+    m_first.setProcessEnvironment(variables);
+    m_first.start(program, QStringList());
+    ASSERT_TRUE(isActive(title));
+    Desktop::wait(200);
+    m_desktop.press(Key::f1);
+    EXPECT_TRUE(Desktop::waitUntil([this] { return m_desktop.windowTitles().size() == 2; }));
+    m_desktop.press(Key::escape);
+    EXPECT_TRUE(windowsBecome({title}));
+}
+
+TEST_F(ApplicationTest, AnswersInTheUsualForm) {
+    for (const auto* const name :
+         {"noteloft", "gallery", "noteloft-validate", "../libexec/noteloft/audio-unit-validator"}) {
+        const QString path = QFileInfo(program).absolutePath() + u'/' + QString::fromLatin1(name);
+        const auto answer = [&](const QString& option) {
+            QProcess process;
+            auto variables = environment();
+            variables.remove(QStringLiteral("DISPLAY"));
+            process.setProcessEnvironment(variables);
+            process.start(path, {option});
+            EXPECT_TRUE(process.waitForFinished(5000)) << name;
+            EXPECT_EQ(process.exitCode(), 0) << name;
+            return process.readAllStandardOutput();
+        };
+        EXPECT_TRUE(answer(QStringLiteral("--help")).startsWith("Usage: ")) << name;
+        EXPECT_EQ(answer(QStringLiteral("--version")).toStdString(),
+                  QFileInfo(path).fileName().toStdString() + " 1.0.0\n");
+    }
 }
 
 TEST_F(ApplicationTest, RefusesWhatItDoesNotKnow) {

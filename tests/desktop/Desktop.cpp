@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
-#include <vector>
 
 namespace {
 
@@ -19,6 +18,8 @@ using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
 Desktop::Desktop() : m_connection(xcb_connect(nullptr, nullptr)) {
     m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(m_connection, m_root, XCB_CW_EVENT_MASK, &mask);
     // A window manager that is still starting can take a request and then sleep on it until the next event.
     const std::uint32_t probe = xcb_generate_id(m_connection);
     xcb_create_window(m_connection, 0, probe, m_root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, 0, 0,
@@ -71,6 +72,12 @@ void Desktop::click(QPoint position) {
     releasePointer(position);
 }
 
+void Desktop::clickSecondary(QPoint position) {
+    movePointer(position);
+    send(XCB_BUTTON_PRESS, 3);
+    send(XCB_BUTTON_RELEASE, 3);
+}
+
 void Desktop::drag(QPoint from, QPoint to) {
     constexpr int steps = 10;
     pressPointer(from);
@@ -96,14 +103,82 @@ QByteArray Desktop::property(std::uint32_t window, std::uint32_t name) {
             xcb_get_property_value_length(reply.get())};
 }
 
-QStringList Desktop::windowTitles() {
+QList<std::uint32_t> Desktop::windows() {
     const QByteArray list = property(m_root, atom("_NET_CLIENT_LIST"));
     const auto* const first = reinterpret_cast<const std::uint32_t*>(list.constData());
-    const std::vector windows(first, first + list.size() / static_cast<int>(sizeof *first));
+    return {first, first + list.size() / static_cast<int>(sizeof *first)};
+}
+
+QString Desktop::titleOf(std::uint32_t window) {
+    return QString::fromUtf8(property(window, atom("_NET_WM_NAME")));
+}
+
+QStringList Desktop::windowTitles() {
     QStringList titles;
-    for (const std::uint32_t window : windows)
-        titles << QString::fromUtf8(property(window, atom("_NET_WM_NAME")));
+    for (const std::uint32_t window : windows())
+        titles << titleOf(window);
     return titles;
+}
+
+std::uint32_t Desktop::windowNamed(const QString& title) {
+    for (const std::uint32_t window : windows())
+        if (titleOf(window) == title)
+            return window;
+    return XCB_WINDOW_NONE;
+}
+
+std::uint32_t Desktop::windowIn(std::uint32_t window, const char* name) {
+    const QByteArray value = property(window, atom(name));
+    std::uint32_t found = XCB_WINDOW_NONE;
+    if (value.size() >= static_cast<int>(sizeof found))
+        std::memcpy(&found, value.constData(), sizeof found);
+    return found;
+}
+
+QString Desktop::activeTitle() {
+    return titleOf(windowIn(m_root, "_NET_ACTIVE_WINDOW"));
+}
+
+QString Desktop::ownerOf(const QString& title) {
+    return titleOf(windowIn(windowNamed(title), "WM_TRANSIENT_FOR"));
+}
+
+bool Desktop::offers(const char* feature) {
+    const QByteArray supported = property(m_root, atom("_NET_SUPPORTED"));
+    const std::uint32_t wanted = atom(feature);
+    for (qsizetype at = 0; at + 4 <= supported.size(); at += 4)
+        if (std::memcmp(supported.constData() + at, &wanted, 4) == 0)
+            return true;
+    return false;
+}
+
+bool Desktop::hasIcon(const QString& title) {
+    return !property(windowNamed(title), atom("_NET_WM_ICON")).isEmpty();
+}
+
+std::uint32_t Desktop::time() {
+    xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_root, atom("_NOTELOFT_TEST"), XCB_ATOM_STRING,
+                        8, 0, nullptr);
+    xcb_flush(m_connection);
+    while (auto* const event = xcb_wait_for_event(m_connection)) {
+        const bool isFound = (event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY;
+        const auto time = reinterpret_cast<const xcb_property_notify_event_t*>(event)->time;
+        std::free(event);
+        if (isFound)
+            return time;
+    }
+    return XCB_CURRENT_TIME;
+}
+
+QByteArray Desktop::startupMessages() {
+    QByteArray messages;
+    while (auto* const event = xcb_poll_for_event(m_connection)) {
+        const auto* const message = reinterpret_cast<const xcb_client_message_event_t*>(event);
+        if ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE)
+            messages.append(reinterpret_cast<const char*>(message->data.data8), sizeof message->data.data8);
+        std::free(event);
+    }
+    return messages;
 }
 
 void Desktop::requestSize(std::uint32_t window, QSize size) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QList>
 #include <QPoint>
 #include <QSize>
 #include <QString>
@@ -14,6 +16,7 @@
 enum class Key : std::uint8_t {
     escape = 9,
     tab = 23,
+    q = 24,
     w = 25,
     enter = 36,
     control = 37,
@@ -40,9 +43,27 @@ public:
     void pressPointer(QPoint position);
     void releasePointer(QPoint position);
     void click(QPoint position);
+    void clickSecondary(QPoint position);
     void drag(QPoint from, QPoint to);
 
     QStringList windowTitles();
+
+    /// The title of the window that has the keyboard.
+    QString activeTitle();
+
+    /// The title of the window that the one with this title belongs to and stays above; empty for none.
+    QString ownerOf(const QString& title);
+
+    /// True if the window manager offers what EWMH or another convention calls `feature`.
+    bool offers(const char* feature);
+
+    bool hasIcon(const QString& title);
+
+    /// The time of the screen's server, in milliseconds.
+    std::uint32_t time();
+
+    /// The messages about starting programs that were sent to all since the last call.
+    QByteArray startupMessages();
 
     /// Asks the window manager to resize the window, as a person's tool would.
     void requestSize(std::uint32_t window, QSize size);
@@ -57,6 +78,10 @@ private:
     void requestFrameExtents(std::uint32_t window);
     void send(std::uint8_t type, std::uint8_t detail, QPoint position = {});
     std::uint32_t atom(const char* name);
+    QList<std::uint32_t> windows();
+    std::uint32_t windowNamed(const QString& title);
+    std::uint32_t windowIn(std::uint32_t window, const char* property);
+    QString titleOf(std::uint32_t window);
     QByteArray property(std::uint32_t window, std::uint32_t name);
 
     xcb_connection_t* m_connection;

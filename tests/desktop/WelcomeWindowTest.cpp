@@ -1,6 +1,7 @@
 #include "Noteloft/ContentView.h"
 #include "Noteloft/ContentViewShader.h"
 #include "Noteloft/NoteloftApp.h"
+#include "Platform/Core/SingleInstance.h"
 #include "Platform/Gpu/GpuView.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 #include "VantorShaders/MetalShaderRenderer.h"
@@ -154,9 +155,32 @@ TEST_F(WelcomeWindowTest, MovesByItsBackgroundAndKeepsItsSize) {
     EXPECT_NEAR(moved.x(), 80, 12);
     EXPECT_NEAR(moved.y(), 50, 12);
 
+    const QPoint dropped = window().pos();
+    for (int i = 1; i <= 10; ++i)
+        m_desktop.movePointer(inWindow(200, 420) + QPoint(-15 * i, 6 * i));
+    Desktop::wait(100);
+    EXPECT_EQ(window().pos(), dropped) << "the drag ended with the drop";
+    m_desktop.drag(inWindow(200, 420), inWindow(200, 420) - QPoint(40, 30));
+    EXPECT_TRUE(Desktop::waitUntil([&] { return window().pos() != dropped; }))
+        << "the next drag moves it again";
+
     m_desktop.requestSize(static_cast<std::uint32_t>(window().winId()), {640, 800});
     Desktop::wait(300);
     EXPECT_EQ(window().size(), QSize(400, 572));
+}
+
+TEST_F(WelcomeWindowTest, SecondaryClickOpensTheMenuOfItsPlace) {
+    const auto ownMenu = [] { return QApplication::activePopupWidget() != nullptr; };
+    m_desktop.clickSecondary(inWindow(200, 420));
+    EXPECT_TRUE(Desktop::waitUntil(ownMenu));
+    m_desktop.press(Key::escape);
+    EXPECT_TRUE(Desktop::waitUntil([&] { return !ownMenu(); }));
+    m_desktop.clickSecondary(inWindow(200, 12));
+    Desktop::wait(300);
+    EXPECT_EQ(ownMenu(), !m_desktop.offers("_GTK_SHOW_WINDOW_MENU"))
+        << "the upper edge is the window manager's";
+    m_desktop.press(Key::escape);
+    Desktop::wait(100);
 }
 
 TEST_F(WelcomeWindowTest, ButtonsOfTheWindowAppearWithThePointerAndWork) {

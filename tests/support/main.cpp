@@ -11,6 +11,8 @@ int main(int argc, char** argv) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A machine without a browser shows the address of a link instead.
+    qputenv("BROWSER", "true");
     // Tests run side by side: what one process stores, no other may find.
     const QTemporaryDir home;
     for (const char* const variable :

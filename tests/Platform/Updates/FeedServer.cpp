@@ -5,6 +5,7 @@
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslKey>
+#include <QSslSocket>
 #include <QTcpSocket>
 
 FeedServer::FeedServer() {
@@ -56,11 +57,25 @@ void FeedServer::accept() {
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] { answer(*socket); });
 }
 
+void FeedServer::pour(QTcpSocket& socket) {
+    constexpr qsizetype piece = 1 << 16;
+    const auto* const encrypted = qobject_cast<QSslSocket*>(&socket);
+    if (socket.state() == QTcpSocket::ConnectedState && encrypted->encryptedBytesToWrite() < piece)
+        m_flooded += socket.write(QByteArray(piece, ' '));
+}
+
 void FeedServer::answer(QTcpSocket& socket) {
     const QByteArray request = socket.readAll();
     if (!request.startsWith("GET "))
         return;
     ++m_requestCount;
     const QByteArray path = request.split(' ').value(1);
+    if (path == m_floods) {
+        socket.write("HTTP/1.1 200 OK\r\n\r\n");
+        connect(
+            &socket, &QTcpSocket::bytesWritten, &socket, [this, &socket] { pour(socket); },
+            Qt::QueuedConnection);
+        return;
+    }
     socket.write(m_responses.value(path, "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"));
 }

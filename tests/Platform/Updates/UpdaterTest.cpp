@@ -180,11 +180,24 @@ TEST_F(UpdaterTest, EqualAndOlderVersionsAreUpToDate) {
     EXPECT_EQ(check(feed("9", enclosure)), upToDate);
 }
 
-TEST_F(UpdaterTest, DialogsDoNotInterrupt) {
+TEST_F(UpdaterTest, ResultsTakeTheKeyboardOnlyFromTheApplicationItself) {
+    QWidget window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     check(feed("10"));
     EXPECT_FALSE(shownDialog()->isModal());
-    EXPECT_TRUE(shownDialog()->testAttribute(Qt::WA_ShowWithoutActivating));
-    EXPECT_EQ(shownDialog()->textFormat(), Qt::PlainText);
+    EXPECT_EQ(shownDialog()->parentWidget(), &window);
+    EXPECT_FALSE(shownDialog()->testAttribute(Qt::WA_ShowWithoutActivating));
+
+    EXPECT_EQ(check(feed("11", enclosure)), available) << "an old result does not stand for a new check";
+    shownDialog()->close();
+
+    platform::SPUStandardUserDriver driver(nullptr);
+    driver.showUserInitiatedUpdateCheck([] {});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(shownDialog()));
+    QApplication::setActiveWindow(nullptr);
+    driver.showUpdateNotFound();
+    EXPECT_TRUE(shownDialog()->testAttribute(Qt::WA_ShowWithoutActivating)) << "the user is elsewhere now";
 }
 
 TEST_F(UpdaterTest, SecondCheckShowsTheDialogOfTheFirst) {
@@ -258,8 +271,14 @@ TEST_F(UpdaterTest, RedirectsStaySecure) {
     m_server.redirect("/feed", QStringLiteral("http://127.0.0.1/target"));
     EXPECT_EQ(check(), insecure);
     shownDialog()->close();
-    m_server.redirect("/feed", m_server.url(QStringLiteral("/feed")));
-    EXPECT_EQ(check(), "The update server could not be reached.") << "a redirection without end";
+    m_server.serve("/0", feed("11", enclosure));
+    for (int i = 1; i <= 6; ++i)
+        m_server.redirect("/" + QByteArray::number(i), m_server.url(u'/' + QString::number(i - 1)));
+    m_delegate.url = m_server.url(QStringLiteral("/5"));
+    EXPECT_EQ(check(), available) << "five redirections";
+    shownDialog()->close();
+    m_delegate.url = m_server.url(QStringLiteral("/6"));
+    EXPECT_EQ(check(), "The update server could not be reached.") << "one more";
 }
 
 TEST_F(UpdaterTest, FeedHasALimit) {
@@ -268,6 +287,10 @@ TEST_F(UpdaterTest, FeedHasALimit) {
     EXPECT_EQ(check(good + padding), available);
     shownDialog()->close();
     EXPECT_EQ(check(good + padding + '\n'), "The update information is too long.");
+    shownDialog()->close();
+    m_server.flood("/feed");
+    EXPECT_EQ(check(), "The update information is too long.");
+    EXPECT_LT(m_server.flooded(), 64 * platform::Appcast::maximumSize) << "no more is read than can be used";
 }
 
 TEST_F(UpdaterTest, DamagedFeedIsAnError) {
