@@ -14,9 +14,16 @@
 
 namespace gallery {
 
+namespace {
+
+/// What a window manager's frame may need, which is not known before the window is shown.
+constexpr QSize windowFrame(16, 48);
+
+} // namespace
+
 GalleryWindow::GalleryWindow(const std::vector<GalleryPage>& pages)
     : m_pages(pages), m_list(new PageList(pages)), m_settings(new SettingsBar), m_preview(new PagePreview) {
-    resize(QSize(1240, 860).boundedTo(screen()->availableSize()));
+    resize(QSize(1240, 860).boundedTo(screen()->availableSize() - windowFrame));
     auto* const side = new QVBoxLayout;
     side->setSpacing(0);
     side->addWidget(m_settings);

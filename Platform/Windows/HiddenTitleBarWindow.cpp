@@ -91,13 +91,15 @@ void HiddenTitleBarWindow::addShortcuts() {
 
 void HiddenTitleBarWindow::makeKeyAndOrderFront(const ActivationToken& token) {
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    if (!isVisible())
-        keepLowerEdgeInReach();
+    const bool appears = !isVisible();
     show();
+    if (appears)
+        keepLowerEdgeInReach();
     activate(*windowHandle(), token);
 }
 
-// On a screen with less room than the window needs, its controls matter more than its upper edge.
+// On a screen with less room than the window needs, its controls matter more than its upper edge. Some window
+// managers grant such a place only to a window that is shown.
 void HiddenTitleBarWindow::keepLowerEdgeInReach() {
     const QRect room = screen()->availableGeometry();
     if (height() > room.height())

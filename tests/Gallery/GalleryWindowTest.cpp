@@ -94,6 +94,10 @@ protected:
 
 } // namespace
 
+TEST_F(GalleryWindowTest, OpensInsideTheScreen) {
+    EXPECT_LT(m_window.height(), m_window.screen()->availableGeometry().height());
+}
+
 TEST_F(GalleryWindowTest, SearchesTitlesControlsAndKeywordsInAnyCase) {
     QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(search().hasFocus());

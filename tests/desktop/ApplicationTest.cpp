@@ -202,6 +202,18 @@ TEST_F(ApplicationTest, FindsItsResourcesWhereverItIsStartedByName) {
     EXPECT_EQ(lowerHalf(QStringLiteral("noteloft"), m_runtime.path()), expected);
 }
 
+TEST_F(ApplicationTest, WindowThatIsTallerThanTheScreenShowsItsLinks) {
+    auto variables = environment();
+    variables.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
+    m_first.setProcessEnvironment(variables);
+    m_first.start(program, QStringList());
+    ASSERT_TRUE(windowsBecome({title}));
+    EXPECT_TRUE(Desktop::waitUntil([this] {
+        const QRect place = m_desktop.placeOf(title);
+        return place.height() == 1144 && place.bottom() < 900;
+    })) << m_desktop.placeOf(title).bottom();
+}
+
 TEST_F(ApplicationTest, TitleIsInTheFontThatItBrings) {
     QFontDatabase::addApplicationFont(platform::Bundle::main().path(QStringLiteral("Fonts/Rocket.ttf")));
     noteloft::NoteloftApp here{noteloft::LaunchOptions{}};

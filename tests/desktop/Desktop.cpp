@@ -152,6 +152,18 @@ bool Desktop::offers(const char* feature) {
     return false;
 }
 
+QRect Desktop::placeOf(const QString& title) {
+    const std::uint32_t window = windowNamed(title);
+    const Reply<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr), &std::free);
+    const Reply<xcb_translate_coordinates_reply_t> corner(
+        xcb_translate_coordinates_reply(
+            m_connection, xcb_translate_coordinates(m_connection, window, m_root, 0, 0), nullptr),
+        &std::free);
+    return geometry && corner ? QRect(corner->dst_x, corner->dst_y, geometry->width, geometry->height)
+                              : QRect();
+}
+
 bool Desktop::hasIcon(const QString& title) {
     return !property(windowNamed(title), atom("_NET_WM_ICON")).isEmpty();
 }

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -56,6 +57,9 @@ public:
 
     /// True if the window manager offers what EWMH or another convention calls `feature`.
     bool offers(const char* feature);
+
+    /// Where the window is on the screen, without its frame, in pixels.
+    QRect placeOf(const QString& title);
 
     bool hasIcon(const QString& title);
 
