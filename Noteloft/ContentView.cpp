@@ -129,6 +129,7 @@ QBoxLayout* ContentView::makeButtonRow(qreal buttonWidth) {
 QLabel* ContentView::makeStatusLine() {
     m_statusLine = makeText({}, 12, QFont::Bold);
     m_statusLine->setWordWrap(true);
+    m_statusLine->setContentsMargins(0, 0, 0, 6);
     connect(m_model, &ContentViewModel::statusTextChanged, this, &ContentView::showStatus);
     showStatus();
     return m_statusLine;

@@ -281,7 +281,14 @@ TEST_F(ContentViewTest, StatusLineFollowsTheModelInDebugMode) {
     EXPECT_TRUE(texts().contains(QStringLiteral("Dev Only Debugging: Validating..."))) << "before it appears";
     m_view->show();
     EXPECT_TRUE(QTest::qWaitFor([this] { return texts().constLast() == notFound; }));
-    EXPECT_EQ(place(button(QStringLiteral("Help"))).bottom() + 1 + 14, place(label(notFound)).top());
+    QCoreApplication::processEvents();
+    const auto* const status = label(notFound);
+    EXPECT_EQ(place(button(QStringLiteral("Help"))).bottom() + 1 + 14, place(status).top());
+    EXPECT_TRUE(m_view->rect().contains(place(status)));
+    const QRect needed = status->fontMetrics().boundingRect(QRect(0, 0, status->contentsRect().width(), 1000),
+                                                            Qt::TextWordWrap, notFound);
+    EXPECT_LE(needed.width(), status->contentsRect().width());
+    EXPECT_LE(needed.height(), status->contentsRect().height());
 }
 
 TEST_F(ContentViewTest, AnotherStatusDrawsTheWaveformAnew) {

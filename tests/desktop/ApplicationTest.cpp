@@ -177,6 +177,20 @@ TEST_F(ApplicationTest, QuitsFromTheDesktopWithoutAWindow) {
     EXPECT_TRUE(ends());
 }
 
+TEST_F(ApplicationTest, EndsCleanlyWhateverItIsStillDoing) {
+    for (const auto* const option : {"", "", "", "--developer", "--developer"}) {
+        m_first.setProcessEnvironment(environment());
+        m_first.setProcessChannelMode(QProcess::MergedChannels);
+        m_first.start(program, QString::fromLatin1(option).split(u' ', Qt::SkipEmptyParts));
+        ASSERT_TRUE(m_first.waitForStarted());
+        Desktop::wait(*option == '\0' ? 20 : 150);
+        EXPECT_EQ(startAgain({QStringLiteral("--quit")}), 0);
+        ASSERT_TRUE(ends());
+        EXPECT_EQ(m_first.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(m_first.exitCode(), 0) << m_first.readAll().constData();
+    }
+}
+
 TEST_F(ApplicationTest, SecondStartBringsTheWindowToTheFront) {
     startFirst();
     ASSERT_TRUE(isActive(title));
