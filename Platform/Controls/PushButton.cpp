@@ -207,6 +207,11 @@ void PushButton::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
+/// Without the focus a key no longer holds the button, but the pointer does.
+void PushButton::focusOutEvent(QFocusEvent* event) {
+    isTracking() ? QWidget::focusOutEvent(event) : BaseButton::focusOutEvent(event);
+}
+
 void PushButton::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* const offered = offeredMenu();
     if (event->reason() == QContextMenuEvent::Keyboard && offered != nullptr)

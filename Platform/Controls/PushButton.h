@@ -16,7 +16,8 @@ class PointerTracking;
 /// A button that a cell draws. It is pressed by the pointer, by Space, by Return and by the mnemonic in its
 /// text; then it goes to its next state, sends its action and emits `clicked`. A press ends without a click
 /// when the pointer is released outside, or Escape is pressed, or the button is hidden or disabled, or its
-/// press opens a menu or starts a drag. Every `pressed` is followed by one `released`.
+/// press opens a menu or starts a drag. Every `pressed` is followed by one `released`, unless the button is
+/// destroyed.
 class PushButton : public BaseButton, public Control {
     Q_OBJECT
 
@@ -115,6 +116,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void changeEvent(QEvent* event) override;
 

@@ -196,6 +196,17 @@ TEST_F(ButtonInputTest, APressWhoseReleaseNobodyHeardGivesWayToTheNext) {
     EXPECT_EQ(m_target.count, 1);
 }
 
+TEST_F(ButtonInputTest, ThePointerHoldsTheButtonThoughTheFocusLeavesIt) {
+    QSignalSpy released(m_button.data(), &QAbstractButton::released);
+    m_button->setFocus();
+    press();
+    m_field.setFocus();
+    EXPECT_TRUE(m_button->isDown());
+    release(inside());
+    EXPECT_EQ(released.count(), 1);
+    EXPECT_EQ(m_target.count, 1);
+}
+
 TEST_F(ButtonInputTest, EscapeReachesNobodyElseWhileItEndsAPress) {
     QSignalSpy shortcut(&m_escape, &QShortcut::activated);
     const KeyCounter keys(m_field);
