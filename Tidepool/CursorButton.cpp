@@ -1,5 +1,6 @@
 #include "Tidepool/CursorButton.h"
 
+#include <QEvent>
 #include <QPixmap>
 
 #include <utility>

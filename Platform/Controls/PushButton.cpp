@@ -164,9 +164,10 @@ bool PushButton::popUpMenu(const QMouseEvent& press) {
 void PushButton::popUp(QMenu& menu, QPoint position, QAction* item) {
     connect(&menu, &QMenu::aboutToHide, this, &PushButton::menuClosed, Qt::UniqueConnection);
     connect(&menu, &QMenu::destroyed, this, qOverload<>(&QWidget::update), Qt::UniqueConnection);
-    const QPointer<QMenu> opened(&menu);
+    m_openMenu = &menu;
     platform::popUp(menu, item, position, *this);
-    m_openMenu = opened && opened->isVisible() ? opened : nullptr;
+    if (m_openMenu != nullptr && !m_openMenu->isVisible())
+        menuClosed(); // it has not opened, since this is disabled
     update();
 }
 
@@ -209,7 +210,7 @@ void PushButton::mouseReleaseEvent(QMouseEvent* event) {
 
 /// Without the focus a key no longer holds the button, but the pointer does.
 void PushButton::focusOutEvent(QFocusEvent* event) {
-    isTracking() ? QWidget::focusOutEvent(event) : BaseButton::focusOutEvent(event);
+    isTracking() ? update() : BaseButton::focusOutEvent(event);
 }
 
 void PushButton::contextMenuEvent(QContextMenuEvent* event) {
