@@ -31,6 +31,14 @@ bool isInvalid(const QWidget* view) {
     return validating != nullptr && !validating->isValid();
 }
 
+void drawTinted(QPainter& painter, const QRectF& frame, const platform::Image& image,
+                const platform::Cell& cell, float opacity) {
+    if (image.isTemplate())
+        image.tinted(cell.controlTextColor()).draw(painter, frame, opacity);
+    else
+        image.draw(painter, frame, opacity);
+}
+
 /// What is larger than the frame begins with it.
 QRectF pushedInside(const QRectF& image, const QRectF& frame) {
     const qreal y = std::max(frame.top(), std::min(frame.bottom(), image.bottom()) - image.height());
@@ -62,13 +70,8 @@ QRectF verticallyCentered(QRectF rect, const QRectF& bounds) {
 
 void drawBezel(QPainter& painter, const QRectF& frame, const platform::Image* bezel,
                const platform::Cell& cell) {
-    if (bezel == nullptr)
-        return;
-    const float opacity = cell.isEnabled() ? 1 : dimmed;
-    if (bezel->isTemplate())
-        bezel->tinted(cell.controlTextColor()).draw(painter, frame, opacity);
-    else
-        bezel->draw(painter, frame, opacity);
+    if (bezel != nullptr)
+        drawTinted(painter, frame, *bezel, cell, cell.isEnabled() ? 1 : dimmed);
 }
 
 QRectF imageFrame(QSizeF size, const QRectF& frame, ImageScaling scaling, qreal backingScale) {
@@ -87,7 +90,7 @@ QRectF imageFrame(QSizeF size, const QRectF& frame, ImageScaling scaling, qreal 
 void drawImage(QPainter& painter, const QRectF& frame, const platform::Image& image,
                const platform::ButtonCell& cell) {
     const QRectF target = imageFrame(image.size(), frame, cell.imageScaling(), cell.backingScale());
-    image.draw(painter, target, cell.isHighlighted() || !cell.isEnabled() ? dimmed : 1);
+    drawTinted(painter, target, image, cell, cell.isHighlighted() || !cell.isEnabled() ? dimmed : 1);
 }
 
 void drawFocusRing(QPainter& painter, const QRectF& maskBounds, const QColor& color) {

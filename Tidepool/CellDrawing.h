@@ -26,7 +26,8 @@ void drawBezel(QPainter& painter, const QRectF& frame, const platform::Image* be
 /// Where an image of `size` is drawn within `frame`. A scaling that is none of the four stops the program.
 QRectF imageFrame(QSizeF size, const QRectF& frame, platform::ImageScaling scaling, qreal backingScale);
 
-/// Draws `image` with the cell's scaling; half as opaque while the cell is highlighted or disabled.
+/// Draws `image` with the cell's scaling, a template in the colour of a control's text; half as opaque while
+/// the cell is highlighted or disabled.
 void drawImage(QPainter& painter, const QRectF& frame, const platform::Image& image,
                const platform::ButtonCell& cell);
 

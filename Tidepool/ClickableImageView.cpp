@@ -1,11 +1,11 @@
 #include "Tidepool/ClickableImageView.h"
 
+#include "Platform/Controls/PressKey.h"
 #include "Tidepool/ButtonCellStyle.h"
 #include "Tidepool/CellDrawing.h"
 #include "Tidepool/ClickableImageViewAccessibility.h"
 #include "Tidepool/StyleReference.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -56,12 +56,10 @@ void ClickableImageView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ClickableImageView::keyPressEvent(QKeyEvent* event) {
-    const bool presses =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (presses && !event->isAutoRepeat())
-        click();
-    else
+    if (!platform::isPressKey(*event))
         ImageView::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 } // namespace tidepool

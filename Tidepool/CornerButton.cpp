@@ -1,8 +1,8 @@
 #include "Tidepool/CornerButton.h"
 
+#include "Platform/Controls/PressKey.h"
 #include "Tidepool/ButtonMenu.h"
 
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 
@@ -45,12 +45,10 @@ bool CornerButton::popUpMenu(const QMouseEvent& press) {
 }
 
 void CornerButton::keyPressEvent(QKeyEvent* event) {
-    const bool presses =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (presses && m_alternateMenu != nullptr)
-        performClick(); // at once: a menu does not wait for the release
-    else
+    if (m_alternateMenu == nullptr || !platform::isPressKey(*event))
         StyledButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        performClick(); // at once: a menu does not wait for the release
 }
 
 } // namespace tidepool

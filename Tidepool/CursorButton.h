@@ -9,8 +9,8 @@
 
 namespace tidepool {
 
-/// An image to press that changes the pointer while it is over it. It takes the first click of an inactive
-/// window.
+/// An image to press that changes the pointer while it is over it; otherwise the pointer is what `setCursor`
+/// says. It takes the first click of an inactive window.
 class CursorButton : public platform::PushButton {
     Q_OBJECT
 
@@ -32,15 +32,20 @@ public:
 protected:
     CursorButton(std::unique_ptr<platform::ButtonCell> cell, QWidget* parent);
 
+    bool event(QEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
-    const QCursor& pointer();
+    void pushPointer();
+    void popPointer();
+    void refreshPointer();
 
     platform::Image m_cursorImage;
     QPointF m_cursorHotSpot;
-    std::optional<QCursor> m_pointer; // made when it is first used
+    bool m_isPointerInside = false;
+    std::optional<QCursor> m_pointer; // the image as it is shown
+    std::optional<QCursor> m_former;  // what it was before, if somebody has set it
 };
 
 } // namespace tidepool

@@ -4,17 +4,12 @@
 
 namespace tidepool {
 
-CursorButtonCell::CursorButtonCell() {
-    setBordered(false);
-    setImagePosition(platform::ImagePosition::imageOnly);
-}
-
 void CursorButtonCell::draw(QPainter& painter, const QRectF& frame) const {
     constexpr qreal pressed = 0.5;
     const qreal opacity = painter.opacity();
     if (isHighlighted())
         painter.setOpacity(opacity * pressed);
-    ButtonCell::draw(painter, frame);
+    ImageButtonCell::draw(painter, frame);
     painter.setOpacity(opacity);
 }
 

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "Platform/Controls/ButtonCell.h"
+#include "Tidepool/ImageButtonCell.h"
 
 namespace tidepool {
 
 /// An image alone, half as opaque while it is pressed.
-class CursorButtonCell : public platform::ButtonCell {
+class CursorButtonCell : public ImageButtonCell {
 public:
-    CursorButtonCell();
-
     void draw(QPainter& painter, const QRectF& frame) const override;
 };
 

@@ -4,11 +4,6 @@
 
 namespace tidepool {
 
-DarkHighlightButtonCell::DarkHighlightButtonCell() {
-    setBordered(false);
-    setImagePosition(platform::ImagePosition::imageOnly);
-}
-
 void DarkHighlightButtonCell::drawImage(QPainter& painter, const QRectF& frame) const {
     constexpr qreal dimmed = 0.5;
     const qreal opacity = painter.opacity();

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "Platform/Controls/ButtonCell.h"
+#include "Tidepool/ImageButtonCell.h"
 
 namespace tidepool {
 
 /// An image alone, half as opaque while it is pressed or disabled.
-class DarkHighlightButtonCell : public platform::ButtonCell {
+class DarkHighlightButtonCell : public ImageButtonCell {
 public:
-    DarkHighlightButtonCell();
-
     void drawImage(QPainter& painter, const QRectF& frame) const override;
 };
 

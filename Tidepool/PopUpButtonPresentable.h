@@ -5,6 +5,7 @@
 #include "Tidepool/PresentableMenu.h"
 #include "Tidepool/ReceiveOnMainThread.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -25,17 +26,21 @@ std::optional<RawValue<T>> rawValue(const platform::MenuItem& item) {
     return std::nullopt;
 }
 
-/// Selects the first item, in the menu and its submenus, that represents a value with this raw value; none
-/// changes nothing.
+/// Selects the first of `items` that represents a value with the raw value of `value`; none changes nothing.
+template <RawRepresentable T>
+void selectItem(platform::PopUpButton& button, const QList<platform::MenuItem*>& items, const T& value) {
+    const auto matches = [&](const platform::MenuItem* item) {
+        return rawValue<T>(*item) == Presentation<T>::rawValue(value);
+    };
+    if (const auto found = std::ranges::find_if(items, matches); found != items.end())
+        button.selectItem(*found);
+}
+
+/// Selects the first item of the menu itself, rather than of a submenu, that represents a value with this raw
+/// value; none changes nothing.
 template <RawRepresentable T>
 void selectItem(platform::PopUpButton& button, const T& matchingRawRepresentableValue) {
-    if (button.menu() == nullptr)
-        return;
-    for (platform::MenuItem* item : platform::flattenedItems(*button.menu()))
-        if (rawValue<T>(*item) == Presentation<T>::rawValue(matchingRawRepresentableValue)) {
-            button.selectItem(item);
-            return;
-        }
+    selectItem(button, button.itemArray(), matchingRawRepresentableValue);
 }
 
 /// The value that the selected item represents; absent if nothing is selected, or something else.
@@ -49,16 +54,18 @@ requires CaseIterable<T> std::optional<T> selectedRawRepresentableValue(const pl
     return std::nullopt;
 }
 
-/// Replaces the items of `button` by the choices of the value's type and selects the value. The type's title
+/// Replaces the items of `button` by the choices of the value's type and selects the value, wherever its
+/// maker has arranged it. The type's title
 /// names the button for assistive technology, unless it has a name.
 template <MenuChoice T>
 void configure(platform::PopUpButton& button, const T& withMenuPresentableValue) {
     auto menu = std::make_unique<platform::Menu>(Presentation<T>::typeTitle());
     addChoices<T>(*menu);
     button.setMenu(std::move(menu));
+    const auto choices = platform::flattenedItems(*button.menu());
     if (button.accessibleName().isEmpty())
         button.setAccessibleName(Presentation<T>::typeTitle());
-    selectItem(button, withMenuPresentableValue);
+    selectItem(button, choices, withMenuPresentableValue);
 }
 
 /// Configures `button` for `value` and keeps it in step with what `publisher` sends, from whatever thread.
@@ -74,8 +81,8 @@ void bindMenu(platform::PopUpButton& button, const T& value, platform::AnyPublis
     const QPointer<platform::PopUpButton> shown(&button);
     cancellables.push_back(receiveOnMainThread<T>(std::move(publisher))->sink([=](const T& published) {
         *current = Presentation<T>::rawValue(published);
-        if (shown)
-            selectItem(*shown, published);
+        if (shown && shown->menu() != nullptr)
+            selectItem(*shown, platform::flattenedItems(*shown->menu()), published);
     }));
     const auto choices = QObject::connect(&button, &platform::PopUpButton::itemChosen, &button,
                                           [=, &button, report = std::move(onValueChanged)] {

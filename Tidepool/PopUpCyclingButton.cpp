@@ -4,17 +4,34 @@
 #include "Tidepool/PopUpCyclingButtonCell.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 
 namespace tidepool {
 
 PopUpCyclingButton::PopUpCyclingButton(QWidget* parent)
-    : CursorButton(std::make_unique<PopUpCyclingButtonCell>(), parent) {}
+    : CursorButton(std::make_unique<PopUpCyclingButtonCell>(), parent) {
+    connect(this, &QAbstractButton::pressed, this, &PopUpCyclingButton::readShift);
+}
+
+void PopUpCyclingButton::readShift() {
+    m_goesBack = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+}
+
+void PopUpCyclingButton::mouseReleaseEvent(QMouseEvent* event) {
+    readShift();
+    CursorButton::mouseReleaseEvent(event);
+}
+
+void PopUpCyclingButton::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space)
+        readShift();
+    CursorButton::keyReleaseEvent(event);
+}
 
 bool PopUpCyclingButton::sendAction(std::optional<platform::Selector> action, QObject* target) {
     if (qobject_cast<platform::PopUpButton*>(target) == nullptr)
         return CursorButton::sendAction(action, target);
-    const bool goesBack = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
-    const platform::Selector step{goesBack ? "selectPreviousItem" : "selectNextItem"};
+    const platform::Selector step{m_goesBack ? "selectPreviousItem" : "selectNextItem"};
     return platform::sendAction(step, target, this);
 }
 

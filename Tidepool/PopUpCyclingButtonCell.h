@@ -1,16 +1,10 @@
 #pragma once
 
-#include "Platform/Controls/ButtonCell.h"
+#include "Tidepool/ImageButtonCell.h"
 
 namespace tidepool {
 
 /// An image alone, the same whether it is pressed or not.
-class PopUpCyclingButtonCell : public platform::ButtonCell {
-public:
-    PopUpCyclingButtonCell() {
-        setBordered(false);
-        setImagePosition(platform::ImagePosition::imageOnly);
-    }
-};
+class PopUpCyclingButtonCell : public ImageButtonCell {};
 
 } // namespace tidepool

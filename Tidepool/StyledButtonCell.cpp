@@ -41,7 +41,7 @@ void StyledButtonCell::drawTitle(QPainter& painter, const QRectF& frame) const {
 }
 
 void StyledButtonCell::drawImage(QPainter& painter, const QRectF& frame) const {
-    tidepool::drawImage(painter, frame, shownImage().tinted(style().textColor(controlState())), *this);
+    tidepool::drawImage(painter, frame, shownImage(), *this);
 }
 
 } // namespace tidepool

@@ -39,6 +39,9 @@ public:
     /// What the keyboard focus is drawn around when the cell has `frame`.
     virtual QRectF focusRingMaskBounds(const QRectF& frame) const;
 
+    /// The style's, whatever state the cell is in.
+    QColor controlTextColor() const override { return style().textColor(); }
+
     QRectF drawingRect(const QRectF& bounds) const override;
     QRectF imageRect(const QRectF& bounds) const override;
     QRectF titleRect(const QRectF& bounds) const override;

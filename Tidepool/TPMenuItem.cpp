@@ -32,9 +32,10 @@ struct SubmenuOfKind {
     std::unique_ptr<Menu> operator()(const auto&) const { return nullptr; }
 
 private:
-    static std::unique_ptr<Menu> filledBy(platform::MenuDelegate* delegate) {
+    static std::unique_ptr<Menu> filledBy(const std::shared_ptr<platform::MenuDelegate>& delegate) {
         auto menu = std::make_unique<Menu>();
-        menu->setDelegate(delegate);
+        menu->setDelegate(delegate.get());
+        QObject::connect(menu.get(), &QObject::destroyed, [delegate] {}); // as long as it fills the menu
         return menu;
     }
 };
@@ -57,6 +58,15 @@ std::unique_ptr<Menu> menuOf(const std::vector<AnyMenuPresentable>& values,
     return menu;
 }
 
+/// `menu`. A services menu whose place it takes stays the application's, until the item goes.
+std::unique_ptr<Menu> inPlaceOf(std::unique_ptr<Menu> former, std::unique_ptr<Menu> menu) {
+    if (former && former.get() == platform::servicesMenu()) {
+        former->setParent(menu.get(), former->windowFlags()); // a window of its own all the same
+        former.release();                                     // NOLINT(bugprone-unused-return-value)
+    }
+    return menu;
+}
+
 } // namespace
 
 TPMenuItem TPMenuItem::separator() {
@@ -72,9 +82,9 @@ std::unique_ptr<MenuItem> TPMenuItem::asMenuItem() const {
                                            modifiers);
     auto menu = std::visit(SubmenuOfKind(), menuType.kind());
     if (submenu)
-        menu = menuOf(*submenu);
+        menu = inPlaceOf(std::move(menu), menuOf(*submenu));
     else if (submenuEnum)
-        menu = menuOf(*submenuEnum, submenuEmumSelector);
+        menu = inPlaceOf(std::move(menu), menuOf(*submenuEnum, submenuEmumSelector));
     if (menu)
         item->setSubmenu(std::move(menu));
     item->target = target;

@@ -2,9 +2,9 @@
 
 #include "Platform/Controls/MenuDelegate.h"
 
-#include <QPointer>
 #include <QString>
 
+#include <memory>
 #include <utility>
 #include <variant>
 
@@ -17,13 +17,14 @@ public:
         QString title;
     };
 
-    /// The delegate fills the submenu on demand; not owned.
+    /// The delegate fills the submenu on demand. The description and the submenu keep
+    /// it alive.
     struct DocumentTemplates {
-        QPointer<platform::MenuDelegate> delegate;
+        std::shared_ptr<platform::MenuDelegate> delegate;
     };
 
     struct RecentDocuments {
-        QPointer<platform::MenuDelegate> delegate;
+        std::shared_ptr<platform::MenuDelegate> delegate;
     };
 
     struct Standard {};
@@ -37,13 +38,13 @@ public:
 
     static TPMenuType sectionHeader(QString title) { return Kind(SectionHeader{std::move(title)}); }
 
-    static TPMenuType documentTemplates(platform::MenuDelegate* delegate) {
-        return Kind(DocumentTemplates{delegate});
+    static TPMenuType documentTemplates(std::shared_ptr<platform::MenuDelegate> delegate) {
+        return Kind(DocumentTemplates{std::move(delegate)});
     }
 
     /// Usually with a `RecentDocumentsMenuDelegate`.
-    static TPMenuType recentDocuments(platform::MenuDelegate* delegate) {
-        return Kind(RecentDocuments{delegate});
+    static TPMenuType recentDocuments(std::shared_ptr<platform::MenuDelegate> delegate) {
+        return Kind(RecentDocuments{std::move(delegate)});
     }
 
     static TPMenuType standard() { return Kind(Standard{}); }

@@ -5,7 +5,7 @@
 
 namespace tidepool {
 
-/// The bezel of a tool, with a mark in its corner if there is more.
+/// The bezel of a tool, with a mark in the corner where lines end if there is more.
 class ToolButtonCell : public StyledButtonCell {
 public:
     const ToolButtonCellStyle& style() const override { return resolvedStyle<ToolButtonCellStyle>(); }
@@ -14,9 +14,11 @@ public:
 
     void setShowMoreIcon(bool shows) { m_showMoreIcon = shows; }
 
-    void drawBezel(QPainter& painter, const QRectF& frame) const override;
+    void drawInterior(QPainter& painter, const QRectF& frame) const override;
 
 private:
+    void drawMore(QPainter& painter, const QRectF& frame) const;
+
     bool m_showMoreIcon = false;
 };
 

@@ -11,35 +11,45 @@ namespace tidepool {
 
 using Clock = std::chrono::steady_clock;
 
-/// Outlives its throttler while a closure runs, so that nobody waits for it.
+namespace {
+
+/// Takes a thread that cannot be waited for, because it releases its own throttler: the next one does, or
+/// else the end of the program.
+void leave(std::jthread thread) {
+    static std::mutex mutex;
+    static std::jthread last;
+    const std::lock_guard lock(mutex);
+    std::swap(last, thread);
+}
+
+} // namespace
+
+/// Shared with its thread, whose closure may release the throttler.
 struct UIEventThrottler::Timer {
     explicit Timer(std::chrono::duration<double> seconds)
         : interval(std::max(std::chrono::duration_cast<Clock::duration>(seconds), Clock::duration(1))) {}
 
     const Clock::duration interval;
     std::mutex mutex; // guards what follows: the caller's thread and the timer's
-    std::condition_variable changed;
+    std::condition_variable_any changed;
     std::function<void()> work;
     std::optional<Clock::time_point> deadline; // none while idle
-    bool hasThread = false;
-    bool isReleased = false;
 
-    void run() {
+    void run(const std::stop_token& stop) {
         std::unique_lock lock(mutex);
-        while (!isReleased) {
-            if (!deadline)
-                changed.wait(lock);
-            else if (const auto due = *deadline; changed.wait_until(lock, due) == std::cv_status::timeout)
-                fireIfDue(lock);
+        while (!stop.stop_requested()) {
+            const auto due = deadline;
+            const auto isOther = [&] { return deadline != due; };
+            if (!due)
+                changed.wait(lock, stop, isOther);
+            else if (!changed.wait_until(lock, stop, *due, isOther) && !stop.stop_requested())
+                fire(lock);
         }
     }
 
-    void fireIfDue(std::unique_lock<std::mutex>& lock) {
-        const auto now = Clock::now();
-        if (!deadline || now < *deadline)
-            return;
+    void fire(std::unique_lock<std::mutex>& lock) {
         // What a long run or a sleeping machine has missed is not made up for.
-        *deadline += ((now - *deadline) / interval + 1) * interval;
+        *deadline += ((Clock::now() - *deadline) / interval + 1) * interval;
         auto current = work;
         lock.unlock();
         current();
@@ -62,20 +72,21 @@ UIEventThrottler::UIEventThrottler(std::chrono::duration<double> interval)
 
 UIEventThrottler::~UIEventThrottler() {
     cancel();
-    const std::lock_guard lock(m_timer->mutex);
-    m_timer->isReleased = true;
-    m_timer->changed.notify_all();
+    m_thread.request_stop();
+    if (m_thread.get_id() == std::this_thread::get_id())
+        leave(std::move(m_thread));
 }
 
 void UIEventThrottler::throttle(std::function<void()> work) {
+    if (!m_thread.joinable())
+        m_thread = std::jthread([timer = m_timer](const std::stop_token& stop) { timer->run(stop); });
+    // Last: the closure may release the throttler.
     const auto former = m_timer->replace(std::move(work), Clock::now() + m_timer->interval);
-    const std::lock_guard lock(m_timer->mutex);
-    if (!std::exchange(m_timer->hasThread, true))
-        std::thread([timer = m_timer] { timer->run(); }).detach();
 }
 
 void UIEventThrottler::cancel() {
-    const auto former = m_timer->replace(nullptr, std::nullopt);
+    const auto timer = m_timer; // what the closure captured may release the throttler
+    const auto former = timer->replace(nullptr, std::nullopt);
 }
 
 } // namespace tidepool

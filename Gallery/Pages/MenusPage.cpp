@@ -76,9 +76,8 @@ void addContextMenu(LiveRow& row) {
 }
 
 void addDocuments(LiveRow& row) {
-    auto* const documents = new DemoDocuments;
-    documents->setParent(&row);
-    QObject::connect(documents, &DemoDocuments::opened, &row,
+    const auto documents = std::make_shared<DemoDocuments>();
+    QObject::connect(documents.get(), &DemoDocuments::opened, &row,
                      [&row](const QString& name) { row.say(name + u" opened"); });
     auto& file = row.add(new PullDownButton);
     file.setMenu(tidepool::asMenu({{.title = QStringLiteral("File")},

@@ -1,7 +1,6 @@
 #include "Platform/Controls/Button.h"
 
 #include <QFontMetricsF>
-#include <QKeyEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -10,7 +9,7 @@
 namespace platform {
 
 Button::Button(const QString& title, std::unique_ptr<ButtonStyle> style, QWidget* parent)
-    : QAbstractButton(parent), m_style(std::move(style)) {
+    : BaseButton(parent), m_style(std::move(style)) {
     setText(title);
     setFont(m_style->font());
     setFocusPolicy(Qt::TabFocus);
@@ -33,13 +32,6 @@ void Button::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(font());
     m_style->paint(painter, {text(), QRectF(rect()), isDown(), isEnabled(), hasFocus()});
-}
-
-void Button::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        animateClick();
-    else
-        QAbstractButton::keyPressEvent(event);
 }
 
 } // namespace platform

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "Platform/Controls/BaseButton.h"
 #include "Platform/Controls/ButtonStyle.h"
-
-#include <QAbstractButton>
 
 #include <memory>
 
 namespace platform {
 
 /// A push button whose look is a value: it is pressed by the pointer, by Space and by Return.
-class Button : public QAbstractButton {
+class Button : public BaseButton {
     Q_OBJECT
 
 public:
@@ -24,7 +23,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     std::unique_ptr<ButtonStyle> m_style;

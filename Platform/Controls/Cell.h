@@ -70,8 +70,9 @@ public:
     /// Pixels in a point where the cell is shown; that of the main screen without a control.
     qreal backingScale() const;
 
-    /// The colour of a control's text in the control's palette.
-    QColor controlTextColor() const;
+    /// The colour of an enabled control's text, which templates take: the one of the control's palette,
+    /// unless a style says otherwise.
+    virtual QColor controlTextColor() const;
 
     /// The part of `bounds` that the frame leaves to the content.
     virtual QRectF drawingRect(const QRectF& bounds) const { return bounds; }

@@ -1,6 +1,7 @@
 #include "Platform/Controls/Menu.h"
 
 #include "Platform/Controls/MenuStyle.h"
+#include "Platform/Controls/PressKey.h"
 
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -28,6 +29,28 @@ bool isValid(MenuItem& item) {
 bool isEnabledByUse(const MenuItem& item) {
     return item.action && item.submenu() == nullptr;
 }
+
+/// Closes an open menu that its view can no longer use. One that is the view's child is disabled with it, and
+/// would keep all input to itself.
+class ClosesWithItsView : public QObject {
+public:
+    ClosesWithItsView(QMenu& menu, QWidget& view) : QObject(&menu), m_menu(menu), m_view(view) {
+        view.installEventFilter(this);
+        connect(&view, &QObject::destroyed, this, [this] { m_menu.close(); });
+        connect(&menu, &QMenu::aboutToHide, this, &QObject::deleteLater);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        const bool isDisabled = event->type() == QEvent::EnabledChange && !m_view.isEnabled();
+        if (isDisabled || event->type() == QEvent::Hide)
+            m_menu.close();
+        return false;
+    }
+
+private:
+    QMenu& m_menu;
+    QWidget& m_view;
+};
 
 } // namespace
 
@@ -92,6 +115,8 @@ void Menu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) 
 }
 
 void Menu::keyPressEvent(QKeyEvent* event) {
+    if (event->isAutoRepeat() && isPressKey(*event))
+        return; // still held from opening the menu
     if (!m_typeAhead.takes(*event)) {
         const QScopedValueRollback handling(m_isHandlingInput, true);
         QMenu::keyPressEvent(event);
@@ -112,6 +137,8 @@ void Menu::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {
+    if (!view.isEnabled())
+        return;
     menu.setLayoutDirection(view.layoutDirection());
     menu.setNoReplayFor(&view);
     const bool isRightToLeft = menu.isRightToLeft();
@@ -125,6 +152,7 @@ void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {
             filled->updateItems();
         point.rx() -= menu.sizeHint().expandedTo(menu.minimumSize()).width();
     }
+    new ClosesWithItsView(menu, view);
     menu.popup(view.mapToGlobal(point), shown);
     if (shown)
         menu.setActiveAction(shown);

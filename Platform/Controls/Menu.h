@@ -72,7 +72,7 @@ private:
 
 /// Shows `menu` with `item`, or without one itself, with the corner above where lines begin at `point` of
 /// `view`, in points, as far as the screen allows, and returns at once. A press on `view` then closes the
-/// menu and is not passed on.
+/// menu and is not passed on; so does disabling, hiding or destroying `view`. A disabled view opens nothing.
 void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view);
 
 /// All items of a menu and of its submenus, each item before those of its submenu.

@@ -9,8 +9,9 @@ class QWidget;
 namespace platform {
 
 /// The pointer's hold on a control, from the press to its end. It ends exactly once: with the release, by
-/// Escape, or interrupted when the control is disabled or hidden, another window blocks its window, or this
-/// object goes. While it lasts Escape reaches nobody else. Main thread.
+/// Escape, or interrupted: when the control is disabled or hidden, another window blocks its window, a menu,
+/// a drag or the window manager takes the pointer and with it the release, or this object goes. While it
+/// lasts Escape reaches nobody else. A key that holds the control is tracked the same way. Main thread.
 class PointerTracking : public QObject {
     Q_OBJECT
 
@@ -32,8 +33,10 @@ protected:
 
 private:
     void end(End end);
+    bool isTakenBy(const QObject& watched, const QEvent& event) const;
 
     QWidget& m_control;
+    const bool m_isPointer;           // rather than a key
     std::function<void(End)> m_onEnd; // empty after the end
 };
 

@@ -54,11 +54,11 @@ PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
 }
 
 PopUpButton::~PopUpButton() {
-    delete m_menu;
+    delete std::exchange(m_menu, nullptr);
 }
 
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
-    delete m_menu;
+    delete std::exchange(m_menu, nullptr);
     m_selected = nullptr;
     m_menu = menu.release();
     PushButton::setMenu(m_menu);
@@ -136,9 +136,21 @@ void PopUpButton::itemAdded(MenuItem& item) {
         selectFirstItem();
 }
 
+void PopUpButton::hideTitleItem() {
+    MenuItem* const first = m_pullsDown ? itemArray().value(0) : nullptr;
+    if (first == m_titleItem)
+        return;
+    // Both are told of before they change, for each change comes back here.
+    const QPointer<QAction> former = std::exchange(m_titleItem, first);
+    const bool wasShown = std::exchange(m_isTitleItemShown, first != nullptr && first->isVisible());
+    if (qobject_cast<MenuItem*>(former) != nullptr)
+        former->setVisible(wasShown);
+    if (first != nullptr)
+        first->setVisible(false);
+}
+
 void PopUpButton::itemsChanged() {
-    if (const auto items = itemArray(); m_pullsDown && !items.isEmpty())
-        items.front()->setVisible(false);
+    hideTitleItem();
     updateGeometry();
     const QString text = title().replace(u'&', QStringLiteral("&&"));
     if (text == this->text())
@@ -257,7 +269,8 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_F4:
-        openMenu();
+        if (!event->isAutoRepeat())
+            openMenu();
         break;
     case Qt::Key_Down:
         opens ? openMenu() : step(selected + 1, 1);

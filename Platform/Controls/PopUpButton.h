@@ -88,6 +88,7 @@ private:
     void selectFirstItem();
     void itemAdded(MenuItem& item);
     void itemsChanged();
+    void hideTitleItem();
     int titleOverhang() const;
     void choose(MenuItem* item);
     void chooseAndSend(MenuItem* item);
@@ -97,7 +98,9 @@ private:
 
     const bool m_pullsDown;
     Menu* m_menu = nullptr;
-    QPointer<QAction> m_selected; // what is left of an item that is being destroyed is no item
+    QPointer<QAction> m_selected;   // what is left of an item that is being destroyed is no item
+    QPointer<QAction> m_titleItem;  // of one that pulls down, whose menu does not show it
+    bool m_isTitleItemShown = true; // unless it is the title
     TypeAhead m_typeAhead;
 };
 

@@ -7,7 +7,6 @@
 
 #include <QAccessible>
 #include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -21,7 +20,7 @@ PushButton::PushButton(const QString& title, QWidget* parent)
     : PushButton(title, std::make_unique<ButtonCell>(), parent) {}
 
 PushButton::PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, QWidget* parent)
-    : QAbstractButton(parent), m_cell(std::move(cell)) {
+    : BaseButton(parent), m_cell(std::move(cell)) {
     installPushButtonAccessibility();
     setText(title);
     setFocusPolicy(Qt::TabFocus);
@@ -31,8 +30,11 @@ PushButton::PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, Q
 }
 
 PushButton::~PushButton() {
-    // Once the members of subclasses have gone there is nothing to end.
+    // Once the members of subclasses have gone there is nothing to end, and nobody to tell.
+    const QSignalBlocker nobodyHears(this);
     m_tracking.reset();
+    if (m_openMenu != nullptr)
+        m_openMenu->close(); // while this can still hear of it
 }
 
 ButtonCell& PushButton::cell() const {
@@ -100,7 +102,7 @@ QSize PushButton::sizeHint() const {
 }
 
 void PushButton::nextCheckState() {
-    if (!m_isPressOver && m_cell->showsStateBy() != ButtonCell::none)
+    if (!isPressOver() && m_cell->showsStateBy() != ButtonCell::none)
         setState(m_cell->nextState());
 }
 
@@ -115,7 +117,7 @@ void PushButton::draw(QPainter& painter) {
 // The view's font and colours would cost a fourteenth of a repaint, and no cell asks for them.
 void PushButton::initPainter(QPainter* painter) const {
     if (!m_isMakingPainter)
-        QAbstractButton::initPainter(painter);
+        BaseButton::initPainter(painter);
 }
 
 void PushButton::paintEvent(QPaintEvent*) {
@@ -138,7 +140,11 @@ bool PushButton::isTracking() const {
 }
 
 void PushButton::beginTracking(QMouseEvent&) {
-    m_tracking = std::make_unique<PointerTracking>(*this, [this](PointerTracking::End) { endTracking(); });
+    m_tracking = std::make_unique<PointerTracking>(*this, [this](PointerTracking::End end) {
+        endTracking();
+        if (end != PointerTracking::End::released)
+            Q_EMIT released();
+    });
     setDown(true);
     Q_EMIT pressed();
 }
@@ -159,8 +165,10 @@ void PushButton::popUp(QMenu& menu, QPoint position, QAction* item) {
     connect(&menu, &QMenu::aboutToHide, this, &PushButton::menuClosed, Qt::UniqueConnection);
     connect(&menu, &QMenu::destroyed, this, qOverload<>(&QWidget::update), Qt::UniqueConnection);
     m_openMenu = &menu;
-    update();
     platform::popUp(menu, item, position, *this);
+    if (m_openMenu != nullptr && !m_openMenu->isVisible())
+        menuClosed(); // it has not opened, since this is disabled
+    update();
 }
 
 void PushButton::menuClosed() {
@@ -194,17 +202,15 @@ void PushButton::mouseReleaseEvent(QMouseEvent* event) {
     if (isInside) {
         // Not `click`, which would begin with another press.
         setDown(true);
-        QAbstractButton::mouseReleaseEvent(event);
+        BaseButton::mouseReleaseEvent(event);
     } else {
         Q_EMIT released();
     }
 }
 
-void PushButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        animateClick();
-    else
-        QAbstractButton::keyPressEvent(event);
+/// Without the focus a key no longer holds the button, but the pointer does.
+void PushButton::focusOutEvent(QFocusEvent* event) {
+    isTracking() ? update() : BaseButton::focusOutEvent(event);
 }
 
 void PushButton::contextMenuEvent(QContextMenuEvent* event) {
@@ -216,28 +222,9 @@ void PushButton::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void PushButton::changeEvent(QEvent* event) {
-    QAbstractButton::changeEvent(event);
+    BaseButton::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
         updateGeometry();
-}
-
-void PushButton::hideEvent(QHideEvent* event) {
-    setDown(false);
-    if (m_openMenu != nullptr)
-        m_openMenu->close();
-    QAbstractButton::hideEvent(event);
-}
-
-/// Qt clicks a while after Return or the mnemonic, also if the button was disabled or hidden meanwhile.
-void PushButton::timerEvent(QTimerEvent* event) {
-    if (isDown()) {
-        QAbstractButton::timerEvent(event);
-        return;
-    }
-    const QSignalBlocker nobodyHears(this);
-    m_isPressOver = true;
-    QAbstractButton::timerEvent(event);
-    m_isPressOver = false;
 }
 
 } // namespace platform

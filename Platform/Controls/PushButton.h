@@ -1,9 +1,8 @@
 #pragma once
 
+#include "Platform/Controls/BaseButton.h"
 #include "Platform/Controls/ButtonCell.h"
 #include "Platform/Controls/Control.h"
-
-#include <QAbstractButton>
 
 #include <memory>
 
@@ -16,8 +15,10 @@ class PointerTracking;
 
 /// A button that a cell draws. It is pressed by the pointer, by Space, by Return and by the mnemonic in its
 /// text; then it goes to its next state, sends its action and emits `clicked`. A press ends without a click
-/// when the pointer is released outside, or Escape is pressed, or the button is hidden or disabled.
-class PushButton : public QAbstractButton, public Control {
+/// when the pointer is released outside, or Escape is pressed, or the button is hidden or disabled, or its
+/// press opens a menu or starts a drag. Every `pressed` is followed by one `released`, unless the button is
+/// destroyed.
+class PushButton : public BaseButton, public Control {
     Q_OBJECT
 
 public:
@@ -115,11 +116,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
 
 private:
     void menuClosed();
@@ -128,7 +127,6 @@ private:
     QPointer<QMenu> m_menu;
     QPointer<QMenu> m_openMenu; // while it is open
     qreal m_alphaValue = 1;
-    bool m_isPressOver = false;                  // while Qt clicks for a press that has ended
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
     bool m_isMakingPainter = false;
 };

@@ -2,7 +2,6 @@
 
 #include "Platform/Controls/ButtonStyle.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 
 namespace platform {
@@ -14,7 +13,7 @@ constexpr int diameter = 24;
 } // namespace
 
 WindowButton::WindowButton(Kind kind, const QString& name, QWidget* parent)
-    : QAbstractButton(parent), m_kind(kind) {
+    : BaseButton(parent), m_kind(kind) {
     setAccessibleName(name);
     setToolTip(name);
     setFocusPolicy(Qt::TabFocus);
@@ -65,20 +64,13 @@ void WindowButton::paintGlyph(QPainter& painter) const {
     }
 }
 
-void WindowButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
-}
-
 void WindowButton::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
+    BaseButton::enterEvent(event);
     update();
 }
 
 void WindowButton::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
+    BaseButton::leaveEvent(event);
     update();
 }
 

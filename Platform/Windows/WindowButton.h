@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "Platform/Controls/BaseButton.h"
 
 namespace platform {
 
 /// A small round button of a window without a title bar.
-class WindowButton : public QAbstractButton {
+class WindowButton : public BaseButton {
     Q_OBJECT
 
 public:
@@ -20,7 +20,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 

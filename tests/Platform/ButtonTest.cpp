@@ -111,6 +111,25 @@ TEST_F(ButtonTest, TabReachesItAndKeysPressIt) {
     }
 }
 
+TEST_F(ButtonTest, AKeyThatIsHeldPressesOnce) {
+    QTest::keyPress(&m_button, Qt::Key_Return);
+    for (int i = 0; i < 3; ++i) {
+        QTest::qWait(130);
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+        QApplication::sendEvent(&m_button, &repeated);
+    }
+    QTest::keyRelease(&m_button, Qt::Key_Return);
+    QTest::qWait(130);
+    EXPECT_EQ(m_clicks.count(), 1);
+}
+
+TEST_F(ButtonTest, DisablingCancelsWhatReturnHasPressed) {
+    QTest::keyClick(&m_button, Qt::Key_Return);
+    m_button.setEnabled(false);
+    QTest::qWait(150);
+    EXPECT_EQ(m_clicks.count(), 0);
+}
+
 TEST_F(ButtonTest, DisabledIgnoresEverything) {
     m_button.setEnabled(false);
     EXPECT_FALSE(painted().isEnabled);

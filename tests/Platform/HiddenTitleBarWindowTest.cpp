@@ -102,7 +102,7 @@ TEST_F(HiddenTitleBarWindowTest, TabVisitsEveryControlOnce) {
     EXPECT_EQ(QSet<QWidget*>(visited.begin(), visited.end()), controls);
     button(QStringLiteral("Close"))->setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_FALSE(m_window.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window.isVisible(); }));
 }
 
 TEST_F(HiddenTitleBarWindowTest, ButtonsAreNamedForAssistiveTechnology) {

@@ -242,6 +242,9 @@ TEST_F(MenuTest, TypingFindsTheBeginningOfATitle) {
     pause();
     EXPECT_EQ(typed(QStringLiteral("b")), QStringLiteral("Bass")) << "around the end";
     pause();
+    EXPECT_EQ(typed(QStringLiteral("g")), QStringLiteral("Grand piano"));
+    EXPECT_EQ(typed(QStringLiteral("r")), QStringLiteral("Grand piano")) << "it still matches";
+    pause();
     EXPECT_EQ(typed(QStringLiteral("GRAND O")), QStringLiteral("Grand organ"));
     pause();
     EXPECT_EQ(typed(QStringLiteral("go")), QStringLiteral("Grand piano")) << "not what is disabled";

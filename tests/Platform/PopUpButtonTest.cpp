@@ -227,6 +227,32 @@ TEST_F(PopUpButtonTest, PullDownShowsItsTitleAndAMenuOfTheRest) {
     EXPECT_FALSE(m_pullDown.itemArray()[2]->isCheckable());
 }
 
+TEST_F(PopUpButtonTest, ThePullDownsTitleIsItsFirstItemWhicheverThatIs) {
+    const auto shown = [this] {
+        QStringList titles;
+        for (const MenuItem* item : m_pullDown.itemArray())
+            if (item->isVisible())
+                titles << item->title();
+        return titles.join(u' ');
+    };
+    for (const auto* title : {"Actions", "Copy", "Remove"})
+        m_pullDown.addItem(QString::fromLatin1(title));
+    m_pullDown.itemArray()[2]->setVisible(false);
+    auto* const more = new MenuItem(QStringLiteral("More"));
+    more->setParent(m_pullDown.menu());
+    m_pullDown.menu()->insertAction(m_pullDown.itemArray().front(), more);
+    EXPECT_EQ(m_pullDown.title(), QStringLiteral("More"));
+    EXPECT_EQ(shown(), QStringLiteral("Actions Copy"));
+    delete more;
+    EXPECT_EQ(m_pullDown.title(), QStringLiteral("Actions"));
+    EXPECT_EQ(shown(), QStringLiteral("Copy"));
+    m_pullDown.menu()->removeAction(m_pullDown.itemArray().front());
+    m_pullDown.menu()->removeAction(m_pullDown.itemArray().front());
+    EXPECT_EQ(m_pullDown.title(), QStringLiteral("Remove"));
+    m_pullDown.menu()->insertAction(m_pullDown.itemArray().front(), new MenuItem(QStringLiteral("New")));
+    EXPECT_EQ(shown(), QString()) << "what its owner has hidden stays so";
+}
+
 TEST_F(PopUpButtonTest, CyclingSkipsWhatCannotBeChosenAndWrapsToWhatIsThere) {
     fill(QStringLiteral("Ab-C"));
     EXPECT_EQ(cycled(next), QStringLiteral("C"));
@@ -251,13 +277,68 @@ TEST_F(PopUpButtonTest, CyclingWrapsWithinOneItemAndNone) {
     EXPECT_EQ(cycled(previous), QStringLiteral("B")) << "though it is disabled";
 }
 
-TEST_F(PopUpButtonTest, ClosesItsMenuWhenItIsHidden) {
+TEST_F(PopUpButtonTest, ClosesItsMenuWhenItCanNoLongerBeUsed) {
     fill(QStringLiteral("AB"));
-    QTest::mousePress(&m_button, Qt::LeftButton);
-    ASSERT_TRUE(m_button.menu()->isVisible());
-    m_window.hide();
-    EXPECT_FALSE(m_button.menu()->isVisible());
-    EXPECT_FALSE(m_button.cell().isHighlighted());
+    platform::PushButton other(QStringLiteral("Other"), &m_window);
+    other.setGeometry(300, 250, 60, 24);
+    other.show();
+    QSignalSpy clicks(&other, &platform::PushButton::clicked);
+    const auto end = [this](bool hides) { hides ? m_button.hide() : m_button.setEnabled(false); };
+    for (const bool hides : {true, false}) {
+        SCOPED_TRACE(hides);
+        clicks.clear();
+        QTest::mousePress(&m_button, Qt::LeftButton);
+        ASSERT_TRUE(m_button.menu()->isVisible());
+        end(hides);
+        EXPECT_FALSE(m_button.menu()->isVisible());
+        EXPECT_FALSE(m_button.cell().isHighlighted());
+        // As the desktop delivers it: an open menu would get it first.
+        QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, QPoint(330, 262));
+        EXPECT_EQ(clicks.count(), 1);
+        m_button.show();
+    }
+    m_button.openMenu();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "it is disabled";
+    m_button.setEnabled(true);
+
+    Menu ofDestroyed;
+    ofDestroyed.addItem(QStringLiteral("A"));
+    {
+        const QWidget view(&m_window);
+        popUp(ofDestroyed, nullptr, {}, const_cast<QWidget&>(view));
+        EXPECT_TRUE(ofDestroyed.isVisible());
+    }
+    EXPECT_FALSE(ofDestroyed.isVisible());
+}
+
+TEST_F(PopUpButtonTest, AKeyThatIsHeldOpensTheMenuAndChoosesNothing) {
+    fill(QStringLiteral("AB"));
+    const auto repeat = [](QWidget& widget, Qt::Key key) {
+        QKeyEvent repeated(QEvent::KeyPress, key, {}, {}, true);
+        QApplication::sendEvent(&widget, &repeated);
+    };
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        QTest::keyPress(&m_button, key);
+        ASSERT_TRUE(m_button.menu()->isVisible());
+        repeat(*m_button.menu(), key);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(m_button.menu()->isVisible()) << key;
+        QTest::keyClick(m_button.menu(), Qt::Key_Escape);
+        repeat(m_button, key);
+        EXPECT_FALSE(m_button.menu()->isVisible()) << key;
+        m_button.menu()->close();
+    }
+    EXPECT_TRUE(m_owner.selected.isEmpty());
+}
+
+TEST_F(PopUpButtonTest, ItsTitleKeepsClearOfTheArrowsFromRightToLeft) {
+    const QRectF bounds(0, 0, 120, 24);
+    const QRectF leftToRight = m_button.cell().titleRect(bounds);
+    EXPECT_LT(leftToRight.left(), 120 - leftToRight.right());
+    m_button.setLayoutDirection(Qt::RightToLeft);
+    const QRectF rightToLeft = m_button.cell().titleRect(bounds);
+    EXPECT_EQ(rightToLeft.left(), 120 - leftToRight.right());
+    EXPECT_EQ(rightToLeft.right(), 120 - leftToRight.left());
 }
 
 TEST_F(PopUpButtonTest, MayBeDestroyedByItsChoice) {

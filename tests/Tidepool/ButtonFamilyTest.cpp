@@ -6,6 +6,7 @@
 #include "Tidepool/DarkHighlightButton.h"
 #include "Tidepool/FavouriteCheckBox.h"
 #include "Tidepool/NoDividerSplitView.h"
+#include "Tidepool/PopUpContextMenu.h"
 #include "Tidepool/PopUpCyclingButton.h"
 #include "Tidepool/StyledCheckBox.h"
 #include "Tidepool/TPImages.h"
@@ -109,6 +110,12 @@ TEST(CornerButton, OpensItsMenuUnderItself) {
     EXPECT_TRUE(opens([&] { QTest::keyClick(&button, Qt::Key_Return); }));
     EXPECT_TRUE(opens([&] { button.click(); })) << "as its mnemonic and assistive technology do";
     EXPECT_EQ(target.count, 0);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    EXPECT_FALSE(opens([&] { QApplication::sendEvent(&button, &repeated); })) << "a key that is still held";
+    button.setEnabled(false);
+    menu.setEnabled(false);
+    EXPECT_FALSE(opens([&] { popUpContextMenu(button); }));
+    button.setEnabled(true);
     button.setAlternateMenu(nullptr);
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(target.count, 1);
@@ -137,6 +144,49 @@ TEST(CursorButton, ShowsItsPointerWhileThePointerIsOverIt) {
     EXPECT_EQ(button.cursor().hotSpot(), QPoint(3, 4));
     leave();
     EXPECT_EQ(button.cursor().shape(), Qt::ArrowCursor);
+
+    button.setCursor(Qt::PointingHandCursor);
+    enter();
+    EXPECT_EQ(button.cursor().shape(), Qt::BitmapCursor);
+    leave();
+    EXPECT_EQ(button.cursor().shape(), Qt::PointingHandCursor) << "what a client has set is there again";
+    enter();
+    button.setCursor(Qt::BusyCursor);
+    leave();
+    EXPECT_EQ(button.cursor().shape(), Qt::BusyCursor) << "also what it has set meanwhile";
+    enter();
+    button.setCursorImage({});
+    EXPECT_EQ(button.cursor().shape(), Qt::BusyCursor);
+}
+
+TEST(CursorButton, ItsPointerIsSharpOnEveryScreen) {
+    class MovedButton : public CursorButton {
+    public:
+        qreal scale = 1;
+
+    protected:
+        int metric(PaintDeviceMetric metric) const override {
+            if (metric == PdmDevicePixelRatio)
+                return static_cast<int>(scale);
+            return metric == PdmDevicePixelRatioScaled ? static_cast<int>(scale * devicePixelRatioFScale())
+                                                       : CursorButton::metric(metric);
+        }
+    };
+
+    MovedButton button;
+    button.setCursorImage(TPImagesAK::cursorTrackingSlider.image());
+    QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
+    QApplication::sendEvent(&button, &enter);
+    EXPECT_EQ(button.cursor().pixmap().devicePixelRatio(), 1);
+    button.scale = 2;
+    QEvent moved(QEvent::ScreenChangeInternal);
+    QApplication::sendEvent(&button, &moved);
+    EXPECT_EQ(button.cursor().pixmap().devicePixelRatio(), 2) << "while the pointer is over it";
+    button.scale = 1;
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&button, &leave);
+    QApplication::sendEvent(&button, &enter);
+    EXPECT_EQ(button.cursor().pixmap().devicePixelRatio(), 1);
 }
 
 TEST(CursorButton, IsHalfAsOpaqueWhilePressed) {
@@ -173,10 +223,44 @@ TEST(PopUpCyclingButton, StepsItsPopUpButtonAndTreatsOthersAsUsual) {
     EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("B"));
     QTest::mouseClick(&button, Qt::LeftButton, Qt::ShiftModifier);
     EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("A"));
+    const auto pressReturn = [&](Qt::KeyboardModifiers then, Qt::KeyboardModifiers later) {
+        const QString before = popUp.titleOfSelectedItem();
+        QTest::keyPress(&button, Qt::Key_Return, then);
+        QTest::keyRelease(&button, Qt::Key_Return, later);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return popUp.titleOfSelectedItem() != before; }));
+        return popUp.titleOfSelectedItem();
+    };
+    EXPECT_EQ(pressReturn({}, Qt::ShiftModifier), QStringLiteral("B")) << "Shift came after the key";
+    EXPECT_EQ(pressReturn(Qt::ShiftModifier, {}), QStringLiteral("A")) << "Shift has gone since";
+    QTest::mousePress(&button, Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("B")) << "the release is the click";
     ActionCounter other;
     button.setTarget(&other);
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(other.count, 1);
+}
+
+TEST(ButtonCells, KeepTheRoomOfTheirTitlesOnTheSideWhereLinesBegin) {
+    BackButton back(QStringLiteral("Back"));
+    StyledCheckBox box(QStringLiteral("A box"));
+    for (platform::PushButton* const button : std::initializer_list<platform::PushButton*>{&back, &box})
+        for (const qreal width : {90, 30}) { // more than the title needs, and less
+            SCOPED_TRACE(button->metaObject()->className());
+            const QRectF bounds(0, 0, width, 31);
+            const auto rects = [&](Qt::LayoutDirection direction) {
+                button->setLayoutDirection(direction);
+                const platform::ButtonCell& cell = button->cell();
+                const QRectF inner = cell.drawingRect(bounds);
+                return std::pair(cell.titleRect(inner), cell.imageRect(inner));
+            };
+            const auto [title, image] = rects(Qt::LeftToRight);
+            const auto [otherTitle, otherImage] = rects(Qt::RightToLeft);
+            EXPECT_NEAR(otherTitle.left(), width - title.right(), 1);
+            EXPECT_NEAR(otherTitle.right(), width - title.left(), 1);
+            EXPECT_NEAR(otherImage.left(), width - image.right(), 1);
+            EXPECT_NE(title.left(), width - title.right()) << "there is something to mirror";
+        }
 }
 
 TEST(StyledCheckBox, ClicksAlternateAndNeverMix) {
@@ -212,6 +296,9 @@ TEST(FavouriteCheckBox, ShowsItsStarAndDimsWhileHeld) {
     const QImage empty = picture(star);
     QTest::mousePress(&star, Qt::LeftButton);
     EXPECT_EQ(star.alphaValue(), 0.5);
+    QTest::keyClick(&star, Qt::Key_Escape);
+    EXPECT_EQ(star.alphaValue(), 1) << "whatever ends the press";
+    QTest::mousePress(&star, Qt::LeftButton);
     QTest::mouseRelease(&star, Qt::LeftButton);
     EXPECT_EQ(star.alphaValue(), 1);
     EXPECT_EQ(star.state(), ControlState::on);
@@ -294,6 +381,36 @@ TEST_F(ToolButtonTest, MenuKeyReachesWhatHoldingDoes) {
     EXPECT_EQ(menu.openedAt(m_button), QPoint(0, 28));
 }
 
+TEST_F(ToolButtonTest, MarkOfMoreStandsInTheCornerWhereLinesEndWithOrWithoutABorder) {
+    for (const bool isBordered : {true, false}) {
+        m_button.setBordered(isBordered);
+        const auto mark = [this](Qt::LayoutDirection direction) {
+            m_button.setLayoutDirection(direction);
+            m_button.setShowMoreIcon(false);
+            const QImage without = picture(m_button);
+            m_button.setShowMoreIcon(true);
+            const QImage with = picture(m_button);
+            QImage changed(with.size(), QImage::Format_RGB32);
+            for (int y = 0; y < with.height(); ++y)
+                for (int x = 0; x < with.width(); ++x)
+                    changed.setPixel(x, y,
+                                     difference(with.pixel(x, y), without.pixel(x, y)) > 12 ? 0xffffff : 0);
+            return changed;
+        };
+        const QImage leftToRight = mark(Qt::LeftToRight);
+        const auto isMarked = [&](int from, int to) {
+            for (int y = 12; y < 24; ++y)
+                for (int x = from; x < to; ++x)
+                    if ((leftToRight.pixel(x, y) & 0xff) != 0)
+                        return true;
+            return false;
+        };
+        EXPECT_TRUE(isMarked(15, 30)) << isBordered;
+        EXPECT_FALSE(isMarked(0, 15)) << isBordered;
+        EXPECT_EQ(difference(mark(Qt::RightToLeft), leftToRight.mirrored(true, false)), 0) << isBordered;
+    }
+}
+
 TEST(ClickableImageView, ClicksAndDimsOnlyWhileEnabled) {
     ClickableImageView view(TPImages::checkboxOn.image(), QStringLiteral("Picture"));
     view.resize(16, 16);
@@ -309,7 +426,10 @@ TEST(ClickableImageView, ClicksAndDimsOnlyWhileEnabled) {
     QTest::mouseRelease(&view, Qt::LeftButton, {}, {40, 8});
     EXPECT_EQ(clicks, 1);
     QTest::keyClick(&view, Qt::Key_Space);
-    EXPECT_EQ(clicks, 2);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QApplication::sendEvent(&view, &repeated);
+    EXPECT_EQ(clicks, 2) << "a key that is held presses once";
+    EXPECT_TRUE(repeated.isAccepted()) << "and is nobody else's";
     QTest::mousePress(&view, Qt::LeftButton, {}, {8, 8});
     view.setEnabled(false);
     EXPECT_EQ(view.alphaValue(), 1);

@@ -9,7 +9,11 @@
 #include "Tidepool/VantorPushButton.h"
 #include "tests/support/ActionCounter.h"
 
+#include <QButtonGroup>
+#include <QDragEnterEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
 #include <QPointingDevice>
 #include <QShortcut>
 #include <QSignalSpy>
@@ -17,37 +21,72 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
+#include <functional>
+#include <map>
 
 using namespace tidepool;
 
 namespace {
 
+/// Counts the presses of a key that a widget gets.
+class KeyCounter : public QObject {
+public:
+    explicit KeyCounter(QWidget& widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::KeyPress ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 /// One button in a window with a shortcut for Escape and a field that has the keyboard.
-template <typename Button>
 class ButtonInputTest : public testing::Test {
 protected:
     ButtonInputTest() : m_field(&m_window), m_escape(QKeySequence(Qt::Key_Escape), &m_window) {
         m_window.resize(200, 100);
-        m_button = new Button;
-        m_button->setParent(&m_window);
-        m_button->setGeometry(40, 40, 60, 30);
-        m_button->setAction(ActionCounter::first, &m_target);
+        add(new StyledButton);
         m_window.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
         m_field.setFocus();
     }
 
+    void add(platform::PushButton* button) {
+        m_button = button;
+        button->setParent(&m_window);
+        button->setGeometry(40, 40, 60, 30);
+        button->setAction(ActionCounter::first, &m_target);
+        button->show();
+    }
+
     void press() { QTest::mousePress(m_button, Qt::LeftButton, {}, inside()); }
 
-    void move(QPoint position) {
+    void move(QPoint position, Qt::MouseButtons buttons = Qt::LeftButton) {
         // Qt's own test moves carry no button.
         QMouseEvent event(QEvent::MouseMove, QPointF(position), m_button->mapToGlobal(QPointF(position)),
-                          Qt::NoButton, Qt::LeftButton, {});
+                          Qt::NoButton, buttons, {});
         QApplication::sendEvent(m_button, &event);
     }
 
     void release(QPoint position) { QTest::mouseRelease(m_button, Qt::LeftButton, {}, position); }
+
+    void click() {
+        press();
+        release(inside());
+    }
+
+    /// Held for a while, as a keyboard repeats it.
+    void hold(Qt::Key key) {
+        QTest::keyPress(m_button, key);
+        for (int i = 0; i < 3; ++i) {
+            QTest::qWait(130);
+            QKeyEvent repeated(QEvent::KeyPress, key, {}, {}, true);
+            QApplication::sendEvent(m_button, &repeated);
+        }
+        QTest::keyRelease(m_button, key);
+        QTest::qWait(130);
+    }
 
     QPoint inside() const { return {30, 15}; }
 
@@ -57,153 +96,207 @@ protected:
     QLineEdit m_field;
     QShortcut m_escape;
     ActionCounter m_target;
-    QPointer<Button> m_button;
+    QPointer<platform::PushButton> m_button;
 };
-
-using Buttons = testing::Types<platform::PushButton, StyledButton, StyledCheckBox, FavouriteCheckBox,
-                               BackButton, CornerButton, CursorButton, DarkHighlightButton,
-                               PopUpCyclingButton, ToolButton, VantorPushButton>;
-TYPED_TEST_SUITE(ButtonInputTest, Buttons);
 
 } // namespace
 
-TYPED_TEST(ButtonInputTest, ClickSendsTheActionOnRelease) {
-    this->press();
-    EXPECT_TRUE(this->m_button->isDown());
-    EXPECT_EQ(this->m_target.count, 0);
-    this->release(this->inside());
-    EXPECT_FALSE(this->m_button->isDown());
-    EXPECT_EQ(this->m_target.count, 1);
-    EXPECT_EQ(this->m_target.lastSender, this->m_button.data());
-    EXPECT_TRUE(this->m_field.hasFocus()); // a click leaves the keyboard where it is
+TEST_F(ButtonInputTest, ClickSendsTheActionOnRelease) {
+    QSignalSpy pressed(m_button.data(), &QAbstractButton::pressed);
+    QSignalSpy released(m_button.data(), &QAbstractButton::released);
+    press();
+    EXPECT_TRUE(m_button->isDown());
+    EXPECT_EQ(m_target.count, 0);
+    release(inside());
+    EXPECT_FALSE(m_button->isDown());
+    EXPECT_EQ(m_target.count, 1);
+    EXPECT_EQ(m_target.lastSender, m_button.data());
+    EXPECT_TRUE(m_field.hasFocus()) << "a click leaves the keyboard where it is";
+    EXPECT_EQ(pressed.count(), 1);
+    EXPECT_EQ(released.count(), 1);
 }
 
-TYPED_TEST(ButtonInputTest, AClickIsOnePress) {
-    const std::array<std::pair<const char*, void (QAbstractButton::*)()>, 2> signals{
-        {{"pressed", &QAbstractButton::pressed}, {"released", &QAbstractButton::released}}};
-    for (const auto& [name, signal] : signals) {
-        QSignalSpy spy(this->m_button.data(), signal);
-        this->press();
-        this->release(this->inside());
-        EXPECT_EQ(spy.count(), 1) << name;
+TEST_F(ButtonInputTest, EveryClassClicks) {
+    const std::vector<platform::PushButton*> buttons{
+        new platform::PushButton, new StyledCheckBox,  new FavouriteCheckBox,   new BackButton,
+        new CornerButton,         new CursorButton,    new DarkHighlightButton, new PopUpCyclingButton,
+        new ToolButton,           new VantorPushButton};
+    for (platform::PushButton* const button : buttons) {
+        add(button);
+        m_target.count = 0;
+        click();
+        QTest::keyClick(button, Qt::Key_Space);
+        EXPECT_EQ(m_target.count, 2) << button->metaObject()->className();
     }
 }
 
-TYPED_TEST(ButtonInputTest, LeavingAndReleasingOutsideSendsNothing) {
-    this->press();
-    this->move(this->outside());
-    EXPECT_FALSE(this->m_button->isDown());
-    this->move(this->inside());
-    EXPECT_TRUE(this->m_button->isDown());
-    this->move(this->outside());
-    this->release(this->outside());
-    EXPECT_EQ(this->m_target.count, 0);
-    EXPECT_EQ(this->m_button->alphaValue(), 1);
+TEST_F(ButtonInputTest, LeavingAndReleasingOutsideSendsNothing) {
+    press();
+    move(outside());
+    EXPECT_FALSE(m_button->isDown());
+    move(inside());
+    EXPECT_TRUE(m_button->isDown());
+    move(outside());
+    release(outside());
+    EXPECT_EQ(m_target.count, 0);
 }
 
-TYPED_TEST(ButtonInputTest, EscapeCancelsThePressAndReachesNobodyElse) {
-    QSignalSpy shortcut(&this->m_escape, &QShortcut::activated);
-    this->press();
-    QTest::keyClick(&this->m_window, Qt::Key_Escape);
-    EXPECT_FALSE(this->m_button->isDown());
-    this->move(this->inside());
-    EXPECT_FALSE(this->m_button->isDown());
-    this->release(this->inside());
-    EXPECT_EQ(this->m_target.count, 0);
+TEST_F(ButtonInputTest, APressEndsOnceWithoutAClickAndTheNextOneCounts) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("Item"));
+    const std::map<std::string, std::function<void()>> ends{
+        {"Escape", [this] { QTest::keyClick(&m_field, Qt::Key_Escape); }},
+        {"disabled",
+         [this] {
+             m_button->setEnabled(false);
+             m_button->setEnabled(true);
+         }},
+        {"hidden",
+         [this] {
+             m_window.hide();
+             m_window.show();
+         }},
+        {"a menu that the press opens",
+         [&] {
+             menu.popup(m_window.mapToGlobal(QPoint(0, 0)));
+             QTest::keyClick(&menu, Qt::Key_Escape);
+             EXPECT_FALSE(menu.isVisible());
+         }},
+        {"a drag that the press starts",
+         [this] {
+             const QMimeData data;
+             QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+             QApplication::sendEvent(m_window.windowHandle(), &enter);
+         }},
+        {"a move of the window, which keeps the release", [this] { move(inside(), Qt::NoButton); }},
+    };
+    for (const auto& [name, end] : ends) {
+        SCOPED_TRACE(name);
+        QSignalSpy released(m_button.data(), &QAbstractButton::released);
+        m_target.count = 0;
+        press();
+        end();
+        EXPECT_EQ(released.count(), 1);
+        move(inside());
+        EXPECT_FALSE(m_button->isDown());
+        release(inside());
+        EXPECT_EQ(m_target.count, 0);
+        EXPECT_EQ(released.count(), 1);
+        click();
+        EXPECT_EQ(m_target.count, 1);
+    }
+}
+
+TEST_F(ButtonInputTest, APressWhoseReleaseNobodyHeardGivesWayToTheNext) {
+    QSignalSpy pressed(m_button.data(), &QAbstractButton::pressed);
+    press();
+    press();
+    EXPECT_EQ(pressed.count(), 2);
+    release(inside());
+    EXPECT_EQ(m_target.count, 1);
+}
+
+TEST_F(ButtonInputTest, ThePointerHoldsTheButtonThoughTheFocusLeavesIt) {
+    QSignalSpy released(m_button.data(), &QAbstractButton::released);
+    m_button->setFocus();
+    press();
+    m_field.setFocus();
+    EXPECT_TRUE(m_button->isDown());
+    release(inside());
+    EXPECT_EQ(released.count(), 1);
+    EXPECT_EQ(m_target.count, 1);
+}
+
+TEST_F(ButtonInputTest, EscapeReachesNobodyElseWhileItEndsAPress) {
+    QSignalSpy shortcut(&m_escape, &QShortcut::activated);
+    const KeyCounter keys(m_field);
+    press();
+    QTest::keyClick(&m_field, Qt::Key_Escape);
     EXPECT_EQ(shortcut.count(), 0);
-    QTest::keyClick(&this->m_window, Qt::Key_Escape);
+    EXPECT_EQ(keys.count, 0);
+    QTest::keyClick(&m_field, Qt::Key_Escape);
     EXPECT_EQ(shortcut.count(), 1);
 }
 
-TYPED_TEST(ButtonInputTest, DisablingCancelsThePress) {
-    this->press();
-    this->m_button->setEnabled(false);
-    this->m_button->setEnabled(true);
-    this->move(this->inside());
-    EXPECT_FALSE(this->m_button->isDown());
-    this->release(this->inside());
-    EXPECT_EQ(this->m_target.count, 0);
-    EXPECT_EQ(this->m_button->alphaValue(), 1);
+TEST_F(ButtonInputTest, MayBeDestroyedByItsPressWhilePressedAndByItsAction) {
+    press();
+    delete m_button.data();
+    QTest::keyClick(&m_field, Qt::Key_Escape);
+    EXPECT_EQ(m_target.count, 0);
+    const auto destroyedBy = [this](void (QAbstractButton::*signal)()) {
+        add(new StyledButton);
+        QObject::connect(m_button.data(), signal, [this] { delete m_button.data(); });
+        press();
+        if (m_button)
+            QTest::keyClick(&m_field, Qt::Key_Escape);
+        return m_button == nullptr;
+    };
+    EXPECT_TRUE(destroyedBy(&QAbstractButton::pressed));
+    EXPECT_TRUE(destroyedBy(&QAbstractButton::released));
+    add(new StyledButton);
+    QObject::connect(m_button.data(), &QAbstractButton::clicked, [this] { delete m_button.data(); });
+    click();
+    EXPECT_EQ(m_button, nullptr);
 }
 
-TYPED_TEST(ButtonInputTest, HidingCancelsThePress) {
-    this->press();
-    this->m_window.hide();
-    EXPECT_FALSE(this->m_button->isDown());
-    this->m_window.show();
-    this->release(this->inside());
-    EXPECT_EQ(this->m_target.count, 0);
-    EXPECT_EQ(this->m_button->alphaValue(), 1);
-}
-
-TYPED_TEST(ButtonInputTest, MayBeDestroyedWhilePressedAndByItsAction) {
-    this->press();
-    delete this->m_button.data();
-    QTest::keyClick(&this->m_window, Qt::Key_Escape);
-    EXPECT_EQ(this->m_target.count, 0);
-
-    auto* const button = new TypeParam;
-    button->setParent(&this->m_window);
-    button->setGeometry(40, 40, 60, 30);
-    button->show();
-    this->m_button = button;
-    QObject::connect(button, &QAbstractButton::clicked, button, [button] { delete button; });
-    this->press();
-    this->release(this->inside());
-    EXPECT_EQ(this->m_button, nullptr);
-}
-
-TYPED_TEST(ButtonInputTest, MayBeDestroyedByItsPress) {
-    QObject::connect(this->m_button, &QAbstractButton::pressed, [this] { delete this->m_button.data(); });
-    this->press();
-    EXPECT_EQ(this->m_button, nullptr);
-}
-
-TYPED_TEST(ButtonInputTest, KeyboardPresses) {
-    QTest::keyClick(&this->m_field, Qt::Key_Tab);
-    ASSERT_TRUE(this->m_button->hasFocus());
-    QTest::keyPress(this->m_button, Qt::Key_Space);
-    EXPECT_TRUE(this->m_button->isDown());
-    QTest::keyRelease(this->m_button, Qt::Key_Space);
-    EXPECT_EQ(this->m_target.count, 1);
-    QTest::keyClick(this->m_button, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return this->m_target.count == 2; }));
-}
-
-TYPED_TEST(ButtonInputTest, DisablingAndHidingCancelWhatTheKeyboardHasPressed) {
-    QSignalSpy clicks(this->m_button.data(), &QAbstractButton::clicked);
-    for (const bool hides : {false, true}) {
-        this->m_button->setFocus();
-        QTest::keyClick(this->m_button, Qt::Key_Return);
-        hides ? this->m_button->hide() : this->m_button->setEnabled(false);
-        QTest::qWait(150);
-        this->m_button->setEnabled(true);
-        this->m_button->show();
-        EXPECT_FALSE(this->m_button->isDown());
-        EXPECT_EQ(clicks.count(), 0) << hides;
-        EXPECT_EQ(this->m_target.count, 0);
+TEST_F(ButtonInputTest, KeyboardPressesOnceHoweverLongAKeyIsHeld) {
+    QTest::keyClick(&m_field, Qt::Key_Tab);
+    ASSERT_TRUE(m_button->hasFocus());
+    QTest::keyPress(m_button, Qt::Key_Space);
+    EXPECT_TRUE(m_button->isDown());
+    QTest::keyRelease(m_button, Qt::Key_Space);
+    EXPECT_EQ(m_target.count, 1);
+    QTest::keyClick(m_button, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_target.count == 2; }));
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        m_target.count = 0;
+        hold(key);
+        EXPECT_EQ(m_target.count, 1) << key;
     }
-    QTest::keyClick(this->m_button, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return this->m_target.count == 1; })) << "and then it works again";
 }
 
-TYPED_TEST(ButtonInputTest, TouchPresses) {
+TEST_F(ButtonInputTest, DisablingAndHidingCancelWhatTheKeyboardHasPressed) {
+    QButtonGroup group;
+    group.addButton(m_button);
+    QSignalSpy clicks(m_button.data(), &QAbstractButton::clicked);
+    QSignalSpy groupClicks(&group, &QButtonGroup::buttonClicked);
+    QSignalSpy released(m_button.data(), &QAbstractButton::released);
+    for (const bool hides : {false, true}) {
+        released.clear();
+        m_button->setFocus();
+        QTest::keyClick(m_button, Qt::Key_Return);
+        hides ? m_button->hide() : m_button->setEnabled(false);
+        QTest::qWait(150);
+        m_button->setEnabled(true);
+        m_button->show();
+        EXPECT_FALSE(m_button->isDown());
+        EXPECT_EQ(clicks.count(), 0) << hides;
+        EXPECT_EQ(groupClicks.count(), 0) << hides;
+        EXPECT_EQ(released.count(), 1) << hides;
+        EXPECT_EQ(m_target.count, 0);
+    }
+    QTest::keyClick(m_button, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_target.count == 1; })) << "and then it works again";
+    EXPECT_EQ(groupClicks.count(), 1);
+}
+
+TEST_F(ButtonInputTest, TouchPresses) {
     const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-    const auto finger = [&] { return QTest::touchEvent(&this->m_window, screen.get()); };
-    const QPoint onButton = this->m_button->mapTo(&this->m_window, this->inside());
+    const auto finger = [&] { return QTest::touchEvent(&m_window, screen.get()); };
+    const QPoint onButton = m_button->mapTo(&m_window, inside());
     finger().press(0, onButton);
     finger().release(0, onButton);
-    EXPECT_EQ(this->m_target.count, 1);
+    EXPECT_EQ(m_target.count, 1);
     finger().press(0, onButton);
     finger().move(0, onButton + QPoint(90, 0));
     finger().release(0, onButton + QPoint(90, 0));
-    EXPECT_EQ(this->m_target.count, 1);
+    EXPECT_EQ(m_target.count, 1);
 }
 
-TYPED_TEST(ButtonInputTest, DisabledButtonsIgnoreEverything) {
-    this->m_button->setEnabled(false);
-    QTest::mouseClick(this->m_button, Qt::LeftButton, {}, this->inside());
-    QTest::keyClick(this->m_button, Qt::Key_Space);
-    this->m_button->click();
-    EXPECT_EQ(this->m_target.count, 0);
+TEST_F(ButtonInputTest, DisabledButtonsIgnoreEverything) {
+    m_button->setEnabled(false);
+    QTest::mouseClick(m_button, Qt::LeftButton, {}, inside());
+    QTest::keyClick(m_button, Qt::Key_Space);
+    m_button->click();
+    EXPECT_EQ(m_target.count, 0);
 }

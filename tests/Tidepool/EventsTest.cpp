@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstdio>
+#include <cstdlib>
 #include <mutex>
 #include <numbers>
 #include <thread>
@@ -37,17 +39,38 @@ TEST(ReceiveOnMainThread, DeliversAtOnceThereAndLaterFromElsewhere) {
 }
 
 TEST(ReceiveOnMainThread, CancelDropsWhatIsOnItsWay) {
+    /// Takes whatever it is given, also after it has cancelled.
+    class Recorder : public platform::Subscriber<int> {
+    public:
+        void receive(std::shared_ptr<platform::Subscription> given) override {
+            subscription = std::move(given);
+            subscription->request(platform::Demand::unlimited());
+        }
+
+        platform::Demand receive(const int&) override {
+            ++values;
+            return platform::Demand::none();
+        }
+
+        void receive(const platform::Completion&) override { ++ends; }
+
+        std::shared_ptr<platform::Subscription> subscription;
+        int values = 0;
+        int ends = 0;
+    };
+
     const auto subject = std::make_shared<PassthroughSubject<int>>();
-    int received = 0;
-    bool ended = false;
-    auto token =
-        receiveOnMainThread<int>(subject)->sink([&](int) { ++received; }, [&](auto&) { ended = true; });
-    std::thread([&] { subject->send(1); }).join();
-    token.cancel();
-    std::thread([&] { subject->send(platform::Completion{}); }).join();
+    const auto recorder = std::make_shared<Recorder>();
+    receiveOnMainThread<int>(subject)->receive(recorder);
+    subject->send(1);
+    std::thread([&] {
+        subject->send(2);
+        subject->send(platform::Completion{});
+    }).join();
+    recorder->subscription->cancel();
     QTest::qWait(20);
-    EXPECT_EQ(received, 0);
-    EXPECT_FALSE(ended);
+    EXPECT_EQ(recorder->values, 1);
+    EXPECT_EQ(recorder->ends, 0);
 }
 
 TEST(UIEventThrottler, RunsTheLastOfABurstAndGoesOnUntilCancelled) {
@@ -89,6 +112,37 @@ TEST(UIEventThrottler, ClosureMayCancelOrRelease) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return runs == 2; }));
     QTest::qWait(50);
     EXPECT_EQ(runs, 2);
+}
+
+TEST(UIEventThrottler, LeavesNothingRunningBehind) {
+    std::atomic<bool> began = false;
+    std::atomic<bool> ended = false;
+    auto throttler = std::make_unique<UIEventThrottler>(1ms);
+    throttler->throttle([&] {
+        began = true;
+        std::this_thread::sleep_for(50ms);
+        ended = true;
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return began.load(); }));
+    throttler.reset();
+    EXPECT_TRUE(ended) << "a closure that runs is waited for";
+}
+
+TEST(UIEventThrottlerDeathTest, TheProgramWaitsForAClosureThatHasReleasedItsThrottler) {
+    const auto end = [] {
+        static std::unique_ptr<UIEventThrottler> released = std::make_unique<UIEventThrottler>(1ms);
+        static std::atomic<bool> isReleased = false;
+        released->throttle([] {
+            released.reset();
+            isReleased = true;
+            std::this_thread::sleep_for(100ms);
+            std::fputs("ended\n", stderr);
+        });
+        while (!isReleased)
+            std::this_thread::sleep_for(1ms);
+        std::exit(0); // NOLINT(concurrency-mt-unsafe)
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "ended");
 }
 
 TEST(UIEventThrottler, SkipsWhatALongRunHasMissed) {

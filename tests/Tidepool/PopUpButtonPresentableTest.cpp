@@ -90,8 +90,11 @@ TEST(PopUpButtonPresentable, SelectsByRawValue) {
     selectItem(button, Waveform::square);
     EXPECT_EQ(button.title(), QStringLiteral("raw")) << "the first that matches";
     EXPECT_EQ(selectedRawRepresentableValue<Waveform>(button), Waveform::square);
+    MenuItem& folder = button.addItem(QStringLiteral("folder"));
+    folder.setSubmenu(std::make_unique<Menu>());
+    folder.submenu()->addItem(QStringLiteral("inner")).representedObject = Waveform::noise;
     selectItem(button, Waveform::noise);
-    EXPECT_EQ(button.title(), QStringLiteral("raw")) << "no match changes nothing";
+    EXPECT_EQ(button.title(), QStringLiteral("raw")) << "no match among its own items changes nothing";
     button.setMenu(nullptr);
     selectItem(button, Waveform::square);
     EXPECT_EQ(selectedRawRepresentableValue<Waveform>(button), std::nullopt);

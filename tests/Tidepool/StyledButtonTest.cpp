@@ -1,4 +1,6 @@
 #include "Tidepool/StyledButton.h"
+#include "Tidepool/ControlAssets.h"
+#include "Tidepool/DarkHighlightButton.h"
 #include "Tidepool/StyledCheckBox.h"
 #include "Tidepool/TPImages.h"
 #include "Tidepool/Validating.h"
@@ -55,6 +57,20 @@ QImage drawn(const StyledButtonCell& cell, QSize size) {
     QPainter painter(&image);
     cell.draw(painter, QRectF(QPointF(), size));
     return image;
+}
+
+/// The pixel that is the most opaque, premultiplied.
+QRgb strongest(platform::PushButton& button) {
+    QImage image(button.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    button.render(&image, {}, {}, QWidget::RenderFlags());
+    QRgb strongest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
+            strongest = qAlpha(pixel) > qAlpha(strongest) ? pixel : strongest;
+        }
+    return strongest;
 }
 
 StyledButtonCell& cellOf(const StyledButton& button) {
@@ -129,6 +145,40 @@ TEST(StyledButtonCell, BezelAndImageAreHalfOpaqueWhenDisabled) {
     EXPECT_NEAR(qBlue(dim), qBlue(bright) / 2, 2);
     cell.setHighlighted(true);
     EXPECT_EQ(drawn(cell, {16, 16}).pixel(8, 3), dim);
+}
+
+TEST(StyledButtonCell, TemplatesHaveTheTextColorOfTheSetInForceAndAreDimmedOnce) {
+    QWidget window;
+    const auto style = std::make_shared<ButtonCellStyle>();
+    style->setTextColor(QColor(0, 200, 0));
+    const auto set = std::make_shared<StyleSet>();
+    set->set<ButtonCellStyle>(style);
+    StyleSet::apply(window, set);
+    StyledButton styled({}, &window);
+    styled.cell().setButtonType(ButtonCell::ButtonType::pushOnPushOff);
+    DarkHighlightButton plain(&window);
+    for (platform::PushButton* const button : std::initializer_list<platform::PushButton*>{&styled, &plain}) {
+        SCOPED_TRACE(button->metaObject()->className());
+        button->setBordered(false);
+        button->setImage(OrganiserImages::iconDisclose);
+        button->setImagePosition(ImagePosition::imageOnly);
+        button->resize(30, 30);
+        const QRgb usual = strongest(*button);
+        EXPECT_LE(difference(qUnpremultiply(usual), qRgba(0, 200, 0, qAlpha(usual))), 1);
+        button->setState(ControlState::on);
+        EXPECT_EQ(strongest(*button), usual) << "as bright when on";
+        const auto isHalf = [&] {
+            const QRgb color = strongest(*button);
+            return std::abs(2 * qAlpha(color) - qAlpha(usual)) <= 2 &&
+                   std::abs(2 * qGreen(color) - qGreen(usual)) <= 4;
+        };
+        button->setDown(true);
+        EXPECT_TRUE(isHalf());
+        button->setDown(false);
+        button->setEnabled(false);
+        EXPECT_TRUE(isHalf());
+    }
+    StyleSet::apply(window, nullptr);
 }
 
 TEST(StyledButtonCell, DrawingAgainAllocatesNothing) {

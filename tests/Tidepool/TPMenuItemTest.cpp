@@ -79,15 +79,23 @@ TEST(TPMenuItem, HeadersAndSeparatorsHaveNothingElse) {
 }
 
 TEST(TPMenuItem, DelegatesFillTheirSubmenuUnlessThereIsAnother) {
-    Filler filler;
+    auto filler = std::make_shared<Filler>();
     TPMenuItem description;
-    for (const auto& type : {TPMenuType::documentTemplates(&filler), TPMenuType::recentDocuments(&filler)}) {
+    for (const auto& type : {TPMenuType::documentTemplates(filler), TPMenuType::recentDocuments(filler)}) {
         description.menuType = type;
         const auto item = description.asMenuItem();
         ASSERT_NE(item->submenu(), nullptr);
         EXPECT_TRUE(item->submenu()->items().isEmpty());
-        EXPECT_EQ(item->submenu()->delegate(), &filler);
+        EXPECT_EQ(item->submenu()->delegate(), filler.get());
     }
+    const std::weak_ptr<Filler> kept(filler);
+    filler.reset();
+    EXPECT_FALSE(kept.expired()) << "by the description";
+    auto filled = description.asMenuItem();
+    description.menuType = TPMenuType::standard();
+    EXPECT_NE(filled->submenu()->delegate(), nullptr) << "and by what it fills";
+    filled.reset();
+    EXPECT_TRUE(kept.expired());
     description.submenuEnum = menuPresentables<Waveform>();
     EXPECT_EQ(description.asMenuItem()->submenu()->items().size(), 3);
     description.submenu = {TPMenuItem{.title = QStringLiteral("Explicit")}, TPMenuItem::separator()};
@@ -107,6 +115,13 @@ TEST(TPMenuItem, TheServicesMenuIsTheOneMadeLast) {
     EXPECT_EQ(platform::servicesMenu(), second->submenu());
     second.reset();
     EXPECT_EQ(platform::servicesMenu(), nullptr);
+
+    TPMenuItem filled = description;
+    filled.submenu = {TPMenuItem{.title = QStringLiteral("Explicit")}};
+    const auto third = filled.asMenuItem();
+    ASSERT_EQ(third->submenu()->items().size(), 1);
+    ASSERT_NE(platform::servicesMenu(), nullptr) << "though another is the item's submenu";
+    EXPECT_TRUE(platform::servicesMenu()->items().isEmpty());
 }
 
 TEST(TPMenuItem, PresentsTheValuesOfAnyTypes) {

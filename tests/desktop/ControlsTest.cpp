@@ -12,6 +12,7 @@
 #include "tests/support/ActionCounter.h"
 
 #include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -194,6 +195,59 @@ TEST_F(ControlsTest, MenusOpenAndChooseByPointerAndKeyboard) {
     m_desktop.click(menu.mapToGlobal(menu.actionGeometry(&item).center()));
     EXPECT_TRUE(Desktop::waitUntil([&] { return isChosen; }));
     EXPECT_FALSE(menu.isVisible());
+}
+
+TEST_F(ControlsTest, APressThatOpensAMenuOrMovesTheWindowEndsThere) {
+    platform::PushButton& button = *m_buttons.front();
+    const auto whenPressed = [&](const std::function<void()>& take, const std::function<void()>& then) {
+        QObject context;
+        QObject::connect(&button, &QAbstractButton::pressed, &context, take);
+        m_desktop.pressPointer(inside(button));
+        then();
+        m_desktop.movePointer(inside(button) + QPoint(5, 5));
+        EXPECT_TRUE(isPressed(button, false));
+    };
+    const auto clicks = [&] {
+        m_target.count = 0;
+        m_desktop.click(inside(button));
+        Desktop::wait(50);
+        return m_target.count == 1;
+    };
+    platform::Menu menu;
+    menu.addItem(QStringLiteral("Chord"));
+    whenPressed([&] { menu.popup(outside(button) + QPoint(0, 60)); },
+                [&] {
+                    EXPECT_TRUE(Desktop::waitUntil([&] { return menu.isVisible(); }));
+                    m_desktop.releasePointer(inside(button));
+                    m_desktop.press(Key::escape);
+                    EXPECT_TRUE(Desktop::waitUntil([&] { return !menu.isVisible(); })) << "by one Escape";
+                });
+    EXPECT_EQ(m_target.count, 0);
+    EXPECT_TRUE(clicks());
+    const QPoint before = m_window.pos();
+    whenPressed([this] { m_window.windowHandle()->startSystemMove(); },
+                [&] {
+                    const QPoint start = inside(button);
+                    for (int step = 1; step <= 5; ++step) {
+                        m_desktop.movePointer(start + QPoint(10 * step, 0));
+                        Desktop::wait(20);
+                    }
+                    m_desktop.releasePointer(start + QPoint(50, 0));
+                    EXPECT_TRUE(Desktop::waitUntil([&] { return m_window.pos() != before; }));
+                });
+    EXPECT_TRUE(clicks());
+}
+
+TEST_F(ControlsTest, AMenuWhoseButtonIsDisabledLeavesTheInputToOthers) {
+    platform::PopUpButton popUp(false, &m_window);
+    popUp.addItem(QStringLiteral("Up"));
+    popUp.setGeometry(20, 220, 120, 24);
+    popUp.show();
+    m_desktop.click(inside(popUp));
+    ASSERT_TRUE(Desktop::waitUntil([&] { return popUp.menu()->isVisible(); }));
+    popUp.setEnabled(false);
+    m_desktop.click(inside(*m_buttons.front()));
+    EXPECT_TRUE(Desktop::waitUntil([&] { return m_target.count == 1; }));
 }
 
 TEST_F(ControlsTest, TheClickThatActivatesAWindowCounts) {

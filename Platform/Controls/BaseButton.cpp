@@ -1,0 +1,42 @@
+#include "Platform/Controls/BaseButton.h"
+
+#include <QButtonGroup>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+namespace platform {
+
+void BaseButton::nextCheckState() {
+    if (!m_isPressOver)
+        QAbstractButton::nextCheckState();
+}
+
+void BaseButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        QAbstractButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        animateClick();
+}
+
+void BaseButton::hideEvent(QHideEvent* event) {
+    QAbstractButton::hideEvent(event);
+    if (isDown()) {
+        setDown(false);
+        Q_EMIT released();
+    }
+}
+
+/// Qt clicks a while after Return or the mnemonic, also if the button was disabled or hidden meanwhile.
+void BaseButton::timerEvent(QTimerEvent* event) {
+    if (isDown()) {
+        QAbstractButton::timerEvent(event);
+        return;
+    }
+    const QSignalBlocker nobodyHears(this);
+    const QSignalBlocker norDoesItsGroup(group());
+    const QScopedValueRollback over(m_isPressOver, true);
+    QAbstractButton::timerEvent(event);
+}
+
+} // namespace platform

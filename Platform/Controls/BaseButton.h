@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QAbstractButton>
+
+namespace platform {
+
+/// A button that Return presses as well as Space: once, however long the key is held. Disabling and hiding it
+/// end what a key or the mnemonic has begun, without a click.
+class BaseButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    using QAbstractButton::QAbstractButton;
+
+protected:
+    /// True while Qt clicks for a press that has ended; nobody is told of that click.
+    bool isPressOver() const { return m_isPressOver; }
+
+    void nextCheckState() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    bool m_isPressOver = false;
+};
+
+} // namespace platform
