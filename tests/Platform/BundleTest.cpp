@@ -61,6 +61,10 @@ TEST_F(BundleTest, ModuleIsFoundBesideItsLoadedCodeFromAnyFolder) {
     QDir::setCurrent(QStringLiteral("/"));
     EXPECT_EQ(Bundle::module(QStringLiteral("Kit_Kit"), dlsym(code, "marker")).directory(),
               QFileInfo(beside).canonicalFilePath());
+    const QString inside = make(QStringLiteral("app/Kit_Kit.bundle"));
+    Bundle::setMainDirectory(m_root.filePath(QStringLiteral("app")));
+    EXPECT_EQ(Bundle::module(QStringLiteral("Kit_Kit"), dlsym(code, "marker")).directory(), inside)
+        << "the program's own comes first";
     QDir::setCurrent(before);
     dlclose(code);
 }
