@@ -35,6 +35,9 @@ public:
     const std::shared_ptr<AudioParameter>& parameter() const override { return m_param; }
 
     QString valueText() const override;
+
+    int decimalPlaces() const override { return m_decimalPlaces; }
+
     QSize sizeHint() const override;
 
     QSize minimumSizeHint() const override { return sizeHint(); }

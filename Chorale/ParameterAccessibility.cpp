@@ -34,7 +34,8 @@ public:
         if (!actionNames().contains(name))
             QAccessibleWidget::doAction(name);
         else
-            step(m_view.parameter(), name == increaseAction() ? 1 : -1);
+            ParameterSteps(m_view.parameter())
+                .step(name == increaseAction() ? 1 : -1, m_view.decimalPlaces());
     }
 
     QVariant currentValue() const override { return m_view.parameter()->displayableValue(); }
@@ -48,7 +49,9 @@ public:
 
     QVariant maximumValue() const override { return shown(m_view.parameter()->valueRange().upperBound()); }
 
-    QVariant minimumStepSize() const override { return shown(stepSize(*m_view.parameter())); }
+    QVariant minimumStepSize() const override {
+        return shown(static_cast<float>(stepSize(*m_view.parameter())));
+    }
 
 private:
     float shown(float value) const { return value * m_view.parameter()->displayScaleFactor(); }

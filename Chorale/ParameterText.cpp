@@ -65,7 +65,8 @@ QString hostText(std::optional<float> value, const std::optional<QStringList>& v
 
 QString displayText(const AudioParameter& parameter, int decimalPlaces, const QLocale& locale) {
     const double rounded =
-        plainText(static_cast<double>(parameter.displayableValue()), decimalPlaces).toDouble();
+        plainText(static_cast<double>(parameter.displayableValue()), decimalPlaces).toDouble() +
+        0.0; // minus zero becomes zero
     return locale.toString(rounded, 'f', decimalPlaces);
 }
 

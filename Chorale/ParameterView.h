@@ -22,6 +22,9 @@ public:
     /// The value as the widget shows it, with its unit.
     virtual QString valueText() const = 0;
 
+    /// How many fractional digits the value is shown with.
+    virtual int decimalPlaces() const { return 0; }
+
     /// What assistive technology calls the widget.
     virtual QAccessible::Role role() const { return QAccessible::Dial; }
 

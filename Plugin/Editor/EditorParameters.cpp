@@ -20,6 +20,7 @@ public:
 AudioUnitParameterUnit unit(ControlUnit unit) {
     switch (unit) {
     case ControlUnit::index:
+    case ControlUnit::count:
         return AudioUnitParameterUnit::indexed;
     case ControlUnit::onOff:
         return AudioUnitParameterUnit::boolean;
@@ -29,8 +30,6 @@ AudioUnitParameterUnit unit(ControlUnit unit) {
         return AudioUnitParameterUnit::percent;
     case ControlUnit::milliseconds:
         return AudioUnitParameterUnit::milliseconds;
-    case ControlUnit::count:
-        break;
     }
     return AudioUnitParameterUnit::generic;
 }

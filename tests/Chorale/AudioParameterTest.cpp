@@ -101,6 +101,8 @@ TEST_F(AudioParameterTest, ValuesAreClamped) {
     EXPECT_THAT(sent(), ElementsAre(100, -10, -10, 100));
     turn();
     EXPECT_EQ(m_level->value(), 100);
+    m_level->setValue(-0.F, ui, change);
+    EXPECT_FALSE(std::signbit(sent().back()));
     EXPECT_DEATH(ClosedRange<float>(notANumber, 1), "^A range needs");
     EXPECT_DEATH(ClosedRange<float>(0, notANumber), "^A range needs");
     EXPECT_DEATH(ClosedRange<int>(1, 0), "^A range needs");
