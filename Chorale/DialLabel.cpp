@@ -37,9 +37,9 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
       m_param(std::move(param)),
       m_labelColor(labelColor),
       m_valueColor(valueColor),
-      m_labelFont(RocketFontModifier{labelFontSize}.font()),
-      m_valueFont(RocketFontModifier{valueFontSize}.font()),
-      m_width(width),
+      m_labelFont(RocketFontModifier{labelFontSize * m_scale}.font()),
+      m_valueFont(RocketFontModifier{valueFontSize * m_scale}.font()),
+      m_width(width * m_scale),
       m_showSuffix(showSuffix),
       m_showName(showName),
       m_decimalPlaces(decimalPlaces),
@@ -48,7 +48,7 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::IBeamCursor);
     follow(*this);
-    rocketFont(*m_field, editingFontSize);
+    rocketFont(*m_field, editingFontSize * m_scale);
     m_field->setFrame(false);
     m_field->setAlignment(Qt::AlignCenter);
     m_field->setAccessibleName(m_param->name());
@@ -91,12 +91,12 @@ qreal DialLabel::nameHeight() const {
 }
 
 QRectF DialLabel::valueRow() const {
-    const qreal top = m_showName ? nameHeight() - valueRowOverlap : 0;
-    return {0, top, qreal(width()), valueRowHeight};
+    const qreal top = m_showName ? nameHeight() - valueRowOverlap * m_scale : 0;
+    return {0, top, qreal(width()), valueRowHeight * m_scale};
 }
 
 QRectF DialLabel::fieldFrame() const {
-    const QSizeF size(m_width, QFontMetricsF(m_field->font()).height() + 2 * fieldTopMargin);
+    const QSizeF size(m_width, QFontMetricsF(m_field->font()).height() + 2 * fieldTopMargin * m_scale);
     QRectF frame(QPointF(), size);
     frame.moveCenter(valueRow().center());
     return frame;
@@ -107,8 +107,8 @@ QSize DialLabel::sizeHint() const {
     const QFontMetricsF value(m_valueFont);
     const qreal name = m_showName ? label.horizontalAdvance(m_param->name().toUpper()) : 0;
     const qreal row = value.horizontalAdvance(displayText(*m_param, m_decimalPlaces, locale())) +
-                      (suffix().isEmpty() ? 0 : suffixGap + value.horizontalAdvance(suffix()));
-    const qreal width = std::max({name, row, qreal(m_width)});
+                      (suffix().isEmpty() ? 0 : suffixGap * m_scale + value.horizontalAdvance(suffix()));
+    const qreal width = std::max({name, row, m_width});
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(valueRow().bottom()))};
 }
 
@@ -139,11 +139,11 @@ void DialLabel::paintValue(QPainter& painter) const {
     const QString value = displayText(*m_param, m_decimalPlaces, locale());
     const qreal valueWidth = metrics.horizontalAdvance(value);
     const qreal rowWidth =
-        valueWidth + (suffix().isEmpty() ? 0 : suffixGap + metrics.horizontalAdvance(suffix()));
+        valueWidth + (suffix().isEmpty() ? 0 : suffixGap * m_scale + metrics.horizontalAdvance(suffix()));
     QRectF row = valueRow();
     row.setLeft((width() - rowWidth) / 2);
     painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, value);
-    row.setLeft(row.left() + valueWidth + suffixGap);
+    row.setLeft(row.left() + valueWidth + suffixGap * m_scale);
     painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, suffix());
 }
 
@@ -157,11 +157,13 @@ void DialLabel::paintField(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(edge);
     painter.setBrush(fill);
-    painter.drawRoundedRect(fieldFrame().adjusted(0.5, 0.5, -0.5, -0.5), fieldRadius, fieldRadius);
+    painter.drawRoundedRect(fieldFrame().adjusted(0.5, 0.5, -0.5, -0.5), fieldRadius * m_scale,
+                            fieldRadius * m_scale);
 }
 
 void DialLabel::resizeEvent(QResizeEvent*) {
-    m_field->setGeometry(fieldFrame().marginsRemoved({fieldMargin, 1, fieldMargin, 1}).toRect());
+    m_field->setGeometry(
+        fieldFrame().marginsRemoved({fieldMargin * m_scale, 1, fieldMargin * m_scale, 1}).toRect());
 }
 
 void DialLabel::changeEvent(QEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chorale/ParameterView.h"
+#include "Chorale/ViewScale.h"
 
 #include <QColor>
 #include <QWidget>
@@ -68,12 +69,13 @@ private:
     void leave();
     void stopEditing();
 
+    const qreal m_scale = ViewScale::current();
     const std::shared_ptr<AudioParameter> m_param;
     const QColor m_labelColor;
     const QColor m_valueColor;
     const QFont m_labelFont;
     const QFont m_valueFont;
-    const float m_width;
+    const qreal m_width; // scaled
     const bool m_showSuffix;
     const bool m_showName;
     const int m_decimalPlaces;

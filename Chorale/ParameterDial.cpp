@@ -59,7 +59,7 @@ bool isReset(const QKeyEvent& event) {
 
 ParameterDial::ParameterDial(std::shared_ptr<AudioParameter> param, qreal diameter, QColor accent,
                              QWidget* parent)
-    : QWidget(parent), m_param(std::move(param)), m_diameter(diameter), m_accent(accent) {
+    : QWidget(parent), m_param(std::move(param)), m_diameter(diameter * m_scale), m_accent(accent) {
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     follow(*this);
@@ -116,7 +116,7 @@ void ParameterDial::beginDrag(const QMouseEvent& press) {
 double ParameterDial::moved(QPointF to) {
     const QPointF from = std::exchange(m_last, to);
     if (m_dragMode == DragMode::vertical)
-        return (from.y() - to.y()) / fullDrag;
+        return (from.y() - to.y()) / (fullDrag * m_scale);
     const QPointF center = QRectF(rect()).center();
     const double turned = angle(to, center) - angle(from, center);
     return std::remainder(turned, 2 * std::numbers::pi) / dialSweep;

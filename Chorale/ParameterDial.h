@@ -2,6 +2,7 @@
 
 #include "Chorale/ParameterSteps.h"
 #include "Chorale/ParameterView.h"
+#include "Chorale/ViewScale.h"
 #include "Platform/Controls/PointerTracking.h"
 
 #include <QColor>
@@ -64,7 +65,8 @@ private:
     void stepOnce(double count);
 
     const std::shared_ptr<AudioParameter> m_param;
-    const qreal m_diameter;
+    const qreal m_scale = ViewScale::current();
+    const qreal m_diameter; // scaled
     const QColor m_accent;
     DragMode m_dragMode = DragMode::vertical;
     int m_decimalPlaces = 1;

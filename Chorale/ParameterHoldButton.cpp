@@ -40,7 +40,7 @@ QString ParameterHoldButton::valueText() const {
 }
 
 QSize ParameterHoldButton::sizeHint() const {
-    return m_image.image().size().toSize();
+    return (m_image.image().size() * m_scale).toSize();
 }
 
 void ParameterHoldButton::setPressed(bool isPressed) {
@@ -66,7 +66,7 @@ void ParameterHoldButton::hold() {
 void ParameterHoldButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const platform::Image& image = m_isPressed ? m_pressedImage : m_image;
-    QRectF frame(QPointF(), image.size());
+    QRectF frame(QPointF(), image.size() * m_scale);
     frame.moveCenter(QRectF(rect()).center());
     if (!isEnabled())
         painter.setOpacity(0.5);

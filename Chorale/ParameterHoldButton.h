@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chorale/ParameterView.h"
+#include "Chorale/ViewScale.h"
 #include "Platform/Graphics/AssetResource.h"
 
 #include <QWidget>
@@ -48,6 +49,7 @@ private:
     void hold();
     void setPressed(bool isPressed);
 
+    const qreal m_scale = ViewScale::current();
     const std::shared_ptr<AudioParameter> m_param;
     const platform::ImageResource m_image;
     const platform::ImageResource m_pressedImage;

@@ -7,6 +7,7 @@
 #include "Chorale/RocketFontModifier.h"
 #include "Chorale/TabButton.h"
 #include "Chorale/UpdateButtonStyle.h"
+#include "Chorale/ViewScale.h"
 #include "Platform/AudioUnits/DisplayPump.h"
 
 #include <QDesktopServices>
@@ -28,10 +29,14 @@ constexpr int tabSpacing = 24;
 constexpr int trailingSpacing = 12;
 constexpr qreal versionSize = 13;
 
+int scaled(int points) {
+    return qRound(points * ViewScale::current());
+}
+
 QHBoxLayout* makeRow(QWidget& row, int spacing) {
     auto* const layout = new QHBoxLayout(&row);
     layout->setContentsMargins({});
-    layout->setSpacing(spacing);
+    layout->setSpacing(scaled(spacing));
     return layout;
 }
 
@@ -42,11 +47,11 @@ PluginHeaderView::PluginHeaderView(QUrl appUpdateURL, const QString& pluginVersi
                                    const std::optional<UpdateAvailableDetails>& updateDetails,
                                    const std::function<QWidget*()>& menu, QWidget* parent)
     : QWidget(parent), m_appUpdateURL(std::move(appUpdateURL)), m_tabParameter(std::move(tabParameter)) {
-    setFixedHeight(barHeight);
+    setFixedHeight(scaled(barHeight));
     new platform::ParameterVisibility(*this);
     // The three rows lie over each other, so that the tabs stay in the middle of the bar.
     auto* const layers = new QGridLayout(this);
-    layers->setContentsMargins(leadingPadding, 0, trailingPadding, 0);
+    layers->setContentsMargins(scaled(leadingPadding), 0, scaled(trailingPadding), 0);
     layers->addWidget(makeLogoRow(), 0, 0, Qt::AlignLeading | Qt::AlignVCenter);
     if (m_tabParameter->valueStrings())
         layers->addWidget(makeTabRow(), 0, 0, Qt::AlignCenter);
@@ -93,7 +98,7 @@ QWidget* PluginHeaderView::makeTrailingRow(const QString& version,
     }
     auto* const label = new QLabel(version);
     label->setTextFormat(Qt::PlainText);
-    rocketFont(*label, versionSize);
+    rocketFont(*label, versionSize * ViewScale::current());
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, EditorAssets::versionInfo.color());
     label->setPalette(palette);

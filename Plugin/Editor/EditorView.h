@@ -19,7 +19,11 @@ class EditorView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit EditorView(const EditorParameters& parameters);
+    /// `scale` is how many of the desktop's points a point of the view is; `parameters` outlive it.
+    explicit EditorView(const EditorParameters& parameters, qreal scale = 1);
+
+    /// Makes all controls anew; what was being typed or dragged ends.
+    void setScale(qreal scale);
 
 protected:
     /// Takes the focus that no control has, so that none shows its ring before the user goes to it.
@@ -27,10 +31,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QWidget* makeContent();
     void showPage();
 
+    const EditorParameters& m_parameters;
     const std::shared_ptr<chorale::AudioParameter> m_page;
-    QStackedWidget* const m_pages; // a child
+    QWidget* m_content = nullptr;      // a child
+    QStackedWidget* m_pages = nullptr; // in it
 };
 
 } // namespace noteloft::plugin

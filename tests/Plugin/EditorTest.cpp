@@ -210,6 +210,36 @@ TEST_F(EditorTest, TwoAtOnceDoNotHearOfEachOther) {
     second.idle();
 }
 
+// Also run on a screen with twice the pixels.
+TEST_F(EditorTest, TellsItsSizeInPixelsAtEveryScale) {
+    const char* const factor = std::getenv("QT_SCALE_FACTOR");
+    const int desktop = factor == nullptr ? 1 : std::atoi(factor);
+    EditorHost plain(m_screen);
+    plain.idle(20);
+    const auto natural = plain.takeSizes();
+    ASSERT_EQ(natural.size(), 1U);
+    EXPECT_EQ(natural[0].first, 700 * desktop);
+    EXPECT_EQ(m_screen.size(plain.editorWindow()), natural[0]);
+    EXPECT_EQ(plain.scale(), static_cast<float>(desktop));
+    plain.close(false);
+
+    EditorHost host(m_screen, 0, editorDescriptor(), 1.5F);
+    host.idle(20);
+    const auto sizes = host.takeSizes();
+    ASSERT_EQ(sizes.size(), 1U);
+    EXPECT_EQ(sizes[0].first, 1050);
+    EXPECT_NEAR(sizes[0].second, natural[0].second * 1.5 / desktop, 3);
+    EXPECT_EQ(m_screen.size(host.editorWindow()), sizes[0]);
+    EXPECT_EQ(host.setScale(1), LV2_OPTIONS_SUCCESS) << "while it is open";
+    EXPECT_EQ(host.setScale(0), LV2_OPTIONS_ERR_BAD_VALUE);
+    host.idle(20);
+    EXPECT_EQ(host.takeSizes().back().first, 700);
+    EXPECT_EQ(m_screen.size(host.editorWindow()).first, 700);
+    EXPECT_EQ(host.scale(), 1);
+    drag(host, 50);
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
+}
+
 // The application object may be that of another plug-in, whose editor has gone.
 TEST_F(EditorTest, LivesOnAnotherPluginsApplication) {
     EditorHost(m_screen).idle(2);
