@@ -27,15 +27,20 @@ public:
     }
 
     QStringList actionNames() const override {
-        return widget()->isEnabled() ? QStringList{increaseAction(), decreaseAction()} : QStringList();
+        return widget()->isEnabled() ? m_view.actionNames() : QStringList();
     }
 
     void doAction(const QString& name) override {
-        if (!actionNames().contains(name))
-            QAccessibleWidget::doAction(name);
+        if (actionNames().contains(name))
+            m_view.doAction(name);
         else
-            ParameterSteps(m_view.parameter())
-                .step(name == increaseAction() ? 1 : -1, m_view.decimalPlaces());
+            QAccessibleWidget::doAction(name);
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.pressed = m_view.isPressed();
+        return state;
     }
 
     QVariant currentValue() const override { return m_view.parameter()->displayableValue(); }

@@ -2,6 +2,7 @@
 
 #include "Chorale/AudioParameter.h"
 #include "Chorale/ParameterAccessibility.h"
+#include "Chorale/ParameterSteps.h"
 
 #include "Platform/AudioUnits/DisplayPump.h"
 
@@ -9,6 +10,15 @@
 #include <QWidget>
 
 namespace chorale {
+
+QStringList ParameterView::actionNames() const {
+    return {QAccessibleActionInterface::increaseAction(), QAccessibleActionInterface::decreaseAction()};
+}
+
+void ParameterView::doAction(const QString& name) {
+    const bool goesUp = name == QAccessibleActionInterface::increaseAction();
+    ParameterSteps(parameter()).step(goesUp ? 1 : -1, decimalPlaces());
+}
 
 void ParameterView::follow(QWidget& view) {
     installParameterAccessibility();

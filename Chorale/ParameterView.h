@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -27,6 +28,13 @@ public:
 
     /// What assistive technology calls the widget.
     virtual QAccessible::Role role() const { return QAccessible::Dial; }
+
+    /// What assistive technology can do with it while it is enabled: go a step up or down.
+    virtual QStringList actionNames() const;
+    virtual void doAction(const QString& name);
+
+    /// Whether it is a button that is down.
+    virtual bool isPressed() const { return false; }
 
 protected:
     /// To be called by the constructor of the widget that this is mixed into. Repaints it and tells assistive
