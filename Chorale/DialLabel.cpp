@@ -62,10 +62,7 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
     palette.setColor(QPalette::HighlightedText, m_valueColor);
     m_field->setPalette(palette);
     m_field->hide();
-    connect(m_param.get(), &AudioParameter::valueChanged, this, [this] {
-        updateValueString();
-        updateGeometry();
-    });
+    connect(m_param.get(), &AudioParameter::valueChanged, this, &DialLabel::updateValueString);
     updateValueString();
 }
 
@@ -99,16 +96,32 @@ QRectF DialLabel::fieldFrame() const {
     const QSizeF size(m_width, QFontMetricsF(m_field->font()).height() + 2 * fieldTopMargin * m_scale);
     QRectF frame(QPointF(), size);
     frame.moveCenter(valueRow().center());
-    return frame;
+    // The rows overlap, but the frame must not reach into the name.
+    const qreal nameBottom = m_showName ? QFontMetricsF(m_labelFont).ascent() + fieldTopMargin * m_scale : 0;
+    const qreal cut = std::max(0.0, nameBottom - frame.top());
+    return frame.adjusted(0, cut, 0, -cut);
+}
+
+qreal DialLabel::widestRow() const {
+    const QFontMetricsF metrics(m_valueFont);
+    QChar widest = u'0';
+    for (char16_t digit = u'1'; digit <= u'9'; ++digit)
+        if (metrics.horizontalAdvance(digit) > metrics.horizontalAdvance(widest))
+            widest = digit;
+    qreal width = 0;
+    for (const float end : {m_param->valueRange().lowerBound(), m_param->valueRange().upperBound()}) {
+        QString text = numberText(end * m_param->displayScaleFactor(), m_decimalPlaces, locale());
+        std::replace_if(
+            text.begin(), text.end(), [](QChar one) { return one.isDigit(); }, widest);
+        width = std::max(width, metrics.horizontalAdvance(text));
+    }
+    return width + (suffix().isEmpty() ? 0 : suffixGap * m_scale + metrics.horizontalAdvance(suffix()));
 }
 
 QSize DialLabel::sizeHint() const {
     const QFontMetricsF label(m_labelFont);
-    const QFontMetricsF value(m_valueFont);
     const qreal name = m_showName ? label.horizontalAdvance(m_param->name().toUpper()) : 0;
-    const qreal row = value.horizontalAdvance(displayText(*m_param, m_decimalPlaces, locale())) +
-                      (suffix().isEmpty() ? 0 : suffixGap * m_scale + value.horizontalAdvance(suffix()));
-    const qreal width = std::max({name, row, m_width});
+    const qreal width = std::max({name, widestRow(), m_width});
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(valueRow().bottom()))};
 }
 
@@ -245,9 +258,8 @@ bool DialLabel::eventFilter(QObject* watched, QEvent* event) {
     if (watched != m_field)
         return false;
     if (event->type() == QEvent::FocusOut) {
-        // Neither the field's own menu nor another window takes the field away.
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+        // The field's own menu does not take it away.
+        if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
             stopEditing();
     }
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)

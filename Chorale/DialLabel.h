@@ -57,6 +57,8 @@ private:
     qreal nameHeight() const;
     QRectF valueRow() const;
     QRectF fieldFrame() const;
+    /// Of all values.
+    qreal widestRow() const;
     void paintName(QPainter& painter) const;
     void paintValue(QPainter& painter) const;
     void paintField(QPainter& painter) const;

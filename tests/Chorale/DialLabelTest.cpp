@@ -1,4 +1,5 @@
 #include "Chorale/DialLabel.h"
+#include "Chorale/RocketFontModifier.h"
 #include "tests/Chorale/HostWatch.h"
 #include "tests/support/Pixels.h"
 
@@ -89,6 +90,13 @@ TEST_F(DialLabelTest, EscapeRestoresAndLosingTheKeyboardIsSilent) {
     QTest::mouseClick(m_label, Qt::LeftButton);
     QTest::mouseClick(&m_window, Qt::LeftButton, {}, {5, 190});
     EXPECT_FALSE(m_label->isEditing()) << "a click elsewhere, though nothing there takes the keyboard";
+    QTest::mouseClick(m_label, Qt::LeftButton);
+    QTest::keyClicks(field(), QStringLiteral("42"));
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_FALSE(m_label->isEditing()) << "a value that is not in force";
     EXPECT_EQ(m_ends, 1);
     EXPECT_THAT(host.take(), IsEmpty());
 }
@@ -154,10 +162,13 @@ TEST_F(DialLabelTest, TheKeyboardGoesBackToWhereItWas) {
 TEST_F(DialLabelTest, LooksAndSizeFollowWhatIsShown) {
     HostWatch host(AudioUnitParameterUnit::decibels);
     const DialLabel& label = show(host, 1);
-    EXPECT_GE(label.sizeHint().width(), 60);
+    const QSize size = label.sizeHint();
     const QImage shown = picture(*m_label);
-    host.send(80);
+    host.send(100);
     EXPECT_GT(difference(shown, picture(*m_label)), 100);
+    EXPECT_EQ(label.sizeHint(), size) << "nothing moves while the value changes";
+    const QFontMetrics metrics(chorale::RocketFontModifier{16}.font());
+    EXPECT_GE(size.width(), metrics.horizontalAdvance(QStringLiteral("100.0dB")) + 4);
     const DialLabel nameless(host.parameter, Qt::gray, Qt::white, 12, 16, 16, 60, true, false, 1, {});
     EXPECT_EQ(nameless.sizeHint().height(), 40);
     EXPECT_LT(label.sizeHint().height(), 40 + 15) << "the rows overlap";

@@ -1,9 +1,13 @@
 // The editor's view without a host: what keyboard and screen reader find on each page.
 #include "Plugin/Editor/EditorView.h"
 #include "Chorale/ChoiceLabel.h"
+#include "Chorale/DialLabel.h"
+#include "Chorale/RocketFontModifier.h"
 #include "Plugin/Editor/EditorParameters.h"
+#include "Plugin/Editor/EditorResources.h"
 #include "Plugin/Editor/QtSession.h"
 #include "Plugin/Editor/ScaleView.h"
+#include "tests/support/Pixels.h"
 
 #include <QAccessible>
 #include <QTest>
@@ -60,6 +64,21 @@ TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
     EXPECT_THAT(reachedByTab(),
                 ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Velocity", "Velocity",
                             "Dynamics", "Dynamics", "Timing", "Timing", "Chance", "Chance", "Hold"));
+}
+
+TEST_F(EditorViewTest, AFieldLeavesTheNameOfItsParameterWhole) {
+    loadDisplayFont(QStringLiteral(NOTELOFT_BUNDLE));
+    m_view.setScale(1); // with that font
+    m_view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
+    auto* const label = m_view.findChild<chorale::DialLabel*>();
+    ASSERT_NE(label, nullptr);
+    const int capitals = QFontMetrics(chorale::RocketFontModifier{13}.font()).ascent() + 1;
+    const QRect name(0, 0, label->width(), capitals);
+    const QImage before = picture(*label).copy(name);
+    QTest::mouseClick(label, Qt::LeftButton);
+    ASSERT_TRUE(label->isEditing());
+    EXPECT_EQ(difference(before, picture(*label).copy(name)), 0);
 }
 
 TEST(QtSession, NoEditorInAHostOfAnotherWindowSystem) {
