@@ -14,6 +14,7 @@ using testing::IsEmpty;
 
 namespace {
 
+constexpr int longerThanAnEcho = 120; // turns
 constexpr std::uint32_t transposePort = 2;
 constexpr std::uint32_t holdPort = 5;
 constexpr std::uint32_t pagePort = 7;
@@ -26,6 +27,7 @@ protected:
     static constexpr std::int16_t holdX = 630;
     static constexpr std::int16_t holdY = 110;
     static constexpr std::int16_t valueY = 182; // below the dial
+    static constexpr std::uint16_t editorHeight = 220;
 
     void drag(EditorHost& host, int upwards, const std::function<void()>& meanwhile = {}) {
         m_screen.movePointer(dialX, dialY);
@@ -97,6 +99,7 @@ TEST_F(EditorTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
     EXPECT_THAT(host.take(), IsEmpty());
     drag(host, 25, [&] { host.send(transposePort, -10); });
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=6", "2=12", "2=12", "release 2"));
+    host.idle(longerThanAnEcho);
     drag(host, 25);
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=-10", "2=-4", "2=-4", "release 2"));
 }
@@ -107,11 +110,11 @@ TEST_F(EditorTest, HoldIsOneWhileItIsHeld) {
     m_screen.movePointer(holdX, holdY);
     m_screen.press();
     host.idle();
-    EXPECT_THAT(host.take(), ElementsAre("5=1"));
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "5=1"));
     host.send(holdPort, 1);
     m_screen.release();
     host.idle();
-    EXPECT_THAT(host.take(), ElementsAre("5=0"));
+    EXPECT_THAT(host.take(), ElementsAre("5=0", "release 5"));
 }
 
 TEST_F(EditorTest, PagesFollowTheTabsAndTheHost) {
@@ -124,9 +127,10 @@ TEST_F(EditorTest, PagesFollowTheTabsAndTheHost) {
     host.idle();
     m_screen.release();
     host.idle();
-    EXPECT_THAT(host.take(), ElementsAre("7=1"));
+    EXPECT_THAT(host.take(), ElementsAre("touch 7", "7=1", "release 7"));
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 10", "10=0", "10=3", "10=3", "release 10")) << "the chord";
+    host.idle(longerThanAnEcho);
     host.send(pagePort, 2);
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 3", "3=100", "3=150", "3=150", "release 3"))
@@ -144,7 +148,7 @@ TEST_F(EditorTest, BorrowsTheKeyboardOnlyWhileAValueIsTyped) {
     click(host, dialX, valueY);
     EXPECT_EQ(m_screen.focus(), host.editorWindow());
     type(host, {sevenKey, returnKey});
-    EXPECT_THAT(host.take(), ElementsAre("2=7"));
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=7", "release 2"));
     EXPECT_EQ(m_screen.focus(), host.window());
 
     click(host, dialX, valueY);
@@ -157,9 +161,14 @@ TEST_F(EditorTest, TheKeyboardComesBackWithAClickAndGoesWithTheEditor) {
     const std::uint32_t other = m_screen.makeWindow(400);
     EditorHost host(m_screen);
     host.idle(20);
+    const auto closed = m_screen.picture(host.window(), editorHeight);
     click(host, dialX, valueY);
+    type(host, {sevenKey});
+    EXPECT_NE(m_screen.picture(host.window(), editorHeight), closed);
     m_screen.setFocus(other);
-    host.idle();
+    host.idle(20);
+    EXPECT_EQ(m_screen.picture(host.window(), editorHeight), closed) << "no value that is not in force";
+    EXPECT_THAT(host.take(), IsEmpty());
     click(host, dialX, valueY);
     EXPECT_EQ(m_screen.focus(), host.editorWindow());
     host.close(false);
@@ -205,7 +214,7 @@ TEST_F(EditorTest, TwoAtOnceDoNotHearOfEachOther) {
     m_screen.movePointer(holdX, 400 + holdY);
     m_screen.press();
     second.idle();
-    EXPECT_THAT(second.take(), ElementsAre("5=1"));
+    EXPECT_THAT(second.take(), ElementsAre("touch 5", "5=1"));
     m_screen.release();
     second.idle();
 }
