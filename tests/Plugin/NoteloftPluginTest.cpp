@@ -129,7 +129,7 @@ TEST_F(NoteloftPluginTest, RespectsTheRoomInTheOutput) {
     add(0, {0x80, 60, 0});
     m_output.sequence()->body = {};
     EXPECT_TRUE(run(64, sizeof(LV2_Atom_Sequence_Body)).empty());
-    EXPECT_EQ(run(64), (Messages{{0, 0x80, 60, 64}}));
+    EXPECT_EQ(run(64), (Messages{{0, 0x80, 60, 0}}));
 }
 
 TEST_F(NoteloftPluginTest, EmptyBlockSendsNothingOfItsOwn) {
