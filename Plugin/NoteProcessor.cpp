@@ -25,7 +25,7 @@ bool isWellFormed(const std::uint8_t* bytes, std::uint32_t size) {
 
 void NoteProcessor::restart() {
     m_restarts = true;
-    m_random = {};
+    m_random = Random(m_seed);
     m_lastWentDown = true;
 }
 

@@ -20,8 +20,14 @@ public:
     /// `sampleRate` is in frames a second.
     explicit NoteProcessor(double sampleRate) : m_sampleRate(sampleRate) {}
 
-    /// Starts anew: whatever sounds is ended in the next block.
+    /// Starts anew, with the same chances: whatever sounds is ended in the next block.
     void restart();
+
+    /// What chance does from now on, and after every start. Not while a block is processed.
+    void setSeed(std::uint32_t seed) {
+        m_seed = seed;
+        m_random = Random(seed);
+    }
 
     /// Begins a block, with settings for all of it. Only for a block that has frames; then `process` for each
     /// message by its time, then `endBlock`.
@@ -68,6 +74,7 @@ private:
     NoteSchedule m_schedule;
     NoteOutput m_output;
     MidiBacklog m_backlog;
+    std::uint32_t m_seed = Random::defaultSeed;
     Random m_random;
     std::uint64_t m_blockStart = 0; // frames
     std::uint32_t m_lastStrike = 0;

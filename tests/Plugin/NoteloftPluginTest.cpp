@@ -73,7 +73,7 @@ protected:
     }
 
     LV2_URID_Map m_map{nullptr, mapUri};
-    NoteloftPlugin m_plugin{48000, m_map};
+    NoteloftPlugin m_plugin{48000, m_map, 1};
     SequenceBuffer m_input;
     SequenceBuffer m_output;
     std::array<float, Ports::count> m_controls{};
