@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
@@ -228,8 +229,12 @@ void DialLabel::submit() {
 }
 
 void DialLabel::leave() {
-    if (m_onEditingEnded)
-        m_onEditingEnded();
+    // The callback may destroy the label, and with it itself.
+    const QPointer<DialLabel> self(this);
+    if (const auto onEditingEnded = m_onEditingEnded)
+        onEditingEnded();
+    if (!self)
+        return;
     updateValueString();
     stopEditing();
 }

@@ -21,7 +21,7 @@ class DialLabel : public QWidget, public ParameterView {
 
 public:
     /// `width` is that of the field. `onEditingEnded` is called when Return or Escape ends the typing; it may
-    /// be empty.
+    /// be empty, and may destroy the label.
     DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, QColor valueColor,
               float labelFontSize, float valueFontSize, float editingFontSize, float width, bool showSuffix,
               bool showName, int decimalPlaces, std::function<void()> onEditingEnded,

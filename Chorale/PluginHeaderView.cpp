@@ -55,8 +55,20 @@ PluginHeaderView::PluginHeaderView(QUrl appUpdateURL, const QString& pluginVersi
     layers->addWidget(makeLogoRow(), 0, 0, Qt::AlignLeading | Qt::AlignVCenter);
     if (m_tabParameter->valueStrings())
         layers->addWidget(makeTabRow(), 0, 0, Qt::AlignCenter);
-    layers->addWidget(makeTrailingRow(pluginVersion, updateDetails, menu), 0, 0,
-                      Qt::AlignTrailing | Qt::AlignVCenter);
+    layers->addWidget(makeTrailingRow(pluginVersion, menu), 0, 0, Qt::AlignTrailing | Qt::AlignVCenter);
+    setUpdateDetails(updateDetails);
+}
+
+void PluginHeaderView::setUpdateDetails(const std::optional<UpdateAvailableDetails>& details) {
+    delete std::exchange(m_update, nullptr);
+    if (!details)
+        return;
+    const ViewScale scale(m_scale);
+    const QString title = (details->newVersion + QStringLiteral(" Available")).toUpper();
+    auto* const button = new platform::Button(title, std::make_unique<UpdateButtonStyle>());
+    connect(button, &QAbstractButton::clicked, this, [this] { QDesktopServices::openUrl(m_appUpdateURL); });
+    m_update = button;
+    m_trailing->insertWidget(0, button);
 }
 
 QWidget* PluginHeaderView::makeLogoRow() {
@@ -84,18 +96,10 @@ QWidget* PluginHeaderView::makeTabRow() {
     return row;
 }
 
-QWidget* PluginHeaderView::makeTrailingRow(const QString& version,
-                                           const std::optional<UpdateAvailableDetails>& update,
-                                           const std::function<QWidget*()>& menu) {
+QWidget* PluginHeaderView::makeTrailingRow(const QString& version, const std::function<QWidget*()>& menu) {
     auto* const row = new QWidget;
     QHBoxLayout* const layout = makeRow(*row, trailingSpacing);
-    if (update) {
-        const QString title = (update->newVersion + QStringLiteral(" Available")).toUpper();
-        auto* const button = new platform::Button(title, std::make_unique<UpdateButtonStyle>());
-        connect(button, &QAbstractButton::clicked, this,
-                [this] { QDesktopServices::openUrl(m_appUpdateURL); });
-        layout->addWidget(button);
-    }
+    m_trailing = layout;
     auto* const label = new QLabel(version);
     label->setTextFormat(Qt::PlainText);
     rocketFont(*label, versionSize * ViewScale::current());

@@ -11,6 +11,7 @@
 #include "Chorale/ViewScale.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Editor/MenuButton.h"
 #include "Plugin/Editor/ScaleView.h"
 
 #include <QEvent>
@@ -106,6 +107,7 @@ EditorView::EditorView(const EditorParameters& parameters, qreal scale)
     setFocusPolicy(Qt::ClickFocus);
     setFocus();
     connect(m_page.get(), &AudioParameter::valueChanged, this, &EditorView::showPage);
+    connect(&m_update, &platform::KnownUpdate::changed, this, &EditorView::showUpdate);
     setScale(scale);
 }
 
@@ -117,6 +119,7 @@ void EditorView::setScale(qreal scale) {
     layout()->addWidget(m_content);
     setFixedSize(scaled(width), m_content->sizeHint().height());
     showPage();
+    showUpdate();
 }
 
 QWidget* EditorView::makeContent() {
@@ -124,8 +127,9 @@ QWidget* EditorView::makeContent() {
     auto* const stack = new QVBoxLayout(content);
     stack->setContentsMargins({});
     stack->setSpacing(0);
-    stack->addWidget(new chorale::PluginHeaderView(chorale::MakerLinks::website(),
-                                                   QStringLiteral(NOTELOFT_VERSION), m_page, std::nullopt));
+    m_header = new chorale::PluginHeaderView(chorale::MakerLinks::website(), QStringLiteral(NOTELOFT_VERSION),
+                                             m_page, std::nullopt, [] { return new MenuButton; });
+    stack->addWidget(m_header);
     m_pages = new QStackedWidget;
     m_pages->addWidget(makeScalePage(m_parameters));
     m_pages->addWidget(
@@ -143,6 +147,14 @@ QWidget* EditorView::makeContent() {
         1);
     stack->addLayout(body);
     return content;
+}
+
+void EditorView::showUpdate() {
+    const QString newer = platform::KnownUpdate::versionAbove(QStringLiteral(NOTELOFT_VERSION));
+    std::optional<chorale::UpdateAvailableDetails> details;
+    if (!newer.isEmpty())
+        details = {newer};
+    m_header->setUpdateDetails(details);
 }
 
 void EditorView::showPage() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Updates/KnownUpdate.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -8,7 +10,8 @@ class QStackedWidget;
 
 namespace chorale {
 class AudioParameter;
-}
+class PluginHeaderView;
+} // namespace chorale
 
 namespace noteloft::plugin {
 
@@ -33,11 +36,14 @@ protected:
 private:
     QWidget* makeContent();
     void showPage();
+    void showUpdate();
 
     const EditorParameters& m_parameters;
     const std::shared_ptr<chorale::AudioParameter> m_page;
-    QWidget* m_content = nullptr;      // a child
-    QStackedWidget* m_pages = nullptr; // in it
+    QWidget* m_content = nullptr;                  // a child
+    chorale::PluginHeaderView* m_header = nullptr; // in it
+    QStackedWidget* m_pages = nullptr;             // likewise
+    platform::KnownUpdate m_update;
 };
 
 } // namespace noteloft::plugin

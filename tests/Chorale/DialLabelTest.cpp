@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -172,6 +173,30 @@ TEST_F(DialLabelTest, LooksAndSizeFollowWhatIsShown) {
     const DialLabel nameless(host.parameter, Qt::gray, Qt::white, 12, 16, 16, 60, true, false, 1, {});
     EXPECT_EQ(nameless.sizeHint().height(), 40);
     EXPECT_LT(label.sizeHint().height(), 40 + 15) << "the rows overlap";
+}
+
+TEST_F(DialLabelTest, ItsCallbackMayDestroyIt) {
+    HostWatch host;
+    for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
+        QPointer<DialLabel> label;
+        const std::vector<int> kept(1000, 7); // goes with the callback
+        int sum = 0;
+        label = new DialLabel(
+            host.parameter, Qt::gray, Qt::black, 12, 16, 16, 60, true, true, 0,
+            [&label, &sum, kept] {
+                delete label;
+                for (const int one : kept)
+                    sum += one;
+            },
+            &m_window);
+        m_label = label;
+        m_window.show();
+        m_label->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        type("42", end);
+        EXPECT_EQ(label, nullptr);
+        EXPECT_EQ(sum, 7000);
+    }
 }
 
 TEST_F(DialLabelTest, AssistiveTechnologyReadsAndStepsTheValue) {

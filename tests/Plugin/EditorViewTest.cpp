@@ -2,11 +2,15 @@
 #include "Plugin/Editor/EditorView.h"
 #include "Chorale/ChoiceLabel.h"
 #include "Chorale/DialLabel.h"
+#include "Chorale/MakerLinks.h"
 #include "Chorale/RocketFontModifier.h"
+#include "Platform/Controls/Menu.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Editor/MenuButton.h"
 #include "Plugin/Editor/QtSession.h"
 #include "Plugin/Editor/ScaleView.h"
+#include "tests/support/Browser.h"
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>
@@ -58,11 +62,12 @@ TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
     m_view.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
     EXPECT_TRUE(m_view.hasFocus()) << "no ring before somebody asks for one";
-    EXPECT_THAT(reachedByTab(), ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Transpose",
-                                            "Transpose", "Root", "Root", "Scale", "Scale", "Hold"));
+    EXPECT_THAT(reachedByTab(),
+                ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Menu", "Transpose",
+                            "Transpose", "Root", "Root", "Scale", "Scale", "Hold"));
     set(Ports::page, 2);
     EXPECT_THAT(reachedByTab(),
-                ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Velocity", "Velocity",
+                ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Menu", "Velocity", "Velocity",
                             "Dynamics", "Dynamics", "Timing", "Timing", "Chance", "Chance", "Hold"));
 }
 
@@ -79,6 +84,39 @@ TEST_F(EditorViewTest, AFieldLeavesTheNameOfItsParameterWhole) {
     QTest::mouseClick(label, Qt::LeftButton);
     ASSERT_TRUE(label->isEditing());
     EXPECT_EQ(difference(before, picture(*label).copy(name)), 0);
+}
+
+TEST_F(EditorViewTest, AnUpdateThatIsFoundLaterShowsWithItsLink) {
+    const auto update = [&]() -> QAbstractButton* {
+        for (auto* const button : m_view.findChildren<QAbstractButton*>())
+            if (button->text() == QStringLiteral("9.1 AVAILABLE"))
+                return button;
+        return nullptr;
+    };
+    m_view.show();
+    EXPECT_EQ(update(), nullptr);
+    platform::KnownUpdate::store(QStringLiteral("9.1"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return update() != nullptr; }));
+    const Browser browser;
+    update()->click();
+    EXPECT_THAT(browser.opened, ElementsAre(chorale::MakerLinks::website()));
+    platform::KnownUpdate::store(QStringLiteral("0.9"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return update() == nullptr; })) << "it is older than this one";
+}
+
+TEST_F(EditorViewTest, TheMenuLeadsToTheMakersPagesAndToTheUpdates) {
+    m_view.show();
+    const Browser browser;
+    m_view.findChild<MenuButton*>()->click();
+    auto* const menu = qobject_cast<platform::Menu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (platform::MenuItem* const item : menu->items())
+        item->trigger();
+    EXPECT_THAT(browser.opened,
+                ElementsAre(chorale::MakerLinks::website(), chorale::MakerLinks::socialProfile(),
+                            chorale::MakerLinks::contactPage(),
+                            QUrl(QStringLiteral("noteloft://openAndUpdate"))));
+    menu->close();
 }
 
 TEST(QtSession, NoEditorInAHostOfAnotherWindowSystem) {
