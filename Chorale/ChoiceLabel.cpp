@@ -53,6 +53,10 @@ QString ChoiceLabel::valueText() const {
     return hostText(m_param->value(), m_param->valueStrings());
 }
 
+QString ChoiceLabel::spokenName() const {
+    return tr("%1 choice").arg(m_param->name());
+}
+
 QRectF ChoiceLabel::valueRow() const {
     const qreal top = QFontMetricsF(m_labelFont).height() - valueRowOverlap * m_scale;
     return {0, top, qreal(width()), valueRowHeight * m_scale};

@@ -31,6 +31,8 @@ public:
 
     QString valueText() const override;
 
+    QString spokenName() const override;
+
     QAccessible::Role role() const override { return QAccessible::ComboBox; }
 
     QSize sizeHint() const override;

@@ -52,7 +52,7 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
     rocketFont(*m_field, editingFontSize * m_scale);
     m_field->setFrame(false);
     m_field->setAlignment(Qt::AlignCenter);
-    m_field->setAccessibleName(m_param->name());
+    m_field->setAccessibleName(tr("New %1 value").arg(m_param->name()));
     QPalette palette = m_field->palette();
     palette.setColor(QPalette::Base, Qt::transparent);
     palette.setColor(QPalette::Text, m_valueColor);
@@ -82,6 +82,10 @@ QString DialLabel::suffix() const {
 QString DialLabel::valueText() const {
     const QString value = displayText(*m_param, m_decimalPlaces, locale());
     return suffix().isEmpty() ? value : value + u' ' + suffix();
+}
+
+QString DialLabel::spokenName() const {
+    return tr("%1 value").arg(m_param->name());
 }
 
 qreal DialLabel::nameHeight() const {

@@ -37,6 +37,8 @@ public:
 
     QString valueText() const override;
 
+    QString spokenName() const override;
+
     int decimalPlaces() const override { return m_decimalPlaces; }
 
     QSize sizeHint() const override;

@@ -23,7 +23,10 @@ public:
     }
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? m_view.valueText() : QAccessibleWidget::text(kind);
+        // The bus of assistive technology has only numbers for values: with its unit or its name a value is
+        // the description.
+        const bool isValue = kind == QAccessible::Value || kind == QAccessible::Description;
+        return isValue ? m_view.valueText() : QAccessibleWidget::text(kind);
     }
 
     QStringList actionNames() const override {

@@ -11,6 +11,10 @@
 
 namespace chorale {
 
+QString ParameterView::spokenName() const {
+    return parameter()->name();
+}
+
 QStringList ParameterView::actionNames() const {
     return {QAccessibleActionInterface::increaseAction(), QAccessibleActionInterface::decreaseAction()};
 }
@@ -23,11 +27,13 @@ void ParameterView::doAction(const QString& name) {
 void ParameterView::follow(QWidget& view) {
     installParameterAccessibility();
     new platform::ParameterVisibility(view);
-    view.setAccessibleName(parameter()->name());
+    view.setAccessibleName(spokenName());
     QObject::connect(parameter().get(), &AudioParameter::valueChanged, &view, [this, &view] {
         view.update();
         QAccessibleValueChangeEvent change(&view, valueText());
         QAccessible::updateAccessibility(&change);
+        QAccessibleEvent description(&view, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&description);
     });
 }
 

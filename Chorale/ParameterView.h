@@ -29,6 +29,9 @@ public:
     /// What assistive technology calls the widget.
     virtual QAccessible::Role role() const { return QAccessible::Dial; }
 
+    /// What tells it from other views of the parameter, too. Asked once.
+    virtual QString spokenName() const;
+
     /// What assistive technology can do with it while it is enabled: go a step up or down.
     virtual QStringList actionNames() const;
     virtual void doAction(const QString& name);

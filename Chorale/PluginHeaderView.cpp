@@ -84,6 +84,7 @@ QWidget* PluginHeaderView::makeTabRow() {
     QHBoxLayout* const layout = makeRow(*row, tabSpacing);
     for (const QString& name : *m_tabParameter->valueStrings()) {
         auto* const tab = new TabButton(QLocale().toUpper(name));
+        tab->setAccessibleName(tr("%1 tab").arg(name));
         const auto index = static_cast<float>(m_tabs.size());
         connect(tab, &QAbstractButton::clicked, this, [this, index] {
             m_tabParameter->setValue(index, ParameterEditor::ui, ParameterEditorState::change);

@@ -5,6 +5,7 @@
 #include "Platform/AudioUnits/AudioComponentManager.h"
 #include "Platform/Controls/Menu.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
+#include "Platform/Windows/WindowAccessibility.h"
 
 #include <QApplication>
 #include <QShortcut>
@@ -15,6 +16,7 @@ using platform::HiddenTitleBarWindow;
 using platform::Selector;
 
 NoteloftApp::NoteloftApp(const LaunchOptions& options) {
+    platform::installWindowAccessibility();
     platform::setApplicationDelegate(&m_appDelegate);
     m_sparkleHelper.updaterController =
         std::make_unique<platform::SPUStandardUpdaterController>(false, &m_sparkleHelper, nullptr);

@@ -9,6 +9,7 @@
 #include "Chorale/PluginHeaderView.h"
 #include "Chorale/RocketFontModifier.h"
 #include "Chorale/ViewScale.h"
+#include "Platform/Windows/WindowAccessibility.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
 #include "Plugin/Editor/MenuButton.h"
@@ -101,6 +102,8 @@ QWidget* makeScalePage(const EditorParameters& parameters) {
 
 EditorView::EditorView(const EditorParameters& parameters, qreal scale)
     : m_parameters(parameters), m_page(parameters.parameter(Ports::page)) {
+    platform::installWindowAccessibility();
+    setWindowTitle(QStringLiteral("Noteloft"));
     auto* const place = new QVBoxLayout(this);
     place->setContentsMargins({});
     // So that no control shows a focus ring before the user asks for one.

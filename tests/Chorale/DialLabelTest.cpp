@@ -203,8 +203,10 @@ TEST_F(DialLabelTest, AssistiveTechnologyReadsAndStepsTheValue) {
     HostWatch host(AudioUnitParameterUnit::decibels);
     show(host, 1).setLocale(QLocale::c());
     auto* const interface = QAccessible::queryAccessibleInterface(m_label);
-    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Level"));
+    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Level value")) << "the dial is the level";
     EXPECT_EQ(interface->text(QAccessible::Value), QStringLiteral("5.0 dB"));
+    EXPECT_EQ(interface->text(QAccessible::Description), QStringLiteral("5.0 dB"))
+        << "all that its bus knows";
     interface->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
     EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 5.5", "release 5.5"));
     EXPECT_EQ(interface->valueInterface()->maximumValue(), 100.0F);

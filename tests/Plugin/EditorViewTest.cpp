@@ -63,12 +63,17 @@ TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
     EXPECT_TRUE(m_view.hasFocus()) << "no ring before somebody asks for one";
     EXPECT_THAT(reachedByTab(),
-                ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Menu", "Transpose",
-                            "Transpose", "Root", "Root", "Scale", "Scale", "Hold"));
+                ElementsAre("Website of the maker", "Scale tab", "Chord tab", "Feel tab", "Menu", "Transpose",
+                            "Transpose value", "Root", "Root choice", "Scale", "Scale choice", "Hold"))
+        << "each name once";
+    const auto* const window = QAccessible::queryAccessibleInterface(&m_view);
+    EXPECT_EQ(window->role(), QAccessible::Window);
+    EXPECT_EQ(window->text(QAccessible::Name), QStringLiteral("Noteloft"));
     set(Ports::page, 2);
     EXPECT_THAT(reachedByTab(),
-                ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Menu", "Velocity", "Velocity",
-                            "Dynamics", "Dynamics", "Timing", "Timing", "Chance", "Chance", "Hold"));
+                ElementsAre("Website of the maker", "Scale tab", "Chord tab", "Feel tab", "Menu", "Velocity",
+                            "Velocity value", "Dynamics", "Dynamics value", "Timing", "Timing value",
+                            "Chance", "Chance value", "Hold"));
 }
 
 TEST_F(EditorViewTest, AFieldLeavesTheNameOfItsParameterWhole) {
