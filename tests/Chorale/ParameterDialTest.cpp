@@ -2,6 +2,7 @@
 #include "tests/Chorale/HostWatch.h"
 #include "tests/support/Pixels.h"
 
+#include <QAccessible>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -219,6 +220,32 @@ TEST_F(ParameterDialTest, KeysStepInOneGestureAndOthersReachTheHost) {
     QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, {});
     QApplication::sendEvent(m_dial.get(), &space);
     EXPECT_FALSE(space.isAccepted());
+}
+
+TEST_F(ParameterDialTest, FollowsTheHostOnScreenAndForAssistiveTechnology) {
+    class Paints : public QObject {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+
+        int count = 0;
+    };
+
+    HostWatch host(AudioUnitParameterUnit::hertz, 2000, 440, {}, 20);
+    ParameterDial& dial = show(host);
+    dial.setDecimalPlaces(0);
+    Paints paints;
+    dial.installEventFilter(&paints);
+    QTRY_COMPARE(paints.count, 0);
+    host.send(880);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+    auto* const interface = QAccessible::queryAccessibleInterface(&dial);
+    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Level"));
+    EXPECT_EQ(interface->text(QAccessible::Description), QStringLiteral("880 Hz"));
+    ASSERT_NE(interface->valueInterface(), nullptr);
+    EXPECT_EQ(interface->valueInterface()->currentValue(), 880.F);
 }
 
 TEST_F(ParameterDialTest, ShowsTheValueAndThatItIsHeld) {
