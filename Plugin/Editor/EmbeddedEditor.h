@@ -2,6 +2,7 @@
 
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorView.h"
+#include "Plugin/Editor/EmbeddedAccessibility.h"
 #include "Plugin/Editor/HostKeyboard.h"
 
 #include <QWindow>
@@ -46,6 +47,7 @@ private:
     qreal m_pixels = 1;                      // the desktop's, for each of its points
     const std::unique_ptr<QWindow> m_parent; // stands for the host's window, and does not own it
     EditorView m_view;
+    const EmbeddedAccessibility m_accessibility{m_view};
     std::optional<HostKeyboard> m_keyboard;
 };
 

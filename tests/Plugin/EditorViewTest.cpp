@@ -7,6 +7,7 @@
 #include "Platform/Controls/Menu.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Editor/EmbeddedAccessibility.h"
 #include "Plugin/Editor/MenuButton.h"
 #include "Plugin/Editor/QtSession.h"
 #include "Plugin/Editor/ScaleView.h"
@@ -58,6 +59,24 @@ protected:
 
 } // namespace
 
+TEST_F(EditorViewTest, IsFoundInsideOfAnotherProgramsWindow) {
+    EmbeddedAccessibility::install();
+    QWidget own; // stands for the host's window, which is none of the application's
+    m_view.setParent(&own);
+    const auto* const application = QAccessible::queryAccessibleInterface(qApp);
+    const int before = application->childCount();
+    {
+        const EmbeddedAccessibility embedded(m_view);
+        ASSERT_EQ(application->childCount(), before + 1);
+        const auto* const found = application->child(before);
+        ASSERT_NE(found, nullptr);
+        EXPECT_EQ(found->object(), &m_view);
+        EXPECT_EQ(application->indexOfChild(found), before);
+    }
+    EXPECT_EQ(application->childCount(), before);
+    m_view.setParent(nullptr);
+}
+
 TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
     m_view.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
@@ -69,6 +88,9 @@ TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
     const auto* const window = QAccessible::queryAccessibleInterface(&m_view);
     EXPECT_EQ(window->role(), QAccessible::Window);
     EXPECT_EQ(window->text(QAccessible::Name), QStringLiteral("Noteloft"));
+    EXPECT_NE(QAccessible::queryAccessibleInterface(m_view.findChild<ScaleView*>())->role(),
+              QAccessible::Window)
+        << "it was made before it was put into one";
     set(Ports::page, 2);
     EXPECT_THAT(reachedByTab(),
                 ElementsAre("Website of the maker", "Scale tab", "Chord tab", "Feel tab", "Menu", "Velocity",
