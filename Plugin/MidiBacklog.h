@@ -20,7 +20,7 @@ public:
     void send(MidiSink& sink);
 
 private:
-    static constexpr std::size_t capacity = 64 * 1024;
+    static constexpr std::size_t capacity = 0x10000;
 
     std::uint32_t firstSize() const;
 

@@ -1,6 +1,7 @@
 #include "Platform/Windows/WindowAccessibility.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace platform {
 

@@ -38,7 +38,7 @@ void EmbeddedEditor::followScale() {
         m_view.setScale(shown);
     m_pixels = pixels;
     // The window system's window has kept the size that it had in pixels.
-    m_view.windowHandle()->resize(QSize());
+    m_view.windowHandle()->resize(m_view.size() + QSize(1, 1));
     m_view.windowHandle()->resize(m_view.size());
     m_keyboard.emplace(m_view);
     const QSize size = (QSizeF(m_view.size()) * pixels).toSize();

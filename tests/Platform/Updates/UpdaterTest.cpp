@@ -3,6 +3,7 @@
 #include "Platform/Core/Bundle.h"
 #include "Platform/Core/CodeLocation.h"
 #include "Platform/Updates/Appcast.h"
+#include "Platform/Updates/KnownUpdate.h"
 #include "Platform/Updates/SPUStandardUpdaterController.h"
 #include "Platform/Updates/SPUStandardUserDriverDelegate.h"
 #include "Platform/Updates/SPUUpdaterDelegate.h"
@@ -23,6 +24,7 @@
 #include <gtest/gtest.h>
 
 using platform::Bundle;
+using platform::KnownUpdate;
 using platform::SPUStandardUpdaterController;
 
 namespace {
@@ -138,6 +140,9 @@ TEST_F(UpdaterTest, NewerVersionIsOfferedWithItsLinks) {
     EXPECT_EQ(shownDialog()->informativeText(),
               QStringLiteral("Noteloft 1.11 is now available; you have 1.10. Would you like to get it now?"));
     EXPECT_EQ(m_delegate.announced, QStringLiteral("11"));
+    EXPECT_EQ(KnownUpdate::versionAbove(QStringLiteral("1.10")), QStringLiteral("1.11"))
+        << "for other programs";
+    EXPECT_EQ(KnownUpdate::versionAbove(QStringLiteral("1.11")), QString());
     ASSERT_NE(button(u"Download…"), nullptr);
     ASSERT_NE(button(u"Learn More…"), nullptr);
     button(u"Download…")->click();
@@ -176,6 +181,7 @@ TEST_F(UpdaterTest, EqualAndOlderVersionsAreUpToDate) {
     EXPECT_EQ(check(feed("10.0", enclosure)), upToDate);
     EXPECT_EQ(shownDialog()->informativeText(),
               QStringLiteral("Noteloft 1.10 is currently the newest version available."));
+    EXPECT_EQ(KnownUpdate::versionAbove(QStringLiteral("0")), QString());
     shownDialog()->close();
     EXPECT_EQ(check(feed("9", enclosure)), upToDate);
 }
