@@ -34,14 +34,17 @@ void EmbeddedEditor::followScale() {
     if (m_keyboard)
         m_keyboard->giveBack();
     m_keyboard.reset();
-    if (std::exchange(m_shownScale, shown) != shown)
-        m_view.setScale(shown);
+    // What is drawn before has the old pixels, too.
+    m_view.setScale(shown);
+    m_shownScale = shown;
     m_pixels = pixels;
-    // The window system's window has kept the size that it had in pixels.
-    m_view.windowHandle()->resize(m_view.size() + QSize(1, 1));
-    m_view.windowHandle()->resize(m_view.size());
+    // The window and what it is drawn from have kept their size in pixels; Qt sees no change in points.
+    const QSize points = m_view.size();
+    m_view.setFixedSize(points + QSize(1, 1));
+    m_view.repaint();
+    m_view.setFixedSize(points);
     m_keyboard.emplace(m_view);
-    const QSize size = (QSizeF(m_view.size()) * pixels).toSize();
+    const QSize size = (QSizeF(points) * pixels).toSize();
     if (m_resize != nullptr)
         m_resize->ui_resize(m_resize->handle, size.width(), size.height());
 }
