@@ -134,7 +134,7 @@ void AudioParameter::setValue(float value) {
 }
 
 void AudioParameter::setValue(float value, ParameterEditor source, ParameterEditorState state) {
-    const float accepted = clamped(value, m_valueRange);
+    const float accepted = clamped(value, m_valueRange) + 0.F; // minus zero becomes zero
     // The shown value alone does not tell: a press and a release in one turn end where they began.
     if (state == ParameterEditorState::change && accepted == latestValue() && accepted == shownValue())
         return;

@@ -113,6 +113,7 @@ Q_SIGNALS:
 
 private:
     friend class ParameterGesture;
+    friend class ParameterSteps;
 
     void show(std::size_t source, float value) override;
 

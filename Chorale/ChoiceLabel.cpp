@@ -25,11 +25,11 @@ constexpr QSizeF arrowSize(7, 4);
 constexpr qreal arrowGap = 5;
 constexpr qreal arrowWidth = 1.4;
 
-void paintArrow(QPainter& painter, QPointF middle, const QColor& color) {
-    const QPointF half(arrowSize.width() / 2, arrowSize.height() / 2);
+void paintArrow(QPainter& painter, QPointF middle, qreal scale, const QColor& color) {
+    const QPointF half = QPointF(arrowSize.width() / 2, arrowSize.height() / 2) * scale;
     const QPointF points[] = {middle - half, middle + QPointF(0, half.y()),
                               middle + QPointF(half.x(), -half.y())};
-    painter.setPen(QPen(color, arrowWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, arrowWidth * scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(points, std::size(points));
 }
 
@@ -41,8 +41,8 @@ ChoiceLabel::ChoiceLabel(std::shared_ptr<AudioParameter> param, QColor labelColo
       m_param(std::move(param)),
       m_labelColor(labelColor),
       m_valueColor(valueColor),
-      m_labelFont(RocketFontModifier{labelFontSize}.font()),
-      m_valueFont(RocketFontModifier{valueFontSize}.font()) {
+      m_labelFont(RocketFontModifier{labelFontSize * m_scale}.font()),
+      m_valueFont(RocketFontModifier{valueFontSize * m_scale}.font()) {
     setFocusPolicy(Qt::TabFocus);
     follow(*this);
 }
@@ -53,9 +53,17 @@ QString ChoiceLabel::valueText() const {
     return hostText(m_param->value(), m_param->valueStrings());
 }
 
+QString ChoiceLabel::spokenName() const {
+    return tr("%1 choice").arg(m_param->name());
+}
+
 QRectF ChoiceLabel::valueRow() const {
-    const qreal top = QFontMetricsF(m_labelFont).height() - valueRowOverlap;
-    return {0, top, qreal(width()), valueRowHeight};
+    const qreal top = QFontMetricsF(m_labelFont).height() - valueRowOverlap * m_scale;
+    return {0, top, qreal(width()), valueRowHeight * m_scale};
+}
+
+qreal ChoiceLabel::arrowRoom() const {
+    return (arrowGap + arrowSize.width()) * m_scale;
 }
 
 QSize ChoiceLabel::sizeHint() const {
@@ -64,7 +72,7 @@ QSize ChoiceLabel::sizeHint() const {
     for (const QString& name : m_param->valueStrings().value_or(QStringList()))
         longest = std::max(longest, metrics.horizontalAdvance(name));
     const qreal name = QFontMetricsF(m_labelFont).horizontalAdvance(m_param->name().toUpper());
-    const qreal width = std::max(name, longest + 2 * (arrowGap + arrowSize.width()));
+    const qreal width = std::max(name, longest + 2 * arrowRoom());
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(valueRow().bottom()))};
 }
 
@@ -76,17 +84,17 @@ void ChoiceLabel::paintEvent(QPaintEvent*) {
     painter.drawText(QRectF(rect()), Qt::AlignHCenter | Qt::AlignTop, m_param->name().toUpper());
 
     const QFontMetricsF metrics(m_valueFont);
-    const QString value =
-        metrics.elidedText(valueText(), Qt::ElideRight, width() - arrowGap - arrowSize.width());
+    const QString value = metrics.elidedText(valueText(), Qt::ElideRight, width() - arrowRoom());
     const QRectF row = valueRow();
     const qreal textWidth = metrics.horizontalAdvance(value);
     // The text is in the middle, as that of other labels; the arrow hangs on.
-    const qreal right = std::min((width() + textWidth) / 2, width() - arrowGap - arrowSize.width());
+    const qreal right = std::min((width() + textWidth) / 2, width() - arrowRoom());
     painter.setFont(m_valueFont);
     painter.setPen(m_valueColor);
     painter.drawText(QRectF(right - textWidth, row.top(), textWidth, row.height()),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, value);
-    paintArrow(painter, {right + arrowGap + arrowSize.width() / 2, row.center().y()}, m_labelColor);
+    paintArrow(painter, {right + arrowRoom() - arrowSize.width() / 2 * m_scale, row.center().y()}, m_scale,
+               m_labelColor);
 
     constexpr qreal radius = 4;
     if (hasFocus() && isActiveWindow())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chorale/ParameterView.h"
+#include "Chorale/ViewScale.h"
 
 #include <QColor>
 #include <QFont>
@@ -30,6 +31,8 @@ public:
 
     QString valueText() const override;
 
+    QString spokenName() const override;
+
     QAccessible::Role role() const override { return QAccessible::ComboBox; }
 
     QSize sizeHint() const override;
@@ -43,8 +46,10 @@ protected:
 
 private:
     QRectF valueRow() const;
+    qreal arrowRoom() const;
     void openMenu();
 
+    const qreal m_scale = ViewScale::current();
     const std::shared_ptr<AudioParameter> m_param;
     const QColor m_labelColor;
     const QColor m_valueColor;

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
@@ -37,9 +38,9 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
       m_param(std::move(param)),
       m_labelColor(labelColor),
       m_valueColor(valueColor),
-      m_labelFont(RocketFontModifier{labelFontSize}.font()),
-      m_valueFont(RocketFontModifier{valueFontSize}.font()),
-      m_width(width),
+      m_labelFont(RocketFontModifier{labelFontSize * m_scale}.font()),
+      m_valueFont(RocketFontModifier{valueFontSize * m_scale}.font()),
+      m_width(width * m_scale),
       m_showSuffix(showSuffix),
       m_showName(showName),
       m_decimalPlaces(decimalPlaces),
@@ -48,10 +49,10 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::IBeamCursor);
     follow(*this);
-    rocketFont(*m_field, editingFontSize);
+    rocketFont(*m_field, editingFontSize * m_scale);
     m_field->setFrame(false);
     m_field->setAlignment(Qt::AlignCenter);
-    m_field->setAccessibleName(m_param->name());
+    m_field->setAccessibleName(tr("New %1 value").arg(m_param->name()));
     QPalette palette = m_field->palette();
     palette.setColor(QPalette::Base, Qt::transparent);
     palette.setColor(QPalette::Text, m_valueColor);
@@ -62,10 +63,7 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
     palette.setColor(QPalette::HighlightedText, m_valueColor);
     m_field->setPalette(palette);
     m_field->hide();
-    connect(m_param.get(), &AudioParameter::valueChanged, this, [this] {
-        updateValueString();
-        updateGeometry();
-    });
+    connect(m_param.get(), &AudioParameter::valueChanged, this, &DialLabel::updateValueString);
     updateValueString();
 }
 
@@ -86,29 +84,49 @@ QString DialLabel::valueText() const {
     return suffix().isEmpty() ? value : value + u' ' + suffix();
 }
 
+QString DialLabel::spokenName() const {
+    return tr("%1 value").arg(m_param->name());
+}
+
 qreal DialLabel::nameHeight() const {
     return m_showName ? QFontMetricsF(m_labelFont).height() : 0;
 }
 
 QRectF DialLabel::valueRow() const {
-    const qreal top = m_showName ? nameHeight() - valueRowOverlap : 0;
-    return {0, top, qreal(width()), valueRowHeight};
+    const qreal top = m_showName ? nameHeight() - valueRowOverlap * m_scale : 0;
+    return {0, top, qreal(width()), valueRowHeight * m_scale};
 }
 
 QRectF DialLabel::fieldFrame() const {
-    const QSizeF size(m_width, QFontMetricsF(m_field->font()).height() + 2 * fieldTopMargin);
+    const QSizeF size(m_width, QFontMetricsF(m_field->font()).height() + 2 * fieldTopMargin * m_scale);
     QRectF frame(QPointF(), size);
     frame.moveCenter(valueRow().center());
-    return frame;
+    // The rows overlap, but the frame must not reach into the name.
+    const qreal nameBottom = m_showName ? QFontMetricsF(m_labelFont).ascent() + fieldTopMargin * m_scale : 0;
+    const qreal cut = std::max(0.0, nameBottom - frame.top());
+    return frame.adjusted(0, cut, 0, -cut);
+}
+
+qreal DialLabel::widestRow() const {
+    const QFontMetricsF metrics(m_valueFont);
+    QChar widest = u'0';
+    for (char16_t digit = u'1'; digit <= u'9'; ++digit)
+        if (metrics.horizontalAdvance(digit) > metrics.horizontalAdvance(widest))
+            widest = digit;
+    qreal width = 0;
+    for (const float end : {m_param->valueRange().lowerBound(), m_param->valueRange().upperBound()}) {
+        QString text = numberText(end * m_param->displayScaleFactor(), m_decimalPlaces, locale());
+        std::replace_if(
+            text.begin(), text.end(), [](QChar one) { return one.isDigit(); }, widest);
+        width = std::max(width, metrics.horizontalAdvance(text));
+    }
+    return width + (suffix().isEmpty() ? 0 : suffixGap * m_scale + metrics.horizontalAdvance(suffix()));
 }
 
 QSize DialLabel::sizeHint() const {
     const QFontMetricsF label(m_labelFont);
-    const QFontMetricsF value(m_valueFont);
     const qreal name = m_showName ? label.horizontalAdvance(m_param->name().toUpper()) : 0;
-    const qreal row = value.horizontalAdvance(displayText(*m_param, m_decimalPlaces, locale())) +
-                      (suffix().isEmpty() ? 0 : suffixGap + value.horizontalAdvance(suffix()));
-    const qreal width = std::max({name, row, qreal(m_width)});
+    const qreal width = std::max({name, widestRow(), m_width});
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(valueRow().bottom()))};
 }
 
@@ -139,11 +157,11 @@ void DialLabel::paintValue(QPainter& painter) const {
     const QString value = displayText(*m_param, m_decimalPlaces, locale());
     const qreal valueWidth = metrics.horizontalAdvance(value);
     const qreal rowWidth =
-        valueWidth + (suffix().isEmpty() ? 0 : suffixGap + metrics.horizontalAdvance(suffix()));
+        valueWidth + (suffix().isEmpty() ? 0 : suffixGap * m_scale + metrics.horizontalAdvance(suffix()));
     QRectF row = valueRow();
     row.setLeft((width() - rowWidth) / 2);
     painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, value);
-    row.setLeft(row.left() + valueWidth + suffixGap);
+    row.setLeft(row.left() + valueWidth + suffixGap * m_scale);
     painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, suffix());
 }
 
@@ -157,11 +175,13 @@ void DialLabel::paintField(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(edge);
     painter.setBrush(fill);
-    painter.drawRoundedRect(fieldFrame().adjusted(0.5, 0.5, -0.5, -0.5), fieldRadius, fieldRadius);
+    painter.drawRoundedRect(fieldFrame().adjusted(0.5, 0.5, -0.5, -0.5), fieldRadius * m_scale,
+                            fieldRadius * m_scale);
 }
 
 void DialLabel::resizeEvent(QResizeEvent*) {
-    m_field->setGeometry(fieldFrame().marginsRemoved({fieldMargin, 1, fieldMargin, 1}).toRect());
+    m_field->setGeometry(
+        fieldFrame().marginsRemoved({fieldMargin * m_scale, 1, fieldMargin * m_scale, 1}).toRect());
 }
 
 void DialLabel::changeEvent(QEvent* event) {
@@ -213,8 +233,12 @@ void DialLabel::submit() {
 }
 
 void DialLabel::leave() {
-    if (m_onEditingEnded)
-        m_onEditingEnded();
+    // The callback may destroy the label, and with it itself.
+    const QPointer<DialLabel> self(this);
+    if (const auto onEditingEnded = m_onEditingEnded)
+        onEditingEnded();
+    if (!self)
+        return;
     updateValueString();
     stopEditing();
 }
@@ -243,9 +267,8 @@ bool DialLabel::eventFilter(QObject* watched, QEvent* event) {
     if (watched != m_field)
         return false;
     if (event->type() == QEvent::FocusOut) {
-        // Neither the field's own menu nor another window takes the field away.
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+        // The field's own menu does not take it away.
+        if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
             stopEditing();
     }
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chorale/ParameterView.h"
+#include "Chorale/ViewScale.h"
 
 #include <QColor>
 #include <QWidget>
@@ -20,7 +21,7 @@ class DialLabel : public QWidget, public ParameterView {
 
 public:
     /// `width` is that of the field. `onEditingEnded` is called when Return or Escape ends the typing; it may
-    /// be empty.
+    /// be empty, and may destroy the label.
     DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, QColor valueColor,
               float labelFontSize, float valueFontSize, float editingFontSize, float width, bool showSuffix,
               bool showName, int decimalPlaces, std::function<void()> onEditingEnded,
@@ -35,6 +36,11 @@ public:
     const std::shared_ptr<AudioParameter>& parameter() const override { return m_param; }
 
     QString valueText() const override;
+
+    QString spokenName() const override;
+
+    int decimalPlaces() const override { return m_decimalPlaces; }
+
     QSize sizeHint() const override;
 
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -53,6 +59,8 @@ private:
     qreal nameHeight() const;
     QRectF valueRow() const;
     QRectF fieldFrame() const;
+    /// Of all values.
+    qreal widestRow() const;
     void paintName(QPainter& painter) const;
     void paintValue(QPainter& painter) const;
     void paintField(QPainter& painter) const;
@@ -65,12 +73,13 @@ private:
     void leave();
     void stopEditing();
 
+    const qreal m_scale = ViewScale::current();
     const std::shared_ptr<AudioParameter> m_param;
     const QColor m_labelColor;
     const QColor m_valueColor;
     const QFont m_labelFont;
     const QFont m_valueFont;
-    const float m_width;
+    const qreal m_width; // scaled
     const bool m_showSuffix;
     const bool m_showName;
     const int m_decimalPlaces;

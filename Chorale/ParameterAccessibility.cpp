@@ -23,18 +23,27 @@ public:
     }
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? m_view.valueText() : QAccessibleWidget::text(kind);
+        // The bus of assistive technology has only numbers for values: with its unit or its name a value is
+        // the description.
+        const bool isValue = kind == QAccessible::Value || kind == QAccessible::Description;
+        return isValue ? m_view.valueText() : QAccessibleWidget::text(kind);
     }
 
     QStringList actionNames() const override {
-        return widget()->isEnabled() ? QStringList{increaseAction(), decreaseAction()} : QStringList();
+        return widget()->isEnabled() ? m_view.actionNames() : QStringList();
     }
 
     void doAction(const QString& name) override {
-        if (!actionNames().contains(name))
-            QAccessibleWidget::doAction(name);
+        if (actionNames().contains(name))
+            m_view.doAction(name);
         else
-            step(m_view.parameter(), name == increaseAction() ? 1 : -1);
+            QAccessibleWidget::doAction(name);
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.pressed = m_view.isPressed();
+        return state;
     }
 
     QVariant currentValue() const override { return m_view.parameter()->displayableValue(); }
@@ -48,7 +57,9 @@ public:
 
     QVariant maximumValue() const override { return shown(m_view.parameter()->valueRange().upperBound()); }
 
-    QVariant minimumStepSize() const override { return shown(stepSize(*m_view.parameter())); }
+    QVariant minimumStepSize() const override {
+        return shown(static_cast<float>(stepSize(*m_view.parameter())));
+    }
 
 private:
     float shown(float value) const { return value * m_view.parameter()->displayScaleFactor(); }

@@ -3,7 +3,6 @@
 #include "Chorale/AudioParameter.h"
 #include "Chorale/DialPainter.h"
 #include "Chorale/ParameterGesture.h"
-#include "Chorale/ParameterSteps.h"
 #include "Chorale/ParameterText.h"
 
 #include <QKeyEvent>
@@ -23,16 +22,15 @@ namespace {
 /// How far a drag goes from one end of the range to the other, in points.
 constexpr double fullDrag = 200;
 constexpr double fineFactor = 0.1;
-constexpr float fineStep = 0.1F;
-constexpr float pageSteps = 10;
+constexpr double pageSteps = 10;
 
 double angle(QPointF position, QPointF center) {
     return std::atan2(position.x() - center.x(), center.y() - position.y());
 }
 
 /// How many steps a key goes; to an end of the range for an infinite number of them; 0 for other keys.
-float stepsOf(const QKeyEvent& event) {
-    constexpr float end = std::numeric_limits<float>::infinity();
+double stepsOf(const QKeyEvent& event) {
+    constexpr double end = std::numeric_limits<double>::infinity();
     switch (event.key()) {
     case Qt::Key_Up:
     case Qt::Key_Right:
@@ -61,7 +59,7 @@ bool isReset(const QKeyEvent& event) {
 
 ParameterDial::ParameterDial(std::shared_ptr<AudioParameter> param, qreal diameter, QColor accent,
                              QWidget* parent)
-    : QWidget(parent), m_param(std::move(param)), m_diameter(diameter), m_accent(accent) {
+    : QWidget(parent), m_param(std::move(param)), m_diameter(diameter * m_scale), m_accent(accent) {
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     follow(*this);
@@ -74,7 +72,7 @@ ParameterDial::~ParameterDial() {
 }
 
 QString ParameterDial::valueText() const {
-    if (hasDetents())
+    if (m_param->valueStrings() && !m_param->valueStrings()->isEmpty())
         return hostText(m_param->value(), m_param->valueStrings());
     const QString value = displayText(*m_param, m_decimalPlaces, locale());
     const QString suffix = m_param->displayableSuffix();
@@ -92,10 +90,9 @@ void ParameterDial::paintEvent(QPaintEvent*) {
     frame.moveCenter(QRectF(rect()).center());
     const auto& range = m_param->valueRange();
     const bool isBipolar = range.lowerBound() < 0 && range.upperBound() > 0;
-    const float span = range.upperBound() - range.lowerBound();
     paintDial(painter, frame,
-              {.value = span > 0 ? m_param->percent() : 0,
-               .origin = isBipolar ? -range.lowerBound() / span : 0,
+              {.value = placeInRange(*m_param, m_param->value()),
+               .origin = isBipolar ? placeInRange(*m_param, 0) : 0,
                .accent = m_accent,
                .isHeld = m_gesture != nullptr,
                .isEnabled = isEnabled(),
@@ -104,7 +101,7 @@ void ParameterDial::paintEvent(QPaintEvent*) {
 
 void ParameterDial::beginDrag(const QMouseEvent& press) {
     m_last = press.position();
-    m_position = std::isnan(m_param->percent()) ? 0 : m_param->percent();
+    m_position = placeInRange(*m_param, m_param->value());
     m_gesture = std::make_unique<ParameterGesture>(m_param);
     m_tracking =
         std::make_unique<platform::PointerTracking>(*this, [this](platform::PointerTracking::End end) {
@@ -119,20 +116,15 @@ void ParameterDial::beginDrag(const QMouseEvent& press) {
 double ParameterDial::moved(QPointF to) {
     const QPointF from = std::exchange(m_last, to);
     if (m_dragMode == DragMode::vertical)
-        return (from.y() - to.y()) / fullDrag;
+        return (from.y() - to.y()) / (fullDrag * m_scale);
     const QPointF center = QRectF(rect()).center();
     const double turned = angle(to, center) - angle(from, center);
     return std::remainder(turned, 2 * std::numbers::pi) / dialSweep;
 }
 
-bool ParameterDial::hasDetents() const {
-    return m_param->valueStrings() && !m_param->valueStrings()->isEmpty();
-}
-
 void ParameterDial::apply() {
-    const auto& range = m_param->valueRange();
-    const double value = range.lowerBound() + m_position * (range.upperBound() - range.lowerBound());
-    m_gesture->setValue(static_cast<float>(hasDetents() ? std::round(value) : value));
+    const double value = valueAtPlace(*m_param, m_position);
+    m_gesture->setValue(static_cast<float>(isWhole(*m_param) ? std::round(value) : value));
 }
 
 void ParameterDial::reset() {
@@ -142,7 +134,7 @@ void ParameterDial::reset() {
 void ParameterDial::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         event->ignore();
-    else if (event->modifiers().testFlag(Qt::AltModifier))
+    else if (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier)) // some desktops keep Alt
         reset();
     else
         beginDrag(*event);
@@ -173,35 +165,29 @@ void ParameterDial::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void ParameterDial::wheelEvent(QWheelEvent* event) {
-    constexpr int notch = 120;
-    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier);
+    constexpr double notch = 120;
+    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier) && !isWhole(*m_param);
     // Some desktops turn the wheel's axis while Shift or Alt is held.
     const QPoint delta = event->angleDelta();
-    m_wheel += (delta.y() != 0 ? delta.y() : delta.x()) * (event->inverted() ? -1 : 1);
-    // Only whole notches reach the next name; a number follows any part of one.
-    float steps = static_cast<float>(m_wheel) / notch * (isFine ? fineStep : 1);
-    if (hasDetents())
-        steps = std::trunc(static_cast<float>(m_wheel) / notch);
-    m_wheel = hasDetents() ? m_wheel % notch : 0;
-    if (steps != 0)
-        step(m_param, steps);
+    const int turned = (delta.y() != 0 ? delta.y() : delta.x()) * (event->inverted() ? -1 : 1);
+    m_steps.step(turned / notch * (isFine ? fineStep : 1), m_decimalPlaces);
     event->accept();
 }
 
-void ParameterDial::stepOnce(float count) {
+void ParameterDial::stepOnce(double count) {
     if (!m_gesture)
         m_gesture = std::make_unique<ParameterGesture>(m_param);
     const auto& range = m_param->valueRange();
     if (std::isinf(count))
         m_gesture->setValue(count > 0 ? range.upperBound() : range.lowerBound());
     else
-        step(m_param, count);
+        m_steps.step(count, m_decimalPlaces);
 }
 
 void ParameterDial::keyPressEvent(QKeyEvent* event) {
-    const float count = stepsOf(*event);
+    const double count = stepsOf(*event);
     const bool isDragged = m_tracking && m_tracking->isActive();
-    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier) && !hasDetents();
+    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier) && !isWhole(*m_param);
     if (isDragged || (count == 0 && !isReset(*event)))
         QWidget::keyPressEvent(event);
     else if (count == 0)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "Chorale/ParameterSteps.h"
 #include "Chorale/ParameterView.h"
+#include "Chorale/ViewScale.h"
 #include "Platform/Controls/PointerTracking.h"
 
 #include <QColor>
@@ -12,9 +14,10 @@ class AudioParameter;
 class ParameterGesture;
 
 /// Turns a parameter. Drag up and down, or in a circle; hold Shift for a tenth of the speed; turn the wheel;
-/// double-click, or click with Alt, for the default; with the keyboard on it use the arrows, Page Up, Page
-/// Down, Home, End and Delete. Values with names are detents. Escape takes a drag back. Each drag and each
-/// key that is held is one gesture to the host. Every other key is left to the host.
+/// double-click, or click with Control or Alt, for the default; with the keyboard on it use the arrows, Page
+/// Up, Page Down, Home, End and Delete. Whole numbers and values with names are detents; frequencies turn by
+/// equal ratios. Escape takes a drag back. Each drag and each key that is held is one gesture to the host.
+/// Every other key is left to the host.
 class ParameterDial : public QWidget, public ParameterView {
     Q_OBJECT
 
@@ -30,8 +33,10 @@ public:
 
     void setDragMode(DragMode mode) { m_dragMode = mode; }
 
-    /// How many fractional digits the value is told with. 1 until set.
+    /// How many fractional digits the value is told with, and steps go by. 1 until set.
     void setDecimalPlaces(int places) { m_decimalPlaces = places; }
+
+    int decimalPlaces() const override { return m_decimalPlaces; }
 
     const std::shared_ptr<AudioParameter>& parameter() const override { return m_param; }
 
@@ -52,22 +57,22 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    bool hasDetents() const;
     void beginDrag(const QMouseEvent& press);
     void reset();
     /// Part of the range that the pointer has moved by since it was last seen.
     double moved(QPointF to);
     void apply();
-    void stepOnce(float count);
+    void stepOnce(double count);
 
     const std::shared_ptr<AudioParameter> m_param;
-    const qreal m_diameter;
+    const qreal m_scale = ViewScale::current();
+    const qreal m_diameter; // scaled
     const QColor m_accent;
     DragMode m_dragMode = DragMode::vertical;
     int m_decimalPlaces = 1;
     double m_position = 0;                       // the drag's place in the range, between detents too
     QPointF m_last;                              // where the pointer was seen last
-    int m_wheel = 0;                             // eighths of a degree not yet turned into a step
+    ParameterSteps m_steps{m_param};             // of the wheel and the keys
     std::unique_ptr<ParameterGesture> m_gesture; // of a drag or a key
     std::unique_ptr<platform::PointerTracking> m_tracking; // of a drag
 };

@@ -40,7 +40,7 @@ QString ParameterHoldButton::valueText() const {
 }
 
 QSize ParameterHoldButton::sizeHint() const {
-    return m_image.image().size().toSize();
+    return (m_image.image().size() * m_scale).toSize();
 }
 
 void ParameterHoldButton::setPressed(bool isPressed) {
@@ -50,8 +50,20 @@ void ParameterHoldButton::setPressed(bool isPressed) {
     update();
 }
 
+QStringList ParameterHoldButton::actionNames() const {
+    return {QAccessibleActionInterface::pressAction()};
+}
+
+void ParameterHoldButton::doAction(const QString&) {
+    if (m_tracking && m_tracking->isActive())
+        m_tracking->release();
+    else
+        begin();
+}
+
 void ParameterHoldButton::begin() {
     m_tracking = std::make_unique<platform::PointerTracking>(*this, [this](platform::PointerTracking::End) {
+        m_isKeyDown = false;
         setPressed(false);
         m_param->setValue(0, ParameterEditor::ui, ParameterEditorState::change);
     });
@@ -66,11 +78,11 @@ void ParameterHoldButton::hold() {
 void ParameterHoldButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const platform::Image& image = m_isPressed ? m_pressedImage : m_image;
-    QRectF frame(QPointF(), image.size());
+    QRectF frame(QPointF(), image.size() * m_scale);
     frame.moveCenter(QRectF(rect()).center());
     if (!isEnabled())
         painter.setOpacity(0.5);
-    image.draw(painter, frame);
+    drawScaled(painter, image, frame, m_scale);
     constexpr qreal radius = 3;
     if (hasFocus() && isActiveWindow())
         platform::paintFocusRing(painter, QRectF(rect()), radius);
@@ -100,8 +112,10 @@ void ParameterHoldButton::mouseReleaseEvent(QMouseEvent* event) {
 void ParameterHoldButton::keyPressEvent(QKeyEvent* event) {
     if (!holds(*event))
         QWidget::keyPressEvent(event);
-    else if (!event->isAutoRepeat())
+    else if (!event->isAutoRepeat()) {
         begin();
+        m_isKeyDown = true;
+    }
 }
 
 void ParameterHoldButton::keyReleaseEvent(QKeyEvent* event) {
@@ -109,6 +123,12 @@ void ParameterHoldButton::keyReleaseEvent(QKeyEvent* event) {
         QWidget::keyReleaseEvent(event);
     else if (!event->isAutoRepeat())
         m_tracking->release();
+}
+
+void ParameterHoldButton::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (m_isKeyDown) // its release goes to whoever has the keyboard now
+        m_tracking->interrupt();
 }
 
 } // namespace chorale

@@ -63,10 +63,13 @@ QString hostText(std::optional<float> value, const std::optional<QStringList>& v
     return plainText(static_cast<double>(*value), 0);
 }
 
-QString displayText(const AudioParameter& parameter, int decimalPlaces, const QLocale& locale) {
-    const double rounded =
-        plainText(static_cast<double>(parameter.displayableValue()), decimalPlaces).toDouble();
+QString numberText(double number, int decimalPlaces, const QLocale& locale) {
+    const double rounded = plainText(number, decimalPlaces).toDouble() + 0.0; // minus zero becomes zero
     return locale.toString(rounded, 'f', decimalPlaces);
+}
+
+QString displayText(const AudioParameter& parameter, int decimalPlaces, const QLocale& locale) {
+    return numberText(static_cast<double>(parameter.displayableValue()), decimalPlaces, locale);
 }
 
 QString editingText(const AudioParameter& parameter, int decimalPlaces) {

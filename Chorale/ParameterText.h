@@ -19,6 +19,9 @@ std::optional<float> decimalNumber(const QString& text);
 /// integer. Any thread that may allocate.
 QString hostText(std::optional<float> value, const std::optional<QStringList>& valueStrings);
 
+/// A number with exactly `decimalPlaces` fractional digits, as people of `locale` write it.
+QString numberText(double number, int decimalPlaces, const QLocale& locale);
+
 /// The shown value with exactly `decimalPlaces` fractional digits, without its suffix, as people of `locale`
 /// write it. Main thread.
 QString displayText(const AudioParameter& parameter, int decimalPlaces, const QLocale& locale = QLocale());

@@ -2,6 +2,7 @@
 
 #include "Chorale/AudioParameter.h"
 #include "Chorale/ParameterAccessibility.h"
+#include "Chorale/ParameterSteps.h"
 
 #include "Platform/AudioUnits/DisplayPump.h"
 
@@ -10,14 +11,29 @@
 
 namespace chorale {
 
+QString ParameterView::spokenName() const {
+    return parameter()->name();
+}
+
+QStringList ParameterView::actionNames() const {
+    return {QAccessibleActionInterface::increaseAction(), QAccessibleActionInterface::decreaseAction()};
+}
+
+void ParameterView::doAction(const QString& name) {
+    const bool goesUp = name == QAccessibleActionInterface::increaseAction();
+    ParameterSteps(parameter()).step(goesUp ? 1 : -1, decimalPlaces());
+}
+
 void ParameterView::follow(QWidget& view) {
     installParameterAccessibility();
     new platform::ParameterVisibility(view);
-    view.setAccessibleName(parameter()->name());
+    view.setAccessibleName(spokenName());
     QObject::connect(parameter().get(), &AudioParameter::valueChanged, &view, [this, &view] {
         view.update();
         QAccessibleValueChangeEvent change(&view, valueText());
         QAccessible::updateAccessibility(&change);
+        QAccessibleEvent description(&view, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&description);
     });
 }
 

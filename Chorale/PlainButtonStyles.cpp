@@ -23,7 +23,7 @@ void prepare(QPainter& painter, const platform::ButtonConfiguration& configurati
 
 QFont TabButtonStyle::font() const {
     constexpr qreal size = 16;
-    return RocketFontModifier{size}.font();
+    return RocketFontModifier{size * m_scale}.font();
 }
 
 void TabButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
@@ -34,7 +34,7 @@ void TabButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguratio
 
 void LogoButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     prepare(painter, configuration);
-    m_image.image().tinted(EditorAssets::tabSelected).draw(painter, configuration.frame);
+    drawScaled(painter, m_image.image().tinted(EditorAssets::tabSelected), configuration.frame, m_scale);
 }
 
 } // namespace chorale

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Chorale/ViewScale.h"
 #include "Platform/Controls/ButtonStyle.h"
 #include "Platform/Graphics/AssetResource.h"
 
@@ -17,6 +18,7 @@ public:
     void paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const override;
 
 private:
+    const qreal m_scale = ViewScale::current();
     const bool& m_isSelected; // the button's
 };
 
@@ -27,11 +29,12 @@ public:
 
     QFont font() const override { return {}; }
 
-    QSizeF size(QSizeF) const override { return m_image.image().size(); }
+    QSizeF size(QSizeF) const override { return m_image.image().size() * m_scale; }
 
     void paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const override;
 
 private:
+    const qreal m_scale = ViewScale::current();
     platform::ImageResource m_image;
 };
 

@@ -7,9 +7,10 @@
 #include "Chorale/RocketFontModifier.h"
 #include "Chorale/TabButton.h"
 #include "Chorale/UpdateButtonStyle.h"
+#include "Chorale/ViewScale.h"
 #include "Platform/AudioUnits/DisplayPump.h"
+#include "Platform/Windows/Browser.h"
 
-#include <QDesktopServices>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLocale>
@@ -28,10 +29,14 @@ constexpr int tabSpacing = 24;
 constexpr int trailingSpacing = 12;
 constexpr qreal versionSize = 13;
 
+int scaled(int points) {
+    return qRound(points * ViewScale::current());
+}
+
 QHBoxLayout* makeRow(QWidget& row, int spacing) {
     auto* const layout = new QHBoxLayout(&row);
     layout->setContentsMargins({});
-    layout->setSpacing(spacing);
+    layout->setSpacing(scaled(spacing));
     return layout;
 }
 
@@ -42,23 +47,37 @@ PluginHeaderView::PluginHeaderView(QUrl appUpdateURL, const QString& pluginVersi
                                    const std::optional<UpdateAvailableDetails>& updateDetails,
                                    const std::function<QWidget*()>& menu, QWidget* parent)
     : QWidget(parent), m_appUpdateURL(std::move(appUpdateURL)), m_tabParameter(std::move(tabParameter)) {
-    setFixedHeight(barHeight);
+    setFixedHeight(scaled(barHeight));
     new platform::ParameterVisibility(*this);
     // The three rows lie over each other, so that the tabs stay in the middle of the bar.
     auto* const layers = new QGridLayout(this);
-    layers->setContentsMargins(leadingPadding, 0, trailingPadding, 0);
+    layers->setContentsMargins(scaled(leadingPadding), 0, scaled(trailingPadding), 0);
     layers->addWidget(makeLogoRow(), 0, 0, Qt::AlignLeading | Qt::AlignVCenter);
     if (m_tabParameter->valueStrings())
         layers->addWidget(makeTabRow(), 0, 0, Qt::AlignCenter);
-    layers->addWidget(makeTrailingRow(pluginVersion, updateDetails, menu), 0, 0,
-                      Qt::AlignTrailing | Qt::AlignVCenter);
+    layers->addWidget(makeTrailingRow(pluginVersion, menu), 0, 0, Qt::AlignTrailing | Qt::AlignVCenter);
+    setUpdateDetails(updateDetails);
+}
+
+void PluginHeaderView::setUpdateDetails(const std::optional<UpdateAvailableDetails>& details) {
+    delete std::exchange(m_update, nullptr);
+    if (!details)
+        return;
+    const ViewScale scale(m_scale);
+    const QString title = (details->newVersion + QStringLiteral(" Available")).toUpper();
+    auto* const button = new platform::Button(title, std::make_unique<UpdateButtonStyle>());
+    connect(button, &QAbstractButton::clicked, this,
+            [this] { platform::openInBrowser(m_appUpdateURL, this); });
+    m_update = button;
+    m_trailing->insertWidget(0, button);
 }
 
 QWidget* PluginHeaderView::makeLogoRow() {
     auto* const logo =
         new platform::Button({}, std::make_unique<LogoButtonStyle>(EditorAssets::quillfenLogo));
     logo->setAccessibleName(tr("Website of the maker"));
-    connect(logo, &QAbstractButton::clicked, this, [] { QDesktopServices::openUrl(MakerLinks::website()); });
+    connect(logo, &QAbstractButton::clicked, this,
+            [this] { platform::openInBrowser(MakerLinks::website(), this); });
     return logo;
 }
 
@@ -67,6 +86,7 @@ QWidget* PluginHeaderView::makeTabRow() {
     QHBoxLayout* const layout = makeRow(*row, tabSpacing);
     for (const QString& name : *m_tabParameter->valueStrings()) {
         auto* const tab = new TabButton(QLocale().toUpper(name));
+        tab->setAccessibleName(tr("%1 tab").arg(name));
         const auto index = static_cast<float>(m_tabs.size());
         connect(tab, &QAbstractButton::clicked, this, [this, index] {
             m_tabParameter->setValue(index, ParameterEditor::ui, ParameterEditorState::change);
@@ -79,21 +99,13 @@ QWidget* PluginHeaderView::makeTabRow() {
     return row;
 }
 
-QWidget* PluginHeaderView::makeTrailingRow(const QString& version,
-                                           const std::optional<UpdateAvailableDetails>& update,
-                                           const std::function<QWidget*()>& menu) {
+QWidget* PluginHeaderView::makeTrailingRow(const QString& version, const std::function<QWidget*()>& menu) {
     auto* const row = new QWidget;
     QHBoxLayout* const layout = makeRow(*row, trailingSpacing);
-    if (update) {
-        const QString title = (update->newVersion + QStringLiteral(" Available")).toUpper();
-        auto* const button = new platform::Button(title, std::make_unique<UpdateButtonStyle>());
-        connect(button, &QAbstractButton::clicked, this,
-                [this] { QDesktopServices::openUrl(m_appUpdateURL); });
-        layout->addWidget(button);
-    }
+    m_trailing = layout;
     auto* const label = new QLabel(version);
     label->setTextFormat(Qt::PlainText);
-    rocketFont(*label, versionSize);
+    rocketFont(*label, versionSize * ViewScale::current());
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, EditorAssets::versionInfo.color());
     label->setPalette(palette);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chorale/UpdateAvailableDetails.h"
+#include "Chorale/ViewScale.h"
 
 #include <QUrl>
 #include <QWidget>
@@ -9,6 +10,8 @@
 #include <memory>
 #include <optional>
 #include <vector>
+
+class QHBoxLayout;
 
 namespace chorale {
 
@@ -29,19 +32,24 @@ public:
                      const std::optional<UpdateAvailableDetails>& updateDetails,
                      const std::function<QWidget*()>& menu = {}, QWidget* parent = nullptr);
 
+    /// Shows the link to a version that is found later, or none.
+    void setUpdateDetails(const std::optional<UpdateAvailableDetails>& details);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QWidget* makeLogoRow();
     QWidget* makeTabRow();
-    QWidget* makeTrailingRow(const QString& version, const std::optional<UpdateAvailableDetails>& update,
-                             const std::function<QWidget*()>& menu);
+    QWidget* makeTrailingRow(const QString& version, const std::function<QWidget*()>& menu);
     void showTab();
 
     const QUrl m_appUpdateURL;
     const std::shared_ptr<AudioParameter> m_tabParameter;
     std::vector<TabButton*> m_tabs; // children, by their index
+    QHBoxLayout* m_trailing = nullptr;
+    QWidget* m_update = nullptr; // the first in it, while there is one
+    const qreal m_scale = ViewScale::current();
 };
 
 } // namespace chorale

@@ -18,11 +18,11 @@ constexpr qreal pressedOpacity = 0.8;
 
 QFont UpdateButtonStyle::font() const {
     constexpr qreal size = 13;
-    return RocketFontModifier{size}.font();
+    return RocketFontModifier{size * m_scale}.font();
 }
 
 QSizeF UpdateButtonStyle::size(QSizeF label) const {
-    return {label.width() + 2 * sidePadding, label.height() + topPadding};
+    return {label.width() + 2 * sidePadding * m_scale, label.height() + topPadding * m_scale};
 }
 
 void UpdateButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
@@ -30,10 +30,11 @@ void UpdateButtonStyle::paint(QPainter& painter, const platform::ButtonConfigura
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(EditorAssets::updateBackground.color());
-    painter.drawRoundedRect(configuration.frame, radius, radius);
+    painter.drawRoundedRect(configuration.frame, radius * m_scale, radius * m_scale);
     painter.setPen(EditorAssets::background.color());
-    painter.drawText(configuration.frame.adjusted(sidePadding, topPadding, -sidePadding, 0), Qt::AlignCenter,
-                     configuration.label);
+    painter.drawText(
+        configuration.frame.adjusted(sidePadding * m_scale, topPadding * m_scale, -sidePadding * m_scale, 0),
+        Qt::AlignCenter, configuration.label);
     if (configuration.isFocused)
         platform::paintFocusRing(painter, configuration.frame, radius);
 }

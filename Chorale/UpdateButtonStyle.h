@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Chorale/ViewScale.h"
 #include "Platform/Controls/ButtonStyle.h"
 
 namespace chorale {
@@ -10,6 +11,9 @@ public:
     QFont font() const override;
     QSizeF size(QSizeF label) const override;
     void paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const override;
+
+private:
+    const qreal m_scale = ViewScale::current();
 };
 
 } // namespace chorale

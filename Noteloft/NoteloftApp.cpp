@@ -6,6 +6,7 @@
 #include "Platform/Controls/Menu.h"
 #include "Platform/Core/SingleInstance.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
+#include "Platform/Windows/WindowAccessibility.h"
 #include "Platform/Windows/WindowActions.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@ using platform::HiddenTitleBarWindow;
 using platform::Selector;
 
 NoteloftApp::NoteloftApp(const LaunchOptions& options) {
+    platform::installWindowAccessibility();
     platform::setApplicationDelegate(&m_appDelegate);
     m_sparkleHelper.updaterController =
         std::make_unique<platform::SPUStandardUpdaterController>(false, &m_sparkleHelper, nullptr);

@@ -28,8 +28,10 @@ class ChordPitches {
 public:
     static constexpr int longest = 4;
 
-    /// The chord on `key`, 0 to 127: the key is transposed and brought into the scale, then each note of the
-    /// chord above it. So a major chord on the second note of a major scale is a minor one.
+    /// The chord on `key`, 0 to 127: the key is transposed and brought into the scale, and the others are the
+    /// scale's own notes above it. A scale of seven notes has one third, one fifth and one seventh on each of
+    /// them, so a major and a minor chord are both the scale's own triad; in other scales the chord is as its
+    /// name says where their notes allow it.
     ChordPitches(int key, const Harmony& harmony);
 
     std::span<const std::uint8_t> pitches() const { return {m_pitches.data(), m_count}; }

@@ -18,4 +18,18 @@ inline constexpr std::uint8_t allNotesOff = 123; ///< All from this one on end t
 
 inline constexpr std::uint8_t defaultReleaseVelocity = 64;
 
+/// Whether a message begins a note. A note-on without velocity ends one.
+constexpr bool isNoteOn(const std::uint8_t* bytes, std::uint32_t size) {
+    return size == 3 && (bytes[0] & 0xF0) == noteOn && bytes[2] > 0;
+}
+
+constexpr bool isNoteOff(const std::uint8_t* bytes, std::uint32_t size) {
+    return size == 3 && ((bytes[0] & 0xF0) == noteOff || ((bytes[0] & 0xF0) == noteOn && bytes[2] == 0));
+}
+
+/// Whether it ends all notes of its channel.
+constexpr bool isChannelEnd(const std::uint8_t* bytes, std::uint32_t size) {
+    return size == 3 && (bytes[0] & 0xF0) == control && (bytes[1] == allSoundOff || bytes[1] >= allNotesOff);
+}
+
 } // namespace noteloft::plugin::midi

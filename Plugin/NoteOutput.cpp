@@ -61,6 +61,19 @@ void NoteOutput::begin(std::uint32_t frame, const Note& note, MidiSink& sink) {
     m_down[m_downCount++] = note;
 }
 
+void NoteOutput::noteBegan(const Note& note) {
+    noteEnded(note.channel, note.pitch);
+    if (m_downCount == capacity)
+        return;
+    setState(note.channel, note.pitch, State::sounding);
+    m_down[m_downCount++] = note;
+}
+
+void NoteOutput::noteEnded(std::uint8_t channel, std::uint8_t pitch) {
+    forgetIf([=](const Note& down) { return down.channel == channel && down.pitch == pitch; });
+    setState(channel, pitch, State::silent);
+}
+
 bool NoteOutput::isSounding(const Note& note) const {
     return state(note) == State::sounding &&
            std::any_of(m_down.begin(), m_down.begin() + m_downCount,

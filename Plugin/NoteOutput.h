@@ -23,6 +23,15 @@ public:
 
     bool isSounding(const Note& note) const;
 
+    /// Whether no note of this pitch is on its way or sounds.
+    bool isSilent(std::uint8_t channel, std::uint8_t pitch) const {
+        return m_states[channel][pitch] == State::silent;
+    }
+
+    /// Somebody else has sent the beginning of a note, or its end.
+    void noteBegan(const Note& note);
+    void noteEnded(std::uint8_t channel, std::uint8_t pitch);
+
     void endHeld(std::uint32_t frame, MidiSink& sink);
     void endChannel(std::uint32_t frame, std::uint8_t channel, MidiSink& sink);
     void endAll(std::uint32_t frame, MidiSink& sink);

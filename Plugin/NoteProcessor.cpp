@@ -25,62 +25,99 @@ bool isWellFormed(const std::uint8_t* bytes, std::uint32_t size) {
 
 void NoteProcessor::restart() {
     m_restarts = true;
-    m_random = {};
+    m_random = Random(m_seed);
     m_lastWentDown = true;
 }
 
-void NoteProcessor::beginBlock(const NoteSettings& settings, MidiSink& sink) {
+void NoteProcessor::beginBlock(const NoteSettings& settings, MidiSink& blockSink) {
     const bool nowBypassed = m_settings.enabled && !settings.enabled;
     m_settings = settings;
     if (!settings.enabled) {
         m_settings = {};
         m_settings.enabled = false;
     }
+    m_backlog.send(blockSink);
+    OrderedSink sink(m_backlog, blockSink);
     m_output.sendDue(0, sink);
     if (nowBypassed || m_restarts) {
         m_schedule.clear();
         m_output.endAll(0, sink);
+        for (auto& channel : m_strikes)
+            channel.fill({});
     } else if (!m_settings.hold) {
         m_output.endHeld(0, sink);
     }
     m_restarts = false;
 }
 
-void NoteProcessor::endBlock(std::uint32_t frameCount, MidiSink& sink) {
+void NoteProcessor::endBlock(std::uint32_t frameCount, MidiSink& blockSink) {
+    OrderedSink sink(m_backlog, blockSink);
     playUntil(m_blockStart + frameCount - 1, sink);
     m_blockStart += frameCount;
 }
 
 void NoteProcessor::process(std::uint32_t frame, const std::uint8_t* bytes, std::uint32_t size,
-                            MidiSink& sink) {
+                            MidiSink& blockSink) {
+    OrderedSink sink(m_backlog, blockSink);
+    if (size > 0 && !m_settings.enabled)
+        return pass(frame, bytes, size, sink);
     if (!isWellFormed(bytes, size))
         return;
     playUntil(m_blockStart + frame, sink);
-    const std::uint8_t channel = bytes[0] & 0x0F;
-    switch (bytes[0] & 0xF0) {
-    case midi::noteOn:
-        if (bytes[2] == 0)
-            return release(frame, channel, bytes[1], midi::defaultReleaseVelocity, sink);
-        return press(frame, bytes, sink);
-    case midi::noteOff:
-        return release(frame, channel, bytes[1], bytes[2], sink);
-    case midi::keyPressure:
-        return keyPressure(frame, bytes, sink);
-    case midi::control:
-        if (bytes[1] == midi::allSoundOff || bytes[1] >= midi::allNotesOff) {
-            m_schedule.dropChannel(channel);
-            m_output.endChannel(frame, channel, sink);
-        }
-        break;
-    default:
-        break;
+    if (handleNote(frame, bytes, sink))
+        return;
+    if (midi::isChannelEnd(bytes, size)) {
+        const std::uint8_t channel = bytes[0] & 0x0F;
+        m_schedule.dropChannel(channel);
+        m_output.endChannel(frame, channel, sink);
     }
     sink.write(frame, bytes, size);
+}
+
+void NoteProcessor::pass(std::uint32_t frame, const std::uint8_t* bytes, std::uint32_t size, MidiSink& sink) {
+    const bool isSent = sink.write(frame, bytes, size);
+    if (!isSent || !isWellFormed(bytes, size))
+        return;
+    // What is down when the processing goes on has an end then.
+    const std::uint8_t channel = bytes[0] & 0x0F;
+    if (midi::isNoteOn(bytes, size)) {
+        m_strikes[channel][bytes[1]] = {true, ++m_lastStrike, 1, {{{bytes[1], 0}}}};
+        m_output.noteBegan({m_lastStrike, channel, bytes[1], bytes[2]});
+    } else if (midi::isNoteOff(bytes, size)) {
+        m_strikes[channel][bytes[1]] = {};
+        m_output.noteEnded(channel, bytes[1]);
+    } else if (midi::isChannelEnd(bytes, size)) {
+        for (std::uint8_t pitch = 0; pitch < pitchCount; ++pitch)
+            m_output.noteEnded(channel, pitch);
+    }
+}
+
+bool NoteProcessor::handleNote(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {
+    const int status = bytes[0] & 0xF0;
+    const std::uint8_t channel = bytes[0] & 0x0F;
+    if (status != midi::noteOn && status != midi::noteOff && status != midi::keyPressure)
+        return false;
+    const std::uint8_t key = bytes[1];
+    const bool isKnown = m_strikes[channel][key].isDown;
+    if (status == midi::keyPressure) {
+        if (isKnown)
+            keyPressure(frame, bytes, sink);
+        return isKnown;
+    }
+    if (status == midi::noteOn && bytes[2] > 0) {
+        press(frame, bytes, sink);
+        return true;
+    }
+    if (isKnown)
+        release(frame, channel, key, status == midi::noteOn ? midi::defaultReleaseVelocity : bytes[2], sink);
+    // A note that another key has made is not ended by this one.
+    return isKnown || !m_output.isSilent(channel, key);
 }
 
 void NoteProcessor::press(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {
     const std::uint8_t channel = bytes[0] & 0x0F;
     const std::uint8_t key = bytes[1];
+    m_strikes[channel][key].isDown = true;
     if (m_random.next() >= m_settings.chance)
         return;
     // A key may be struck again without a note-off.
@@ -89,6 +126,7 @@ void NoteProcessor::press(std::uint32_t frame, const std::uint8_t* bytes, MidiSi
     const auto pitches = chord.pitches();
     const bool goesDown = pitches.size() > 1 && strumsDown();
     Strike& strike = m_strikes[channel][key];
+    strike.isDown = true;
     strike.number = ++m_lastStrike;
     strike.count = pitches.size();
     for (std::size_t turn = 0; turn < pitches.size(); ++turn) {
@@ -108,6 +146,7 @@ void NoteProcessor::release(std::uint32_t frame, std::uint8_t channel, std::uint
         schedule(frame, part.delay, Kind::end, {strike.number, channel, part.pitch, velocity}, sink);
     }
     strike.count = 0;
+    strike.isDown = false;
 }
 
 void NoteProcessor::keyPressure(std::uint32_t frame, const std::uint8_t* bytes, MidiSink& sink) {

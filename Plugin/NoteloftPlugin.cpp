@@ -6,13 +6,43 @@
 #include <lv2/midi/midi.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace noteloft::plugin {
 
-NoteloftPlugin::NoteloftPlugin(double sampleRate, const LV2_URID_Map& map)
+NoteloftPlugin::NoteloftPlugin(double sampleRate, const LV2_URID_Map& map, std::uint32_t seed)
     : m_processor(sampleRate),
       m_sequenceType(map.map(map.handle, LV2_ATOM__Sequence)),
-      m_midiType(map.map(map.handle, LV2_MIDI__MidiEvent)) {}
+      m_midiType(map.map(map.handle, LV2_MIDI__MidiEvent)),
+      m_intType(map.map(map.handle, LV2_ATOM__Int)),
+      m_seedKey(map.map(map.handle, "http://quillfen.example/plugins/noteloft#seed")) {
+    setSeed(seed);
+}
+
+void NoteloftPlugin::setSeed(std::uint32_t seed) {
+    m_seed = seed;
+    m_processor.setSeed(seed);
+}
+
+LV2_State_Status NoteloftPlugin::save(LV2_State_Store_Function store, LV2_State_Handle state) const {
+    return store(state, m_seedKey, &m_seed, sizeof m_seed, m_intType,
+                 LV2_STATE_IS_POD | LV2_STATE_IS_PORTABLE);
+}
+
+LV2_State_Status NoteloftPlugin::restore(LV2_State_Retrieve_Function retrieve, LV2_State_Handle state) {
+    std::size_t size = 0;
+    std::uint32_t type = 0;
+    std::uint32_t flags = 0;
+    const void* const value = retrieve(state, m_seedKey, &size, &type, &flags);
+    if (value == nullptr)
+        return LV2_STATE_SUCCESS; // a preset, or an older session
+    if (type != m_intType || size != sizeof m_seed)
+        return LV2_STATE_ERR_BAD_TYPE;
+    std::uint32_t seed = 0;
+    std::memcpy(&seed, value, sizeof seed);
+    setSeed(seed);
+    return LV2_STATE_SUCCESS;
+}
 
 void NoteloftPlugin::connect(std::uint32_t port, void* data) {
     if (port < m_ports.size())

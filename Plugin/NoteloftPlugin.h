@@ -5,6 +5,7 @@
 
 #include <lv2/atom/atom.h>
 #include <lv2/core/lv2.h>
+#include <lv2/state/state.h>
 #include <lv2/urid/urid.h>
 
 #include <array>
@@ -16,8 +17,12 @@ class NoteloftPlugin {
 public:
     static constexpr const char* uri = "http://quillfen.example/plugins/noteloft";
 
-    /// `sampleRate` is in frames a second.
-    NoteloftPlugin(double sampleRate, const LV2_URID_Map& map);
+    /// `sampleRate` is in frames a second. `seed` tells the hands apart that humanise the notes.
+    NoteloftPlugin(double sampleRate, const LV2_URID_Map& map, std::uint32_t seed);
+
+    /// Beside the controls, which hosts keep, a session holds the seed. Not while `run` is running.
+    LV2_State_Status save(LV2_State_Store_Function store, LV2_State_Handle state) const;
+    LV2_State_Status restore(LV2_State_Retrieve_Function retrieve, LV2_State_Handle state);
 
     /// All ports are connected before the first `run`.
     void connect(std::uint32_t port, void* data);
@@ -30,10 +35,15 @@ private:
     float control(Ports::Index port) const;
     NoteSettings settings() const;
 
+    void setSeed(std::uint32_t seed);
+
     NoteProcessor m_processor;
+    std::uint32_t m_seed = 0;
     std::array<void*, Ports::count> m_ports{};
     LV2_URID m_sequenceType;
     LV2_URID m_midiType;
+    LV2_URID m_intType;
+    LV2_URID m_seedKey;
 };
 
 } // namespace noteloft::plugin

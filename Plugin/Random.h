@@ -4,10 +4,18 @@
 
 namespace noteloft::plugin {
 
-/// Evenly spread numbers (Marsaglia's xorshift with 32 bits). Each starts with the same, so that a rendering
-/// can be repeated.
+/// Evenly spread numbers (Marsaglia's xorshift with 32 bits). They are the same for the same seed, so that a
+/// rendering can be repeated.
 class Random {
 public:
+    static constexpr std::uint32_t defaultSeed = 0x9E3779B9;
+
+    explicit Random(std::uint32_t seed = defaultSeed) : m_state(seed == 0 ? defaultSeed : seed) {
+        // Seeds that lie close together begin alike.
+        for (int i = 0; i < 8; ++i)
+            next();
+    }
+
     /// In [0, 1).
     float next() {
         m_state ^= m_state << 13;
@@ -18,7 +26,7 @@ public:
     }
 
 private:
-    std::uint32_t m_state = 0x9E3779B9;
+    std::uint32_t m_state;
 };
 
 } // namespace noteloft::plugin

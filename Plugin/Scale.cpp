@@ -1,5 +1,6 @@
 #include "Plugin/Scale.h"
 
+#include <bit>
 #include <cstdint>
 #include <initializer_list>
 #include <iterator>
@@ -49,6 +50,18 @@ int nearestPitch(Scale scale, int root, int pitch) {
         if (contains(scale, root, pitch + distance))
             return pitch + distance;
     }
+}
+
+int noteCount(Scale scale) {
+    return std::popcount(scales[static_cast<int>(scale)]);
+}
+
+int pitchAbove(Scale scale, int root, int pitch, int steps) {
+    for (; steps > 0; --steps)
+        do
+            ++pitch;
+        while (!contains(scale, root, pitch));
+    return pitch;
 }
 
 int withinMidi(int pitch) {

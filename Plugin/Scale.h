@@ -30,6 +30,12 @@ bool contains(Scale scale, int root, int pitch);
 /// The nearest pitch of the scale; of two equally near the lower.
 int nearestPitch(Scale scale, int root, int pitch);
 
+/// How many notes an octave of it has.
+int noteCount(Scale scale);
+
+/// The pitch of the scale that is so many of its steps above `pitch`, which is in it.
+int pitchAbove(Scale scale, int root, int pitch, int steps);
+
 /// Brings a pitch into the range of MIDI, 0 to 127, by whole octaves.
 int withinMidi(int pitch);
 

@@ -5,6 +5,8 @@
 #include "Gallery/Window/PagePreview.h"
 #include "Gallery/Window/SettingsBar.h"
 
+#include "Platform/Windows/WindowAccessibility.h"
+
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
@@ -31,6 +33,7 @@ GalleryWindow::GalleryWindow(const std::vector<GalleryPage>& pages)
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->setSpacing(0);
+    platform::installWindowAccessibility();
     row->addWidget(m_list);
     row->addLayout(side, 1);
     addShortcuts();

@@ -3,6 +3,7 @@
 #include "Platform/Core/Bundle.h"
 #include "Platform/Core/MainThread.h"
 #include "Platform/Updates/FeedLoader.h"
+#include "Platform/Updates/KnownUpdate.h"
 #include "Platform/Updates/SPUStandardUserDriver.h"
 #include "Platform/Updates/SPUUpdaterDelegate.h"
 
@@ -41,6 +42,7 @@ void SPUUpdater::show(const QByteArray& data, const std::optional<UpdateError>& 
              QStringLiteral("Please try again later, or get the latest version from the website.")});
     const auto* update =
         appcast.newestAbove(Bundle::main().information(QStringLiteral("build")), QSysInfo::kernelVersion());
+    KnownUpdate::store(update != nullptr ? update->displayVersion : QString());
     if (update != nullptr)
         m_userDriver.showUpdateFound(*update);
     else

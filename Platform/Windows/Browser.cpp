@@ -16,7 +16,7 @@ namespace {
 
 void showAddress(const QUrl& url, QWidget* view) {
     const QString address = url.toString();
-    QMessageBox& alert = *makeAlert(QMessageBox::tr("There is no program to open this page."), address,
+    QMessageBox& alert = *makeAlert(QMessageBox::tr("There is no program to open this address."), address,
                                     view != nullptr ? view->window() : nullptr);
     const auto* const copy = alert.addButton(QMessageBox::tr("Copy Address"), QMessageBox::AcceptRole);
     QObject::connect(copy, &QPushButton::clicked, &alert,
@@ -30,7 +30,8 @@ void showAddress(const QUrl& url, QWidget* view) {
 void openInBrowser(const QUrl& url, QWidget* view) {
     requireMainThread();
     // A desktop's opener says that it was started, not whether it found a browser.
-    if (!hasBrowser() || !QDesktopServices::openUrl(url))
+    const bool isPage = url.scheme().startsWith(QStringLiteral("http"));
+    if ((isPage && !hasBrowser()) || !QDesktopServices::openUrl(url))
         showAddress(url, view);
 }
 

@@ -3,6 +3,11 @@
 #include "Platform/Core/MainThreadShared.h"
 #include "Plugin/ControlPorts.h"
 
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
+
 namespace noteloft::plugin {
 
 namespace {
@@ -20,6 +25,7 @@ public:
 AudioUnitParameterUnit unit(ControlUnit unit) {
     switch (unit) {
     case ControlUnit::index:
+    case ControlUnit::count:
         return AudioUnitParameterUnit::indexed;
     case ControlUnit::onOff:
         return AudioUnitParameterUnit::boolean;
@@ -29,8 +35,6 @@ AudioUnitParameterUnit unit(ControlUnit unit) {
         return AudioUnitParameterUnit::percent;
     case ControlUnit::milliseconds:
         return AudioUnitParameterUnit::milliseconds;
-    case ControlUnit::count:
-        break;
     }
     return AudioUnitParameterUnit::generic;
 }
@@ -54,6 +58,9 @@ std::map<std::uint32_t, std::shared_ptr<AudioParameter>> makeAll() {
             all.emplace(port.index, make(port));
     return all;
 }
+
+/// How late a host may send back what it was told.
+constexpr std::chrono::milliseconds echoTime(500);
 
 float nearest(std::uint32_t port, float value) {
     return controlPort(static_cast<Ports::Index>(port)).nearest(value);
@@ -82,34 +89,49 @@ EditorParameters::~EditorParameters() {
 
 void EditorParameters::send(const platform::AUParameterAutomationEvent& event) {
     const auto port = static_cast<std::uint32_t>(event.address);
-    // A dial turns without steps, whatever its port takes.
+    // Models turn without steps, whatever their ports take.
     const float value = nearest(port, event.value);
-    switch (event.eventType) {
-    case AUParameterAutomationEventType::touch:
-        m_host.touch(port, value);
-        break;
-    case AUParameterAutomationEventType::value:
-        m_host.write(port, value);
-        break;
-    case AUParameterAutomationEventType::release:
-        m_host.release(port, value);
-        // After the change that tells of the release, which is still on its way to the screen.
-        if (const auto waiting = m_waiting.extract(port))
-            QMetaObject::invokeMethod(
-                &m_later, [this, port, shown = waiting.mapped()] { show(port, shown); },
-                Qt::QueuedConnection);
-        break;
+    const bool isChange = event.eventType == AUParameterAutomationEventType::value;
+    const bool isSwitch = controlPort(static_cast<Ports::Index>(port)).unit == ControlUnit::onOff;
+    if (!m_host.isTouched(port)) {
+        m_host.touch(port);
+        m_answers[port].waiting.reset(); // outdated by what the user does now
+        // A switch is held down until it is off again, any other change ends with itself.
+        m_answers[port].isOwnTouch = isChange;
     }
+    m_host.write(port, value);
+    const bool isEnd = isChange ? m_answers[port].isOwnTouch && !(isSwitch && value > 0)
+                                : event.eventType == AUParameterAutomationEventType::release;
+    if (isEnd)
+        release(port);
+    if (isEnd && value != event.value) // after the change itself, which is still on its way to the screen
+        QMetaObject::invokeMethod(
+            &m_later, [this, port, value] { show(port, value); }, Qt::QueuedConnection);
+}
+
+void EditorParameters::release(std::uint32_t port) {
+    m_host.release(port);
+    m_answers[port].untilEcho.setRemainingTime(echoTime, Qt::PreciseTimer);
+    QTimer::singleShot(echoTime, Qt::PreciseTimer, &m_later, [this, port] { showAnswer(port); });
 }
 
 void EditorParameters::receive(std::uint32_t port, float value) {
-    if (m_host.isTouched(port))
-        m_waiting.insert_or_assign(port, value);
+    if (m_host.isTouched(port) || !m_answers[port].untilEcho.hasExpired())
+        m_answers[port].waiting = value;
     else
         show(port, value);
 }
 
+void EditorParameters::showAnswer(std::uint32_t port) {
+    Answer& answer = m_answers[port];
+    if (m_host.isTouched(port) || !answer.untilEcho.hasExpired())
+        return;
+    if (const auto waiting = std::exchange(answer.waiting, std::nullopt))
+        show(port, *waiting);
+}
+
 void EditorParameters::show(std::uint32_t port, float value) {
+    m_answers[port].waiting.reset();
     if (const auto parameter = m_audioUnit->parameterTree()->parameterWithAddress(port))
         parameter->setValue(nearest(port, value), m_token); // a curve of the host's has no steps either
 }

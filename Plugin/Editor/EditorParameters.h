@@ -4,10 +4,12 @@
 #include "Plugin/ControlPorts.h"
 #include "Plugin/Editor/HostConnection.h"
 
+#include <QDeadlineTimer>
 #include <QObject>
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace noteloft::plugin {
 
@@ -26,11 +28,22 @@ public:
     }
 
     /// The host's value of a port; ports that the editor does not show are ignored. While the user holds the
-    /// port it waits until the hand has gone.
+    /// port, and for half a second after, it may be an echo of what the user did before: the last one waits.
     void receive(std::uint32_t port, float value);
 
 private:
+    /// What a host answers to the user's changes of a port.
+    struct Answer {
+        bool isOwnTouch = false;      // the touch is no gesture's
+        QDeadlineTimer untilEcho;     // what comes before may be an echo
+        std::optional<float> waiting; // the last value that came meanwhile
+    };
+
+    /// Tells the host. A change without a gesture gets a touch and a release of its own, for hosts that
+    /// record what is touched.
     void send(const platform::AUParameterAutomationEvent& event);
+    void release(std::uint32_t port);
+    void showAnswer(std::uint32_t port);
     void show(std::uint32_t port, float value);
 
     HostConnection& m_host;
@@ -38,8 +51,8 @@ private:
     const std::shared_ptr<chorale::ChoraleAudioUnit> m_audioUnit;
     const std::shared_ptr<chorale::ParameterSettings> m_settings;
     platform::AUParameterObserverToken m_token{};
-    QObject m_later;                          // what is called later is dropped with it
-    std::map<std::uint32_t, float> m_waiting; // the host's last values of the ports that the user holds
+    QObject m_later; // what is called later is dropped with it
+    std::map<std::uint32_t, Answer> m_answers;
 };
 
 } // namespace noteloft::plugin

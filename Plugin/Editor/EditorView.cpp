@@ -8,8 +8,11 @@
 #include "Chorale/ParameterHoldButton.h"
 #include "Chorale/PluginHeaderView.h"
 #include "Chorale/RocketFontModifier.h"
+#include "Chorale/ViewScale.h"
+#include "Platform/Windows/WindowAccessibility.h"
 #include "Plugin/Editor/EditorParameters.h"
 #include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Editor/MenuButton.h"
 #include "Plugin/Editor/ScaleView.h"
 
 #include <QEvent>
@@ -31,15 +34,19 @@ constexpr float nameSize = 13;
 constexpr float valueSize = 18;
 constexpr float fieldWidth = 76;
 
+int scaled(qreal points) {
+    return qRound(points * chorale::ViewScale::current());
+}
+
 /// A control over its name, the controls of a row all of one height.
 QVBoxLayout* makeColumn(QWidget* control, QWidget* label) {
     auto* const place = new QWidget;
-    place->setFixedHeight(static_cast<int>(dialDiameter));
+    place->setFixedHeight(scaled(dialDiameter));
     auto* const middle = new QHBoxLayout(place);
     middle->setContentsMargins({});
     middle->addWidget(control);
     auto* const column = new QVBoxLayout;
-    column->setSpacing(8);
+    column->setSpacing(scaled(8));
     column->addWidget(place, 0, Qt::AlignHCenter);
     column->addWidget(label, 0, Qt::AlignHCenter | Qt::AlignTop);
     return column;
@@ -47,7 +54,7 @@ QVBoxLayout* makeColumn(QWidget* control, QWidget* label) {
 
 QLabel* makeName(const QString& text) {
     auto* const name = new QLabel(text.toUpper());
-    chorale::rocketFont(*name, nameSize);
+    chorale::rocketFont(*name, nameSize * chorale::ViewScale::current());
     QPalette palette = name->palette();
     palette.setColor(QPalette::WindowText, EditorColors::label.color());
     name->setPalette(palette);
@@ -93,23 +100,48 @@ QWidget* makeScalePage(const EditorParameters& parameters) {
 
 } // namespace
 
-EditorView::EditorView(const EditorParameters& parameters)
-    : m_page(parameters.parameter(Ports::page)), m_pages(new QStackedWidget) {
+EditorView::EditorView(const EditorParameters& parameters, qreal scale)
+    : m_parameters(parameters), m_page(parameters.parameter(Ports::page)) {
+    platform::installWindowAccessibility();
+    setWindowTitle(QStringLiteral("Noteloft"));
+    auto* const place = new QVBoxLayout(this);
+    place->setContentsMargins({});
+    // So that no control shows a focus ring before the user asks for one.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
+    connect(m_page.get(), &AudioParameter::valueChanged, this, &EditorView::showPage);
+    connect(&m_update, &platform::KnownUpdate::changed, this, &EditorView::showUpdate);
+    setScale(scale);
+}
+
+void EditorView::setScale(qreal scale) {
     constexpr int width = 700;
-    constexpr QMargins bodyMargins(0, 28, 0, 20);
-    auto* const stack = new QVBoxLayout(this);
+    const chorale::ViewScale scope(scale);
+    delete m_content;
+    m_content = makeContent();
+    layout()->addWidget(m_content);
+    setFixedSize(scaled(width), m_content->sizeHint().height());
+    showPage();
+    showUpdate();
+}
+
+QWidget* EditorView::makeContent() {
+    auto* const content = new QWidget;
+    auto* const stack = new QVBoxLayout(content);
     stack->setContentsMargins({});
     stack->setSpacing(0);
-    stack->addWidget(new chorale::PluginHeaderView(chorale::MakerLinks::website(),
-                                                   QStringLiteral(NOTELOFT_VERSION), m_page, std::nullopt));
-    m_pages->addWidget(makeScalePage(parameters));
+    m_header = new chorale::PluginHeaderView(chorale::MakerLinks::website(), QStringLiteral(NOTELOFT_VERSION),
+                                             m_page, std::nullopt, [] { return new MenuButton; });
+    stack->addWidget(m_header);
+    m_pages = new QStackedWidget;
+    m_pages->addWidget(makeScalePage(m_parameters));
     m_pages->addWidget(
-        makePage(makeDials(parameters, {Ports::chord, Ports::inversion, Ports::strum, Ports::direction})));
+        makePage(makeDials(m_parameters, {Ports::chord, Ports::inversion, Ports::strum, Ports::direction})));
     m_pages->addWidget(
-        makePage(makeDials(parameters, {Ports::velocity, Ports::dynamics, Ports::timing, Ports::chance})));
-    const Parameter& hold = parameters.parameter(Ports::hold);
+        makePage(makeDials(m_parameters, {Ports::velocity, Ports::dynamics, Ports::timing, Ports::chance})));
+    const Parameter& hold = m_parameters.parameter(Ports::hold);
     auto* const body = new QHBoxLayout;
-    body->setContentsMargins(bodyMargins);
+    body->setContentsMargins(0, scaled(28), 0, scaled(20));
     body->setSpacing(0);
     body->addWidget(m_pages, 4);
     body->addLayout(
@@ -117,12 +149,15 @@ EditorView::EditorView(const EditorParameters& parameters)
                    makeName(hold->name())),
         1);
     stack->addLayout(body);
-    setFixedSize(width, sizeHint().height());
-    // So that no control shows a focus ring before the user asks for one.
-    setFocusPolicy(Qt::ClickFocus);
-    setFocus();
-    connect(m_page.get(), &AudioParameter::valueChanged, this, &EditorView::showPage);
-    showPage();
+    return content;
+}
+
+void EditorView::showUpdate() {
+    const QString newer = platform::KnownUpdate::versionAbove(QStringLiteral(NOTELOFT_VERSION));
+    std::optional<chorale::UpdateAvailableDetails> details;
+    if (!newer.isEmpty())
+        details = {newer};
+    m_header->setUpdateDetails(details);
 }
 
 void EditorView::showPage() {

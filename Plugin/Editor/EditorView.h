@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Updates/KnownUpdate.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -8,7 +10,8 @@ class QStackedWidget;
 
 namespace chorale {
 class AudioParameter;
-}
+class PluginHeaderView;
+} // namespace chorale
 
 namespace noteloft::plugin {
 
@@ -19,7 +22,11 @@ class EditorView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit EditorView(const EditorParameters& parameters);
+    /// `scale` is how many of the desktop's points a point of the view is; `parameters` outlive it.
+    explicit EditorView(const EditorParameters& parameters, qreal scale = 1);
+
+    /// Makes all controls anew; what was being typed or dragged ends.
+    void setScale(qreal scale);
 
 protected:
     /// Takes the focus that no control has, so that none shows its ring before the user goes to it.
@@ -27,10 +34,16 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QWidget* makeContent();
     void showPage();
+    void showUpdate();
 
+    const EditorParameters& m_parameters;
     const std::shared_ptr<chorale::AudioParameter> m_page;
-    QStackedWidget* const m_pages; // a child
+    QWidget* m_content = nullptr;                  // a child
+    chorale::PluginHeaderView* m_header = nullptr; // in it
+    QStackedWidget* m_pages = nullptr;             // likewise
+    platform::KnownUpdate m_update;
 };
 
 } // namespace noteloft::plugin

@@ -11,10 +11,9 @@ void HostConnection::tellTouch(std::uint32_t port, bool isTouched) const {
         m_touch->touch(m_touch->handle, port, isTouched);
 }
 
-void HostConnection::touch(std::uint32_t port, float value) {
+void HostConnection::touch(std::uint32_t port) {
     m_touched.insert(port);
     tellTouch(port, true);
-    write(port, value);
 }
 
 void HostConnection::write(std::uint32_t port, float value) {
@@ -22,8 +21,7 @@ void HostConnection::write(std::uint32_t port, float value) {
     m_write(m_controller, port, sizeof value, plainFloat, &value);
 }
 
-void HostConnection::release(std::uint32_t port, float value) {
-    write(port, value);
+void HostConnection::release(std::uint32_t port) {
     m_touched.erase(port);
     tellTouch(port, false);
 }

@@ -14,13 +14,12 @@ public:
     /// `hostTouch` may be null: a host that does not ask to be told of touches.
     HostConnection(LV2UI_Write_Function hostWrite, LV2UI_Controller controller, const LV2UI_Touch* hostTouch);
 
-    /// The user has put a hand on the port: tells so, then the value. Not nested.
-    void touch(std::uint32_t port, float value);
+    /// The user has put a hand on the port. Not nested.
+    void touch(std::uint32_t port);
 
     void write(std::uint32_t port, float value);
 
-    /// The value, then that the hand has gone.
-    void release(std::uint32_t port, float value);
+    void release(std::uint32_t port);
 
     /// Whether the hand is on the port; what the host sends meanwhile is its echo, or not wanted yet.
     bool isTouched(std::uint32_t port) const { return m_touched.contains(port); }

@@ -2,6 +2,7 @@
 
 #include "Platform/Core/MainThread.h"
 #include "Platform/Graphics/Appearance.h"
+#include "Plugin/Editor/EmbeddedAccessibility.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -53,6 +54,7 @@ bool QtSession::begin() {
     static char option[] = "-platform";
     static char platform[] = "xcb";
     static char* arguments[] = {name, option, platform, nullptr};
+    EmbeddedAccessibility::install();
     new QApplication(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     platform::setAppearance(platform::Appearance::dark); // for menus; a host's own application keeps its look

@@ -53,7 +53,7 @@ ScaleView::ScaleView(std::shared_ptr<chorale::AudioParameter> root,
 }
 
 QSize ScaleView::sizeHint() const {
-    return QSizeF(whiteCount * (whiteSize.width() + gap) - gap, whiteSize.height()).toSize();
+    return (QSizeF(whiteCount * (whiteSize.width() + gap) - gap, whiteSize.height()) * m_size).toSize();
 }
 
 bool ScaleView::isLit(int pitchClass) const {
@@ -73,6 +73,7 @@ void ScaleView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
+    painter.scale(m_size, m_size);
     for (const bool black : {false, true}) // the black keys lie over the white ones
         for (int pitch = 0; pitch < keyCount; ++pitch) {
             if (keys[pitch].isBlack != black)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Chorale/ViewScale.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -27,6 +29,7 @@ private:
     bool isLit(int pitchClass) const;
     void describe();
 
+    const qreal m_size = chorale::ViewScale::current();
     const std::shared_ptr<chorale::AudioParameter> m_root;
     const std::shared_ptr<chorale::AudioParameter> m_scale;
 };

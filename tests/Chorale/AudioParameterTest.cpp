@@ -22,6 +22,7 @@ using platform::AudioUnitParameterUnit;
 using platform::AUParameterAutomationEvent;
 using platform::AUParameterAutomationEventType;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 namespace {
 
@@ -101,6 +102,8 @@ TEST_F(AudioParameterTest, ValuesAreClamped) {
     EXPECT_THAT(sent(), ElementsAre(100, -10, -10, 100));
     turn();
     EXPECT_EQ(m_level->value(), 100);
+    m_level->setValue(-0.F, ui, change);
+    EXPECT_FALSE(std::signbit(sent().back()));
     EXPECT_DEATH(ClosedRange<float>(notANumber, 1), "^A range needs");
     EXPECT_DEATH(ClosedRange<float>(0, notANumber), "^A range needs");
     EXPECT_DEATH(ClosedRange<int>(1, 0), "^A range needs");
@@ -121,6 +124,22 @@ TEST_F(AudioParameterTest, HostsChangesAreShownAndNotEchoed) {
     EXPECT_EQ(m_level->shownValue(), 8);
     EXPECT_TRUE(m_events.empty());
     EXPECT_EQ(m_level->auParameter()->value(), 5);
+}
+
+TEST_F(AudioParameterTest, OtherThreadsReadWhatIsShownAndWhatWasSetLast) {
+    const auto read = [this] { return std::pair(m_level->shownValue(), m_level->latestValue()); };
+    m_level->setValue(6, host, change);
+    EXPECT_EQ(read(), std::pair(5.F, 6.F));
+    turn();
+    EXPECT_EQ(read(), std::pair(6.F, 6.F));
+    m_level->setValue(7);
+    EXPECT_EQ(read(), std::pair(7.F, 7.F));
+    m_level->setValue(7, ui, change);
+    EXPECT_THAT(sent(), IsEmpty()) << "it is the shown one already";
+    m_level->setIsBeingInteractivelyEdited(true);
+    m_level->setValue(8, host, change);
+    turn();
+    EXPECT_EQ(read(), std::pair(7.F, 8.F)) << "dropped for the hand";
 }
 
 TEST_F(AudioParameterTest, UsersValueIsShownWhateverTheHostAnswersMeanwhile) {

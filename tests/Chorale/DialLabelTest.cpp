@@ -1,9 +1,11 @@
 #include "Chorale/DialLabel.h"
+#include "Chorale/RocketFontModifier.h"
 #include "tests/Chorale/HostWatch.h"
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -89,6 +91,13 @@ TEST_F(DialLabelTest, EscapeRestoresAndLosingTheKeyboardIsSilent) {
     QTest::mouseClick(m_label, Qt::LeftButton);
     QTest::mouseClick(&m_window, Qt::LeftButton, {}, {5, 190});
     EXPECT_FALSE(m_label->isEditing()) << "a click elsewhere, though nothing there takes the keyboard";
+    QTest::mouseClick(m_label, Qt::LeftButton);
+    QTest::keyClicks(field(), QStringLiteral("42"));
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_FALSE(m_label->isEditing()) << "a value that is not in force";
     EXPECT_EQ(m_ends, 1);
     EXPECT_THAT(host.take(), IsEmpty());
 }
@@ -154,22 +163,51 @@ TEST_F(DialLabelTest, TheKeyboardGoesBackToWhereItWas) {
 TEST_F(DialLabelTest, LooksAndSizeFollowWhatIsShown) {
     HostWatch host(AudioUnitParameterUnit::decibels);
     const DialLabel& label = show(host, 1);
-    EXPECT_GE(label.sizeHint().width(), 60);
+    const QSize size = label.sizeHint();
     const QImage shown = picture(*m_label);
-    host.send(80);
+    host.send(100);
     EXPECT_GT(difference(shown, picture(*m_label)), 100);
+    EXPECT_EQ(label.sizeHint(), size) << "nothing moves while the value changes";
+    const QFontMetrics metrics(chorale::RocketFontModifier{16}.font());
+    EXPECT_GE(size.width(), metrics.horizontalAdvance(QStringLiteral("100.0dB")) + 4);
     const DialLabel nameless(host.parameter, Qt::gray, Qt::white, 12, 16, 16, 60, true, false, 1, {});
     EXPECT_EQ(nameless.sizeHint().height(), 40);
     EXPECT_LT(label.sizeHint().height(), 40 + 15) << "the rows overlap";
+}
+
+TEST_F(DialLabelTest, ItsCallbackMayDestroyIt) {
+    HostWatch host;
+    for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
+        QPointer<DialLabel> label;
+        const std::vector<int> kept(1000, 7); // goes with the callback
+        int sum = 0;
+        label = new DialLabel(
+            host.parameter, Qt::gray, Qt::black, 12, 16, 16, 60, true, true, 0,
+            [&label, &sum, kept] {
+                delete label;
+                for (const int one : kept)
+                    sum += one;
+            },
+            &m_window);
+        m_label = label;
+        m_window.show();
+        m_label->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        type("42", end);
+        EXPECT_EQ(label, nullptr);
+        EXPECT_EQ(sum, 7000);
+    }
 }
 
 TEST_F(DialLabelTest, AssistiveTechnologyReadsAndStepsTheValue) {
     HostWatch host(AudioUnitParameterUnit::decibels);
     show(host, 1).setLocale(QLocale::c());
     auto* const interface = QAccessible::queryAccessibleInterface(m_label);
-    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Level"));
+    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Level value")) << "the dial is the level";
     EXPECT_EQ(interface->text(QAccessible::Value), QStringLiteral("5.0 dB"));
+    EXPECT_EQ(interface->text(QAccessible::Description), QStringLiteral("5.0 dB"))
+        << "all that its bus knows";
     interface->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
-    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 6", "release 6"));
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 5.5", "release 5.5"));
     EXPECT_EQ(interface->valueInterface()->maximumValue(), 100.0F);
 }

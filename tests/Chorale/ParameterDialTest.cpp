@@ -2,12 +2,17 @@
 #include "tests/Chorale/HostWatch.h"
 #include "tests/support/Pixels.h"
 
+#include <QAccessible>
 #include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <functional>
+
 using chorale::ParameterDial;
+using platform::AudioUnitParameterUnit;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -109,12 +114,14 @@ TEST_F(ParameterDialTest, DragsInACircle) {
     EXPECT_NEAR(host.parameter->value(), 38.3, 0.2);
 }
 
-TEST_F(ParameterDialTest, DoubleClickAndAltClickReset) {
+TEST_F(ParameterDialTest, DoubleClickAndClicksWithAltOrControlReset) {
     HostWatch host;
     show(host);
-    host.send(50);
-    QTest::mouseClick(m_dial.get(), Qt::LeftButton, Qt::AltModifier);
-    EXPECT_THAT(host.take(), ElementsAre("touch 50", "value 5", "release 5"));
+    for (const auto modifier : {Qt::AltModifier, Qt::ControlModifier}) {
+        host.send(50);
+        QTest::mouseClick(m_dial.get(), Qt::LeftButton, modifier);
+        EXPECT_THAT(host.take(), ElementsAre("touch 50", "value 5", "release 5"));
+    }
     host.send(50);
     QTest::mouseDClick(m_dial.get(), Qt::LeftButton);
     host.take();
@@ -126,7 +133,7 @@ TEST_F(ParameterDialTest, WheelStepsAndCollectsPartsOfANotch) {
     show(host);
     wheel(120);
     EXPECT_THAT(host.take(), ElementsAre("touch 5", "value 6", "release 6"));
-    HostWatch names(platform::AudioUnitParameterUnit::indexed, 2, 0,
+    HostWatch names(AudioUnitParameterUnit::indexed, 2, 0,
                     QStringList{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
     show(names);
     wheel(60);
@@ -134,6 +141,66 @@ TEST_F(ParameterDialTest, WheelStepsAndCollectsPartsOfANotch) {
     wheel(60);
     EXPECT_EQ(names.take(), (std::vector<std::string>{"touch 0", "value 1", "release 1"}));
     EXPECT_EQ(m_dial->valueText(), QStringLiteral("B"));
+}
+
+TEST_F(ParameterDialTest, WholeNumbersGoByOneThoughTheHostEchoesThem) {
+    HostWatch host(AudioUnitParameterUnit::relativeSemiTones, 24, -5, {}, -24);
+    host.echo = [](float value) { return std::round(value); };
+    show(host).setDecimalPlaces(0);
+    const auto valueAfter = [&](int count, const std::function<void()>& act) {
+        for (int i = 0; i < count; ++i) {
+            act();
+            HostWatch::turn();
+        }
+        return host.parameter->value();
+    };
+    EXPECT_EQ(valueAfter(10, [&] { wheel(120); }), 5);
+    EXPECT_EQ(valueAfter(20, [&] { wheel(30); }), 10) << "quarters of a notch";
+    EXPECT_EQ(valueAfter(10, [&] { QTest::keyClick(m_dial.get(), Qt::Key_Down); }), 0);
+    host.take();
+    press();
+    for (int y = 30; y < 50; ++y)
+        move({30, y});
+    release();
+    EXPECT_EQ(host.take().back(), "release -5") << "a tenth of the range, and only whole numbers";
+}
+
+TEST_F(ParameterDialTest, ACoarseHostsEchoesLeaveUnfinishedStepsAlone) {
+    HostWatch host;
+    host.echo = [](float value) { return std::round(value / 4) * 4; };
+    show(host).setDecimalPlaces(0);
+    for (int i = 0; i < 20; ++i) {
+        wheel(120);
+        HostWatch::turn();
+    }
+    EXPECT_EQ(host.take().back(), "release 25");
+}
+
+TEST_F(ParameterDialTest, AWheelSendsWhatTheLabelShows) {
+    HostWatch host(AudioUnitParameterUnit::percent, 200, 101.4F);
+    show(host).setDecimalPlaces(0);
+    wheel(120);
+    EXPECT_THAT(host.take(), ElementsAre("touch 101.4", "value 102", "release 102"));
+    for (int i = 0; i < 10; ++i)
+        wheel(120, Qt::ShiftModifier);
+    EXPECT_THAT(host.take(), ElementsAre("touch 102", "value 103", "release 103")) << "ten fine steps";
+}
+
+TEST_F(ParameterDialTest, FrequenciesTurnAndStepByRatios) {
+    HostWatch host(AudioUnitParameterUnit::hertz, 20480, 640, {}, 20); // ten octaves, in their middle
+    show(host).setDecimalPlaces(0);
+    const QImage middle = picture(*m_dial);
+    press();
+    move({30, 10}); // a tenth of the way
+    release();
+    EXPECT_THAT(host.take(), ElementsAre("touch 640", "value 1280", "release 1280"));
+    wheel(120);
+    EXPECT_EQ(host.take()[1], "value 1356") << "a semitone";
+    wheel(-120);
+    EXPECT_EQ(host.take()[1], "value 1280");
+    HostWatch evenly(AudioUnitParameterUnit::generic, 100, 50);
+    show(evenly);
+    EXPECT_EQ(difference(picture(*m_dial), middle), 0);
 }
 
 TEST_F(ParameterDialTest, KeysStepInOneGestureAndOthersReachTheHost) {
@@ -153,6 +220,32 @@ TEST_F(ParameterDialTest, KeysStepInOneGestureAndOthersReachTheHost) {
     QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, {});
     QApplication::sendEvent(m_dial.get(), &space);
     EXPECT_FALSE(space.isAccepted());
+}
+
+TEST_F(ParameterDialTest, FollowsTheHostOnScreenAndForAssistiveTechnology) {
+    class Paints : public QObject {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+
+        int count = 0;
+    };
+
+    HostWatch host(AudioUnitParameterUnit::hertz, 2000, 440, {}, 20);
+    ParameterDial& dial = show(host);
+    dial.setDecimalPlaces(0);
+    Paints paints;
+    dial.installEventFilter(&paints);
+    QTRY_COMPARE(paints.count, 0);
+    host.send(880);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+    auto* const interface = QAccessible::queryAccessibleInterface(&dial);
+    EXPECT_EQ(interface->text(QAccessible::Name), QStringLiteral("Level"));
+    EXPECT_EQ(interface->text(QAccessible::Description), QStringLiteral("880 Hz"));
+    ASSERT_NE(interface->valueInterface(), nullptr);
+    EXPECT_EQ(interface->valueInterface()->currentValue(), 880.F);
 }
 
 TEST_F(ParameterDialTest, ShowsTheValueAndThatItIsHeld) {

@@ -3,13 +3,18 @@
 #include "Chorale/AssetResources.h"
 #include "tests/Chorale/HostWatch.h"
 
+#include <QAccessible>
+#include <QLineEdit>
 #include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using chorale::ParameterHoldButton;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 namespace {
 
@@ -59,11 +64,57 @@ TEST_F(ParameterHoldButtonTest, LetsGoHoweverThePressEnds) {
     EXPECT_EQ(m_host.take().back(), "value 0");
 }
 
-TEST_F(ParameterHoldButtonTest, IsAButtonToAssistiveTechnology) {
+TEST_F(ParameterHoldButtonTest, LetsGoWhenTheKeyWillBeReleasedElsewhere) {
+    QLineEdit other;
+    other.show();
+    const auto heardAfter = [&](const std::function<void()>& leave) {
+        m_button.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_button));
+        m_button.setFocus();
+        QTest::keyPress(&m_button, Qt::Key_Return);
+        HostWatch::turn();
+        leave();
+        return m_host.take();
+    };
+    EXPECT_THAT(heardAfter([&] {
+                    other.activateWindow();
+                    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+                }),
+                ElementsAre("value 1", "value 0"));
+    EXPECT_THAT(heardAfter([&] { m_button.clearFocus(); }), ElementsAre("value 1", "value 0"));
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QApplication::sendEvent(&m_button, &repeated);
+    EXPECT_THAT(m_host.take(), IsEmpty()) << "no new press, though the key is down still";
+}
+
+TEST_F(ParameterHoldButtonTest, AHeldKeyIsOnePress) {
+    QTest::keyPress(&m_button, Qt::Key_Return);
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeated(type, Qt::Key_Return, {}, {}, true);
+        QApplication::sendEvent(&m_button, &repeated);
+        EXPECT_TRUE(repeated.isAccepted());
+        HostWatch::turn();
+        EXPECT_TRUE(m_button.isPressed());
+    }
+    QTest::keyRelease(&m_button, Qt::Key_Return);
+    EXPECT_THAT(m_host.take(), ElementsAre("value 1", "value 0"));
+}
+
+TEST_F(ParameterHoldButtonTest, AssistiveTechnologyHoldsAndLetsGo) {
     auto* const interface = QAccessible::queryAccessibleInterface(&m_button);
     EXPECT_EQ(interface->role(), QAccessible::Button);
-    m_host.send(1);
+    const QString press = QAccessibleActionInterface::pressAction();
+    ASSERT_EQ(interface->actionInterface()->actionNames(), QStringList{press});
+    interface->actionInterface()->doAction(press);
+    EXPECT_THAT(m_host.take(), ElementsAre("value 1"));
     EXPECT_EQ(interface->text(QAccessible::Value), QStringLiteral("On"));
+    EXPECT_TRUE(interface->state().pressed);
+    interface->actionInterface()->doAction(press);
+    EXPECT_THAT(m_host.take(), ElementsAre("value 0"));
+    EXPECT_FALSE(interface->state().pressed);
+    m_button.setEnabled(false);
+    interface->actionInterface()->doAction(press);
+    EXPECT_THAT(m_host.take(), IsEmpty());
 }
 
 TEST_F(ParameterHoldButtonTest, FollowsTheHostExactly) {

@@ -43,7 +43,12 @@ class RecordingSettings : public ParameterSettings {
 public:
     void updateDependentValues(std::uint64_t forAddress, float value) override {
         updated.emplace_back(forAddress, value);
+        if (changing)
+            valueAtUpdate = changing->latestValue();
     }
+
+    std::shared_ptr<AudioParameter> changing; // of which the hook looks at the value
+    std::optional<float> valueAtUpdate;
 
     Values updated;
 };
@@ -105,11 +110,13 @@ TEST_F(ParameterSettingsTest, HostsChangeReachesModelHookAndUnitOnTheHostsThread
     const auto level = parameter(3, {}, QList<std::uint64_t>{4});
     const auto other = parameter(4);
     configure({level, other});
+    m_settings->changing = level;
     std::thread([this] {
         hostParameter(0).setValue(120);
         hostParameter(1).setValue(8);
     }).join();
     EXPECT_THAT(m_settings->updated, ElementsAre(Pair(3, 120))) << "as it came, and only where values follow";
+    EXPECT_EQ(m_settings->valueAtUpdate, 100) << "what follows can be worked out from the new value";
     EXPECT_THAT(m_unit->applied, ElementsAre(Pair(3, 120), Pair(4, 8)));
     turn();
     EXPECT_EQ(level->value(), 100);

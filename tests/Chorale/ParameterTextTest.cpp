@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 #include <cmath>
 #include <limits>
 #include <random>
@@ -18,6 +20,12 @@ std::unique_ptr<AudioParameter> make(AudioUnitParameterUnit units, float value, 
 }
 
 } // namespace
+
+// These tests also run in locales that write a comma.
+TEST(ParameterText, TheLocaleOfTheProcessIsTheOneThatWasAskedFor) {
+    const QByteArray expected = qEnvironmentVariable("NOTELOFT_DECIMAL_POINT", QStringLiteral(".")).toUtf8();
+    EXPECT_STREQ(localeconv()->decimal_point, expected.constData());
+}
 
 TEST(ParameterText, NumbersAreReadAsAWholeInTheCLocale) {
     const auto read = [](const char* text) { return chorale::decimalNumber(QString::fromUtf8(text)); };

@@ -3,8 +3,8 @@
 #include "Chorale/MakerLinks.h"
 #include "Chorale/TabButton.h"
 #include "tests/Chorale/HostWatch.h"
+#include "tests/support/Browser.h"
 
-#include <QDesktopServices>
 #include <QLabel>
 #include <QTest>
 
@@ -39,20 +39,6 @@ QStringList titles(const PluginHeaderView& header) {
     return titles;
 }
 
-/// Gets the links in place of the browser.
-class Browser : public QObject {
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
-
-    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
-
-    Q_INVOKABLE void open(const QUrl& url) { opened << url; }
-
-    QList<QUrl> opened;
-};
-
 } // namespace
 
 TEST(PluginHeaderView, TabsAreAnOrdinaryParameter) {
@@ -83,13 +69,13 @@ TEST(PluginHeaderView, LinksOpenInTheBrowserAndTheMenuIsMadeOnce) {
     const Browser browser;
     HostWatch host;
     int made = 0;
-    const PluginHeaderView header(updatePage, QStringLiteral("1.0"), host.parameter,
-                                  UpdateAvailableDetails{QStringLiteral("2.1")}, [&]() -> QWidget* {
-                                      ++made;
-                                      auto* const menu = new QWidget;
-                                      menu->setObjectName(QStringLiteral("menu"));
-                                      return menu;
-                                  });
+    PluginHeaderView header(updatePage, QStringLiteral("1.0"), host.parameter,
+                            UpdateAvailableDetails{QStringLiteral("2.1")}, [&]() -> QWidget* {
+                                ++made;
+                                auto* const menu = new QWidget;
+                                menu->setObjectName(QStringLiteral("menu"));
+                                return menu;
+                            });
     const auto buttons = header.findChildren<QAbstractButton*>();
     ASSERT_EQ(buttons.size(), 2);
     EXPECT_EQ(buttons[1]->text(), QStringLiteral("2.1 AVAILABLE"));
@@ -97,7 +83,9 @@ TEST(PluginHeaderView, LinksOpenInTheBrowserAndTheMenuIsMadeOnce) {
     buttons[1]->click();
     EXPECT_EQ(browser.opened, (QList<QUrl>{chorale::MakerLinks::website(), updatePage}));
     EXPECT_EQ(made, 1);
+    header.setUpdateDetails(UpdateAvailableDetails{QStringLiteral("2.2")});
+    EXPECT_EQ(titles(header).mid(1), QStringList{QStringLiteral("2.2 AVAILABLE")}) << "found later";
+    header.setUpdateDetails(std::nullopt);
+    EXPECT_EQ(titles(header).size(), 1);
     EXPECT_NE(header.findChild<QWidget*>(QStringLiteral("menu")), nullptr);
 }
-
-#include "PluginHeaderViewTest.moc"

@@ -10,10 +10,10 @@
 #include "Platform/Gpu/GpuDevice.h"
 #include "Platform/Gpu/GpuView.h"
 #include "VantorShaders/resource_bundle_accessor.h"
+#include "tests/support/Browser.h"
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>
-#include <QDesktopServices>
 #include <QFile>
 #include <QFontInfo>
 #include <QTemporaryDir>
@@ -33,17 +33,6 @@ namespace {
 const QString notFound = QStringLiteral(
     "Dev Only Debugging: Failed to find component with type: aumi, subtype: mdfx, manufacturer: Quil)");
 
-class Browser : public QObject {
-    Q_OBJECT
-
-public:
-    QStringList opened;
-
-public Q_SLOTS:
-
-    void open(const QUrl& url) { opened << url.toString(); }
-};
-
 class ContentViewTest : public testing::Test {
 protected:
     ContentViewTest() {
@@ -51,11 +40,9 @@ protected:
         // Found for good before a test changes the main bundle.
         noteloft::resourceBundle();
         vantor::resourceBundle();
-        QDesktopServices::setUrlHandler(QStringLiteral("https"), &m_browser, "open");
     }
 
     ~ContentViewTest() override {
-        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
         Bundle::setMainDirectory(m_mainDirectory);
         qunsetenv("LV2_PATH");
     }
@@ -252,8 +239,8 @@ TEST_F(ContentViewTest, ButtonsOpenTheirPages) {
     QTest::mouseClick(button(QStringLiteral("Help")), Qt::LeftButton);
     QTest::mouseClick(button(QStringLiteral("Quillfen Website")), Qt::LeftButton);
     EXPECT_EQ(m_browser.opened,
-              (QStringList{QStringLiteral("https://" NOTELOFT_HELP_HOST "/help/noteloft/welcome/"),
-                           QStringLiteral(NOTELOFT_WEBSITE_URL)}));
+              (QList{QUrl(QStringLiteral("https://" NOTELOFT_HELP_HOST "/help/noteloft/welcome/")),
+                     QUrl(QStringLiteral(NOTELOFT_WEBSITE_URL))}));
     EXPECT_EQ(&ContentView::helpURL(), &ContentView::helpURL());
 }
 
@@ -327,5 +314,3 @@ TEST_F(ContentViewTest, EveryPartSpeaksToAssistiveTechnology) {
     }
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_browser.opened.size() == 2; })) << "they can be pressed";
 }
-
-#include "ContentViewTest.moc"

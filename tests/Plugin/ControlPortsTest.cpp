@@ -1,4 +1,5 @@
 // What hosts read of the control ports, and what the code knows of them.
+#include "ChordTable.h"
 #include "InstalledPlugin.h"
 
 #include "Plugin/ControlPorts.h"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iostream>
 #include <map>
 #include <string>
 
@@ -22,6 +24,33 @@ protected:
     bool has(const LilvPort* port, const char* property) const {
         const Node node(lilv_new_uri(m_world, property));
         return lilv_port_has_property(m_plugin, port, node.get());
+    }
+
+    using Values = std::map<std::string, float>;
+
+    /// The values of all presets, by their labels and by the ports' symbols.
+    std::map<std::string, Values> presets() const {
+        const Node kind(lilv_new_uri(m_world, LV2_PRESETS__Preset));
+        const Node labelKey(lilv_new_uri(m_world, LILV_NS_RDFS "label"));
+        const Node portKey(lilv_new_uri(m_world, LV2_CORE__port));
+        const Node symbolKey(lilv_new_uri(m_world, LV2_CORE__symbol));
+        const Node valueKey(lilv_new_uri(m_world, LV2_PRESETS__value));
+        const Nodes found(lilv_plugin_get_related(m_plugin, kind.get()));
+        std::map<std::string, Values> all;
+        LILV_FOREACH(nodes, i, found.get()) {
+            const LilvNode* const preset = lilv_nodes_get(found.get(), i);
+            lilv_world_load_resource(m_world, preset);
+            const Node label(lilv_world_get(m_world, preset, labelKey.get(), nullptr));
+            Values& values = all[lilv_node_as_string(label.get())];
+            const Nodes ports(lilv_world_find_nodes(m_world, preset, portKey.get(), nullptr));
+            LILV_FOREACH(nodes, j, ports.get()) {
+                const LilvNode* const port = lilv_nodes_get(ports.get(), j);
+                const Node symbol(lilv_world_get(m_world, port, symbolKey.get(), nullptr));
+                const Node value(lilv_world_get(m_world, port, valueKey.get(), nullptr));
+                values[lilv_node_as_string(symbol.get())] = lilv_node_as_float(value.get());
+            }
+        }
+        return all;
     }
 
     const InstalledPlugin m_installed;
@@ -78,24 +107,10 @@ TEST_F(ControlPortsTest, ValuesOfTheHostBecomeOnesThatThePortHas) {
 }
 
 TEST_F(ControlPortsTest, PresetsSetAllThatIsHeardWithinItsRange) {
-    const Node kind(lilv_new_uri(m_world, LV2_PRESETS__Preset));
-    const Node portKey(lilv_new_uri(m_world, LV2_CORE__port));
-    const Node symbolKey(lilv_new_uri(m_world, LV2_CORE__symbol));
-    const Node valueKey(lilv_new_uri(m_world, LV2_PRESETS__value));
-    const Nodes presets(lilv_plugin_get_related(m_plugin, kind.get()));
-    EXPECT_EQ(lilv_nodes_size(presets.get()), 5U);
-    LILV_FOREACH(nodes, i, presets.get()) {
-        const LilvNode* const preset = lilv_nodes_get(presets.get(), i);
-        SCOPED_TRACE(lilv_node_as_uri(preset));
-        lilv_world_load_resource(m_world, preset);
-        const Nodes ports(lilv_world_find_nodes(m_world, preset, portKey.get(), nullptr));
-        std::map<std::string, float> values;
-        LILV_FOREACH(nodes, j, ports.get()) {
-            const LilvNode* const port = lilv_nodes_get(ports.get(), j);
-            const Node symbol(lilv_world_get(m_world, port, symbolKey.get(), nullptr));
-            const Node value(lilv_world_get(m_world, port, valueKey.get(), nullptr));
-            values[lilv_node_as_string(symbol.get())] = number(value.get());
-        }
+    const auto all = presets();
+    EXPECT_EQ(all.size(), 5U);
+    for (auto [name, values] : all) {
+        SCOPED_TRACE(name);
         for (const ControlPort& known : controlPorts()) {
             if (known.index == Ports::enabled || known.index == Ports::page)
                 continue;
@@ -105,4 +120,25 @@ TEST_F(ControlPortsTest, PresetsSetAllThatIsHeardWithinItsRange) {
         }
         EXPECT_TRUE(values.empty()) << values.begin()->first;
     }
+}
+
+TEST_F(ControlPortsTest, PresetsSoundLikeTheirNames) {
+    std::string heard;
+    for (auto [name, values] : presets()) {
+        const auto whole = [&values = values](const char* symbol) {
+            return static_cast<int>(values[symbol]);
+        };
+        heard += chordsOnAllDegrees(name, {.transpose = whole("transpose"),
+                                           .root = whole("root"),
+                                           .scale = Scale(whole("scale")),
+                                           .chord = Chord(whole("chord")),
+                                           .inversion = whole("inversion")});
+    }
+    std::cout << heard;
+    EXPECT_EQ(heard, R"(Blues in E by Chance: E | G | A | A# | B | D
+Fifths in D Dorian: D A | E B | F C | G D | A E | B F | C G
+Human Touch: C | C# | D | D# | E | F | F# | G | G# | A | A# | B
+Slow Sevenths in A Minor: C E G A | D F A B | E G B C | F A C D | G B D E | A C E F | B D F G
+Strummed Triads in C: C E G | D F A | E G B | F A C | G B D | A C E | B D F
+)");
 }

@@ -3,13 +3,17 @@
 #include "tests/Plugin/X11Screen.h"
 
 #include <gtest/gtest.h>
+#include <lv2/atom/atom.h>
+#include <lv2/options/options.h>
 #include <lv2/ui/ui.h>
+#include <lv2/urid/urid.h>
 
 #include <dlfcn.h>
 
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
+#include <map>
 #include <sstream>
 #include <string>
 #include <thread>
@@ -35,12 +39,16 @@ inline const LV2UI_Descriptor& editorDescriptor() {
     return loaded;
 }
 
-/// A host with one editor.
+/// A host with one editor. It wants a scale unless that is 0.
 class EditorHost {
 public:
     explicit EditorHost(X11Screen& screen, std::int16_t y = 0,
-                        const LV2UI_Descriptor& editor = editorDescriptor())
-        : m_descriptor(editor), m_screen(screen), m_window(screen.makeWindow(y)) {
+                        const LV2UI_Descriptor& editor = editorDescriptor(), float scale = 0)
+        : m_descriptor(editor),
+          m_screen(screen),
+          m_window(screen.makeWindow(y)),
+          m_scale(scale),
+          m_options{scaleOption(m_scale == 0 ? nullptr : &m_scale), {}} {
         m_editor = m_descriptor.instantiate(&m_descriptor, "http://quillfen.example/plugins/noteloft",
                                             NOTELOFT_EDITOR_FOLDER, write, this, &m_widget, m_features);
         EXPECT_NE(m_editor, nullptr);
@@ -84,6 +92,24 @@ public:
         return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(m_widget));
     }
 
+    /// What the host was asked to resize itself to, in pixels.
+    std::vector<std::pair<int, int>> takeSizes() { return std::exchange(m_sizes, {}); }
+
+    std::uint32_t setScale(float scale) {
+        const auto* const interface =
+            static_cast<const LV2_Options_Interface*>(m_descriptor.extension_data(LV2_OPTIONS__interface));
+        const LV2_Options_Option options[] = {scaleOption(&scale), {}};
+        return interface->set(m_editor, options);
+    }
+
+    float scale() {
+        const auto* const interface =
+            static_cast<const LV2_Options_Interface*>(m_descriptor.extension_data(LV2_OPTIONS__interface));
+        LV2_Options_Option options[] = {scaleOption(nullptr), {}};
+        EXPECT_EQ(interface->get(m_editor, options), LV2_OPTIONS_SUCCESS);
+        return *static_cast<const float*>(options[0].value);
+    }
+
     std::vector<std::string> take() { return std::exchange(m_heard, {}); }
 
 private:
@@ -101,6 +127,25 @@ private:
                                                           std::to_string(port));
     }
 
+    static int resize(LV2UI_Feature_Handle host, int width, int height) {
+        static_cast<EditorHost*>(host)->m_sizes.emplace_back(width, height);
+        return 0;
+    }
+
+    static LV2_URID mapUri(LV2_URID_Map_Handle, const char* uri) {
+        static std::map<std::string, LV2_URID> known;
+        return known.try_emplace(uri, static_cast<LV2_URID>(known.size() + 1)).first->second;
+    }
+
+    static LV2_Options_Option scaleOption(const float* scale) {
+        return {LV2_OPTIONS_INSTANCE,
+                0,
+                mapUri(nullptr, LV2_UI__scaleFactor),
+                sizeof *scale,
+                mapUri(nullptr, LV2_ATOM__Float),
+                scale};
+    }
+
     const LV2UI_Descriptor& m_descriptor;
     X11Screen& m_screen;
     const std::uint32_t m_window;
@@ -108,8 +153,17 @@ private:
     // NOLINTNEXTLINE(performance-no-int-to-ptr): what the interface passes windows as
     LV2_Feature m_parentFeature{LV2_UI__parent, reinterpret_cast<void*>(std::uintptr_t{m_window})};
     LV2_Feature m_touchFeature{LV2_UI__touch, &m_touch};
-    const LV2_Feature* const m_features[3] = {&m_parentFeature, &m_touchFeature, nullptr};
+    LV2UI_Resize m_resize{this, resize};
+    LV2_Feature m_resizeFeature{LV2_UI__resize, &m_resize};
+    LV2_URID_Map m_map{nullptr, mapUri};
+    LV2_Feature m_mapFeature{LV2_URID__map, &m_map};
+    const float m_scale;
+    const LV2_Options_Option m_options[2];
+    LV2_Feature m_optionsFeature{LV2_OPTIONS__options, const_cast<LV2_Options_Option*>(m_options)};
+    const LV2_Feature* const m_features[6] = {&m_parentFeature, &m_touchFeature,   &m_resizeFeature,
+                                              &m_mapFeature,    &m_optionsFeature, nullptr};
     LV2UI_Handle m_editor = nullptr;
     LV2UI_Widget m_widget = nullptr;
     std::vector<std::string> m_heard;
+    std::vector<std::pair<int, int>> m_sizes;
 };

@@ -1,4 +1,5 @@
 // The editor in a host that knows nothing of Qt: a plain X11 window, a pointer and an idle loop.
+#include "tests/Plugin/DesktopSettings.h"
 #include "tests/Plugin/EditorHost.h"
 
 #include <gmock/gmock.h>
@@ -14,18 +15,28 @@ using testing::IsEmpty;
 
 namespace {
 
+constexpr int longerThanAnEcho = 120; // turns
 constexpr std::uint32_t transposePort = 2;
 constexpr std::uint32_t holdPort = 5;
 constexpr std::uint32_t pagePort = 7;
 
 class EditorTest : public testing::Test {
 protected:
+    /// There before the editors' application, and as long as that.
+    static DesktopSettings& desktop() {
+        static DesktopSettings settings;
+        return settings;
+    }
+
+    static void SetUpTestSuite() { desktop(); }
+
     // The first dial's middle, and the hold button's.
     static constexpr std::int16_t dialX = 70;
     static constexpr std::int16_t dialY = 110;
     static constexpr std::int16_t holdX = 630;
     static constexpr std::int16_t holdY = 110;
     static constexpr std::int16_t valueY = 182; // below the dial
+    static constexpr std::uint16_t editorHeight = 220;
 
     void drag(EditorHost& host, int upwards, const std::function<void()>& meanwhile = {}) {
         m_screen.movePointer(dialX, dialY);
@@ -97,6 +108,7 @@ TEST_F(EditorTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
     EXPECT_THAT(host.take(), IsEmpty());
     drag(host, 25, [&] { host.send(transposePort, -10); });
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=6", "2=12", "2=12", "release 2"));
+    host.idle(longerThanAnEcho);
     drag(host, 25);
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=-10", "2=-4", "2=-4", "release 2"));
 }
@@ -107,11 +119,11 @@ TEST_F(EditorTest, HoldIsOneWhileItIsHeld) {
     m_screen.movePointer(holdX, holdY);
     m_screen.press();
     host.idle();
-    EXPECT_THAT(host.take(), ElementsAre("5=1"));
+    EXPECT_THAT(host.take(), ElementsAre("touch 5", "5=1"));
     host.send(holdPort, 1);
     m_screen.release();
     host.idle();
-    EXPECT_THAT(host.take(), ElementsAre("5=0"));
+    EXPECT_THAT(host.take(), ElementsAre("5=0", "release 5"));
 }
 
 TEST_F(EditorTest, PagesFollowTheTabsAndTheHost) {
@@ -124,9 +136,10 @@ TEST_F(EditorTest, PagesFollowTheTabsAndTheHost) {
     host.idle();
     m_screen.release();
     host.idle();
-    EXPECT_THAT(host.take(), ElementsAre("7=1"));
+    EXPECT_THAT(host.take(), ElementsAre("touch 7", "7=1", "release 7"));
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 10", "10=0", "10=3", "10=3", "release 10")) << "the chord";
+    host.idle(longerThanAnEcho);
     host.send(pagePort, 2);
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 3", "3=100", "3=150", "3=150", "release 3"))
@@ -144,7 +157,7 @@ TEST_F(EditorTest, BorrowsTheKeyboardOnlyWhileAValueIsTyped) {
     click(host, dialX, valueY);
     EXPECT_EQ(m_screen.focus(), host.editorWindow());
     type(host, {sevenKey, returnKey});
-    EXPECT_THAT(host.take(), ElementsAre("2=7"));
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=7", "release 2"));
     EXPECT_EQ(m_screen.focus(), host.window());
 
     click(host, dialX, valueY);
@@ -157,9 +170,16 @@ TEST_F(EditorTest, TheKeyboardComesBackWithAClickAndGoesWithTheEditor) {
     const std::uint32_t other = m_screen.makeWindow(400);
     EditorHost host(m_screen);
     host.idle(20);
+    const auto closed = m_screen.picture(host.window(), editorHeight);
+    m_screen.setFocus(host.window());
     click(host, dialX, valueY);
+    type(host, {sevenKey});
+    EXPECT_NE(m_screen.picture(host.window(), editorHeight), closed);
     m_screen.setFocus(other);
-    host.idle();
+    host.idle(120); // some systems take the keyboard away and give it back at once, so Qt waits
+    EXPECT_EQ(m_screen.picture(host.window(), editorHeight), closed) << "no value that is not in force";
+    EXPECT_THAT(host.take(), IsEmpty());
+    EXPECT_EQ(m_screen.focus(), other) << "the keyboard belongs to another program now";
     click(host, dialX, valueY);
     EXPECT_EQ(m_screen.focus(), host.editorWindow());
     host.close(false);
@@ -205,9 +225,56 @@ TEST_F(EditorTest, TwoAtOnceDoNotHearOfEachOther) {
     m_screen.movePointer(holdX, 400 + holdY);
     m_screen.press();
     second.idle();
-    EXPECT_THAT(second.take(), ElementsAre("5=1"));
+    EXPECT_THAT(second.take(), ElementsAre("touch 5", "5=1"));
     m_screen.release();
     second.idle();
+}
+
+// Also run on a screen with twice the pixels.
+TEST_F(EditorTest, TellsItsSizeInPixelsAtEveryScale) {
+    const char* const factor = std::getenv("QT_SCALE_FACTOR");
+    const int desktop = factor == nullptr ? 1 : std::atoi(factor);
+    EditorHost plain(m_screen);
+    plain.idle(20);
+    const auto natural = plain.takeSizes();
+    ASSERT_EQ(natural.size(), 1U);
+    EXPECT_EQ(natural[0].first, 700 * desktop);
+    EXPECT_EQ(m_screen.size(plain.editorWindow()), natural[0]);
+    EXPECT_EQ(plain.scale(), static_cast<float>(desktop));
+    plain.close(false);
+
+    EditorHost host(m_screen, 0, editorDescriptor(), 1.5F);
+    host.idle(20);
+    const auto sizes = host.takeSizes();
+    ASSERT_EQ(sizes.size(), 1U);
+    EXPECT_EQ(sizes[0].first, 1050);
+    EXPECT_NEAR(sizes[0].second, natural[0].second * 1.5 / desktop, 3);
+    EXPECT_EQ(m_screen.size(host.editorWindow()), sizes[0]);
+    EXPECT_EQ(host.setScale(1), LV2_OPTIONS_SUCCESS) << "while it is open";
+    EXPECT_EQ(host.setScale(0), LV2_OPTIONS_ERR_BAD_VALUE);
+    host.idle(20);
+    EXPECT_EQ(host.takeSizes().back().first, 700);
+    EXPECT_EQ(m_screen.size(host.editorWindow()).first, 700);
+    EXPECT_EQ(host.scale(), 1);
+    drag(host, 50);
+    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
+}
+
+TEST_F(EditorTest, FollowsTheDesktopsScaleWhileItIsOpen) {
+    constexpr std::uint16_t height = 290; // more than the editor has with a pixel for each point
+    EditorHost host(m_screen);
+    host.idle(20);
+    desktop().setDpi(192);
+    host.idle(40);
+    const auto sizes = host.takeSizes();
+    ASSERT_EQ(sizes.size(), 2U);
+    EXPECT_EQ(sizes[1], std::pair(2 * sizes[0].first, 2 * sizes[0].second));
+    EXPECT_EQ(m_screen.size(host.editorWindow()), sizes[1]);
+    const auto picture = m_screen.picture(host.window(), height);
+    EXPECT_NE(picture[picture.size() - 4], 0) << "it is drawn to its end";
+    desktop().setDpi(96);
+    host.idle(40);
+    EXPECT_EQ(m_screen.size(host.editorWindow()), sizes[0]);
 }
 
 // The application object may be that of another plug-in, whose editor has gone.

@@ -1,9 +1,18 @@
 // The editor's view without a host: what keyboard and screen reader find on each page.
 #include "Plugin/Editor/EditorView.h"
 #include "Chorale/ChoiceLabel.h"
+#include "Chorale/DialLabel.h"
+#include "Chorale/MakerLinks.h"
+#include "Chorale/RocketFontModifier.h"
+#include "Platform/Controls/Menu.h"
 #include "Plugin/Editor/EditorParameters.h"
+#include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Editor/EmbeddedAccessibility.h"
+#include "Plugin/Editor/MenuButton.h"
 #include "Plugin/Editor/QtSession.h"
 #include "Plugin/Editor/ScaleView.h"
+#include "tests/support/Browser.h"
+#include "tests/support/Pixels.h"
 
 #include <QAccessible>
 #include <QTest>
@@ -50,16 +59,91 @@ protected:
 
 } // namespace
 
+TEST_F(EditorViewTest, IsFoundInsideOfAnotherProgramsWindow) {
+    EmbeddedAccessibility::install();
+    QWidget own; // stands for the host's window, which is none of the application's
+    m_view.setParent(&own);
+    const auto* const application = QAccessible::queryAccessibleInterface(qApp);
+    const int before = application->childCount();
+    {
+        const EmbeddedAccessibility embedded(m_view);
+        ASSERT_EQ(application->childCount(), before + 1);
+        const auto* const found = application->child(before);
+        ASSERT_NE(found, nullptr);
+        EXPECT_EQ(found->object(), &m_view);
+        EXPECT_EQ(application->indexOfChild(found), before);
+    }
+    EXPECT_EQ(application->childCount(), before);
+    m_view.setParent(nullptr);
+}
+
 TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
     m_view.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
     EXPECT_TRUE(m_view.hasFocus()) << "no ring before somebody asks for one";
-    EXPECT_THAT(reachedByTab(), ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Transpose",
-                                            "Transpose", "Root", "Root", "Scale", "Scale", "Hold"));
+    EXPECT_THAT(reachedByTab(),
+                ElementsAre("Website of the maker", "Scale tab", "Chord tab", "Feel tab", "Menu", "Transpose",
+                            "Transpose value", "Root", "Root choice", "Scale", "Scale choice", "Hold"))
+        << "each name once";
+    const auto* const window = QAccessible::queryAccessibleInterface(&m_view);
+    EXPECT_EQ(window->role(), QAccessible::Window);
+    EXPECT_EQ(window->text(QAccessible::Name), QStringLiteral("Noteloft"));
+    EXPECT_NE(QAccessible::queryAccessibleInterface(m_view.findChild<ScaleView*>())->role(),
+              QAccessible::Window)
+        << "it was made before it was put into one";
     set(Ports::page, 2);
     EXPECT_THAT(reachedByTab(),
-                ElementsAre("Website of the maker", "SCALE", "CHORD", "FEEL", "Velocity", "Velocity",
-                            "Dynamics", "Dynamics", "Timing", "Timing", "Chance", "Chance", "Hold"));
+                ElementsAre("Website of the maker", "Scale tab", "Chord tab", "Feel tab", "Menu", "Velocity",
+                            "Velocity value", "Dynamics", "Dynamics value", "Timing", "Timing value",
+                            "Chance", "Chance value", "Hold"));
+}
+
+TEST_F(EditorViewTest, AFieldLeavesTheNameOfItsParameterWhole) {
+    loadDisplayFont(QStringLiteral(NOTELOFT_BUNDLE));
+    m_view.setScale(1); // with that font
+    m_view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
+    auto* const label = m_view.findChild<chorale::DialLabel*>();
+    ASSERT_NE(label, nullptr);
+    const int capitals = QFontMetrics(chorale::RocketFontModifier{13}.font()).ascent() + 1;
+    const QRect name(0, 0, label->width(), capitals);
+    const QImage before = picture(*label).copy(name);
+    QTest::mouseClick(label, Qt::LeftButton);
+    ASSERT_TRUE(label->isEditing());
+    EXPECT_EQ(difference(before, picture(*label).copy(name)), 0);
+}
+
+TEST_F(EditorViewTest, AnUpdateThatIsFoundLaterShowsWithItsLink) {
+    const auto update = [&]() -> QAbstractButton* {
+        for (auto* const button : m_view.findChildren<QAbstractButton*>())
+            if (button->text() == QStringLiteral("9.1 AVAILABLE"))
+                return button;
+        return nullptr;
+    };
+    m_view.show();
+    EXPECT_EQ(update(), nullptr);
+    platform::KnownUpdate::store(QStringLiteral("9.1"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return update() != nullptr; }));
+    const Browser browser;
+    update()->click();
+    EXPECT_THAT(browser.opened, ElementsAre(chorale::MakerLinks::website()));
+    platform::KnownUpdate::store(QStringLiteral("0.9"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return update() == nullptr; })) << "it is older than this one";
+}
+
+TEST_F(EditorViewTest, TheMenuLeadsToTheMakersPagesAndToTheUpdates) {
+    m_view.show();
+    const Browser browser;
+    m_view.findChild<MenuButton*>()->click();
+    auto* const menu = qobject_cast<platform::Menu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (platform::MenuItem* const item : menu->items())
+        item->trigger();
+    EXPECT_THAT(browser.opened,
+                ElementsAre(chorale::MakerLinks::website(), chorale::MakerLinks::socialProfile(),
+                            chorale::MakerLinks::contactPage(),
+                            QUrl(QStringLiteral("noteloft://openAndUpdate"))));
+    menu->close();
 }
 
 TEST(QtSession, NoEditorInAHostOfAnotherWindowSystem) {

@@ -26,7 +26,7 @@ struct RecordedMessage {
 class MidiRecorder final : public noteloft::plugin::MidiSink {
 public:
     bool write(std::uint32_t frame, const std::uint8_t* bytes, std::uint32_t size) override {
-        if (messages.size() >= room)
+        if (messages.size() >= room || size > longest)
             return false;
         messages.push_back({frame, {bytes, bytes + size}});
         return true;
@@ -36,4 +36,5 @@ public:
 
     std::vector<RecordedMessage> messages;
     std::size_t room = 1000;
+    std::size_t longest = 100000; ///< Bytes.
 };

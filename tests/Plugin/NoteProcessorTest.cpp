@@ -166,6 +166,71 @@ TEST_F(NoteProcessorTest, BypassEndsWhatSoundsAndPassesTheRest) {
     EXPECT_THAT(take(), ElementsAre(Message{3, {0x90, 50, 100}}, Message{3, {0x80, 50, 0}}));
 }
 
+TEST_F(NoteProcessorTest, BypassPassesEverythingAsItCame) {
+    begin({.harmony = {.chord = Chord::major}, .strum = 0.01, .chance = 0, .hold = true, .enabled = false});
+    const Bytes messages[] = {{0x90, 60, 100}, {0x90, 60, 90}, {0x90, 60, 0}, {0x80, 60, 3},
+                              {0x80, 61, 3},   {0xA0, 62, 7},  {0xA0, 60, 7}, {0x90, 200},
+                              {0xB0, 123, 0},  {0xF0, 1, 0xF7}};
+    std::vector<Message> expected;
+    for (const Bytes& bytes : messages) {
+        send(4, bytes);
+        expected.push_back({4, bytes});
+    }
+    endBlock(100);
+    EXPECT_EQ(take(), expected);
+}
+
+TEST_F(NoteProcessorTest, EndsAndPressureOfUnknownNotesPass) {
+    begin({.harmony = {.transpose = 5, .chord = Chord::fifth}});
+    send(0, {0x81, 60, 9});
+    send(1, {0x91, 61, 0});
+    send(2, {0xA1, 60, 9});
+    EXPECT_THAT(take(),
+                ElementsAre(Message{0, {0x81, 60, 9}}, Message{1, {0x91, 61, 0}}, Message{2, {0xA1, 60, 9}}));
+    send(3, {0x90, 60, 100}); // 65 and 72
+    take();
+    send(4, {0x80, 72, 9});
+    EXPECT_THAT(take(), IsEmpty()) << "the chord's note is another key's";
+    send(5, {0x80, 60, 9});
+    take();
+    send(6, {0x80, 60, 8});
+    EXPECT_THAT(take(), ElementsAre(Message{6, {0x80, 60, 8}})) << "once more";
+}
+
+TEST_F(NoteProcessorTest, WhatFindsNoRoomWaitsInItsOrder) {
+    const Bytes waiting[] = {
+        {0xB0, 64, 0}, {0xF0, 1, 2, 3, 4, 0xF7}, {0xE0, 0, 64}, {0x80, 60, 5}, {0xC0, 3}};
+    send(0, {0x90, 60, 100});
+    m_recorder.room = 1;
+    for (const Bytes& bytes : waiting)
+        send(1, bytes);
+    send(1, {0x90, 62, 100}); // lost: it would be late
+    EXPECT_EQ(take().size(), 1U);
+    m_recorder.room = 2;
+    std::vector<Message> heard;
+    for (int block = 0; block < 3; ++block) {
+        begin({});
+        for (const Message& message : take())
+            heard.push_back(message);
+    }
+    std::vector<Message> expected;
+    for (const Bytes& bytes : waiting)
+        expected.push_back({0, bytes});
+    EXPECT_EQ(heard, expected);
+}
+
+TEST_F(NoteProcessorTest, AMessageThatNeverFitsHoldsNothingUp) {
+    Bytes tooLong(2000, 1);
+    tooLong.front() = 0xF0;
+    tooLong.back() = 0xF7;
+    m_recorder.longest = 1000;
+    send(0, tooLong);
+    send(1, {0xB0, 64, 0});
+    for (int block = 0; block < 10; ++block)
+        begin({});
+    EXPECT_THAT(take(), ElementsAre(Message{0, {0xB0, 64, 0}}));
+}
+
 TEST_F(NoteProcessorTest, RestartEndsWhatSounds) {
     send(0, {0x9F, 60, 100});
     take();
@@ -195,7 +260,7 @@ TEST_F(NoteProcessorTest, NoteOffThatFindsNoRoomComesWithTheNextBlock) {
     begin({});
     m_recorder.room = 1;
     begin({});
-    EXPECT_THAT(take(), ElementsAre(Message{0, {0x80, 60, 64}}));
+    EXPECT_THAT(take(), ElementsAre(Message{0, {0x80, 60, 0}}));
 }
 
 TEST_F(NoteProcessorTest, MalformedMessagesAreDropped) {

@@ -73,7 +73,7 @@ protected:
     }
 
     LV2_URID_Map m_map{nullptr, mapUri};
-    NoteloftPlugin m_plugin{48000, m_map};
+    NoteloftPlugin m_plugin{48000, m_map, 1};
     SequenceBuffer m_input;
     SequenceBuffer m_output;
     std::array<float, Ports::count> m_controls{};
@@ -129,7 +129,7 @@ TEST_F(NoteloftPluginTest, RespectsTheRoomInTheOutput) {
     add(0, {0x80, 60, 0});
     m_output.sequence()->body = {};
     EXPECT_TRUE(run(64, sizeof(LV2_Atom_Sequence_Body)).empty());
-    EXPECT_EQ(run(64), (Messages{{0, 0x80, 60, 64}}));
+    EXPECT_EQ(run(64), (Messages{{0, 0x80, 60, 0}}));
 }
 
 TEST_F(NoteloftPluginTest, EmptyBlockSendsNothingOfItsOwn) {

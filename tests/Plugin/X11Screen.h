@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 /// The X server as a host and a person use it.
@@ -41,6 +42,15 @@ public:
             xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr);
         free(reply);
         return reply != nullptr;
+    }
+
+    /// Its width and height in pixels.
+    std::pair<int, int> size(std::uint32_t window) {
+        auto* const reply =
+            xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr);
+        const std::pair<int, int> size{reply->width, reply->height};
+        free(reply);
+        return size;
     }
 
     /// The picture of a window and of what lies in it, from its top.

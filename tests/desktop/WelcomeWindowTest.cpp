@@ -6,30 +6,16 @@
 #include "Platform/Windows/HiddenTitleBarWindow.h"
 #include "VantorShaders/MetalShaderRenderer.h"
 #include "tests/desktop/Desktop.h"
+#include "tests/support/Browser.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QMenu>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-/// Gets the links that the window opens in place of the browser.
-class Browser : public QObject {
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
-
-    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
-
-    Q_INVOKABLE void open(const QUrl& url) { opened << url.toString(); }
-
-    QStringList opened;
-};
 
 class WelcomeWindowTest : public testing::Test {
 protected:
@@ -115,7 +101,7 @@ TEST_F(WelcomeWindowTest, EverythingCanBeDoneByKeyboard) {
     m_desktop.press(Key::tab);
     m_desktop.press(Key::enter);
     EXPECT_TRUE(Desktop::waitUntil([this] { return m_browser.opened.size() == 2; }));
-    EXPECT_EQ(m_browser.opened.value(0), noteloft::ContentView::helpURL().toString());
+    EXPECT_EQ(m_browser.opened.value(0), noteloft::ContentView::helpURL());
     m_desktop.press(Key::f1);
     EXPECT_TRUE(Desktop::waitUntil([this] { return m_browser.opened.size() == 3; }));
     EXPECT_EQ(m_browser.opened.value(2), m_browser.opened.value(0));
@@ -201,5 +187,3 @@ TEST_F(WelcomeWindowTest, ButtonsOfTheWindowAppearWithThePointerAndWork) {
     m_desktop.click(inWindow(400 - 8 - 12, 20));
     EXPECT_TRUE(Desktop::waitUntil([this] { return !window().isVisible(); }));
 }
-
-#include "WelcomeWindowTest.moc"

@@ -3,13 +3,14 @@
 #include "Platform/Core/Bundle.h"
 #include "Platform/Core/CodeLocation.h"
 #include "Platform/Updates/Appcast.h"
+#include "Platform/Updates/KnownUpdate.h"
 #include "Platform/Updates/SPUStandardUpdaterController.h"
 #include "Platform/Updates/SPUStandardUserDriverDelegate.h"
 #include "Platform/Updates/SPUUpdaterDelegate.h"
+#include "tests/support/Browser.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
@@ -23,6 +24,7 @@
 #include <gtest/gtest.h>
 
 using platform::Bundle;
+using platform::KnownUpdate;
 using platform::SPUStandardUpdaterController;
 
 namespace {
@@ -37,17 +39,6 @@ public:
 
     QString url;
     QString announced;
-};
-
-class UrlRecorder : public QObject {
-    Q_OBJECT
-
-public:
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-
-    void open(const QUrl& url) { opened.append(url); }
 };
 
 QByteArray feed(const QByteArray& version, const QByteArray& more = {}) {
@@ -88,11 +79,9 @@ protected:
         EXPECT_TRUE(information.open(QIODevice::WriteOnly));
         information.write(R"({"name": "Noteloft", "version": "1.10", "build": "10"})");
         Bundle::setMainDirectory(m_root.path());
-        QDesktopServices::setUrlHandler(QStringLiteral("https"), &m_browser, "open");
     }
 
     ~UpdaterTest() override {
-        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
         QSslConfiguration::setDefaultConfiguration(m_sslConfiguration);
         Bundle::setMainDirectory(QFileInfo(platform::programPath()).absolutePath());
     }
@@ -122,7 +111,7 @@ protected:
     QTemporaryDir m_root;
     const QSslConfiguration m_sslConfiguration = QSslConfiguration::defaultConfiguration();
     FeedServer m_server;
-    UrlRecorder m_browser;
+    Browser m_browser;
     Delegate m_delegate;
     SPUStandardUpdaterController m_controller{false, &m_delegate, &m_delegate};
 };
@@ -138,6 +127,9 @@ TEST_F(UpdaterTest, NewerVersionIsOfferedWithItsLinks) {
     EXPECT_EQ(shownDialog()->informativeText(),
               QStringLiteral("Noteloft 1.11 is now available; you have 1.10. Would you like to get it now?"));
     EXPECT_EQ(m_delegate.announced, QStringLiteral("11"));
+    EXPECT_EQ(KnownUpdate::versionAbove(QStringLiteral("1.10")), QStringLiteral("1.11"))
+        << "for other programs";
+    EXPECT_EQ(KnownUpdate::versionAbove(QStringLiteral("1.11")), QString());
     ASSERT_NE(button(u"Download…"), nullptr);
     ASSERT_NE(button(u"Learn More…"), nullptr);
     button(u"Download…")->click();
@@ -176,6 +168,7 @@ TEST_F(UpdaterTest, EqualAndOlderVersionsAreUpToDate) {
     EXPECT_EQ(check(feed("10.0", enclosure)), upToDate);
     EXPECT_EQ(shownDialog()->informativeText(),
               QStringLiteral("Noteloft 1.10 is currently the newest version available."));
+    EXPECT_EQ(KnownUpdate::versionAbove(QStringLiteral("0")), QString());
     shownDialog()->close();
     EXPECT_EQ(check(feed("9", enclosure)), upToDate);
 }
@@ -300,5 +293,3 @@ TEST_F(UpdaterTest, DamagedFeedIsAnError) {
     EXPECT_EQ(check(feed("11", enclosure).chopped(1)),
               "The update information cannot be used: line 1 of the feed is damaged.");
 }
-
-#include "UpdaterTest.moc"
