@@ -140,10 +140,6 @@ void GpuView::timerEvent(QTimerEvent* event) {
     repaint(); // at once: an update would wake the loop a second time
 }
 
-void GpuView::resizeEvent(QResizeEvent*) {
-    m_frameDue = true;
-}
-
 void GpuView::showEvent(QShowEvent*) {
     m_frameDue = true;
     updateTimer();

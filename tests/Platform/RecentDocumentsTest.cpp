@@ -2,6 +2,7 @@
 
 #include "Platform/Core/Action.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -55,6 +56,12 @@ TEST_F(RecentDocumentsTest, SurviveARestart) {
     EXPECT_EQ(next.urls().back().fileName(), QStringLiteral("Grüße, 100 % & #1.mid"));
     m_documents.clear();
     EXPECT_TRUE(next.urls().isEmpty()) << "another instance sees the change";
+    QFile file(m_folder.filePath(QStringLiteral("settings.ini")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[RecentDocuments]\nurls=file:///music/other.mid\n");
+    file.close();
+    EXPECT_EQ(m_documents.urls(), QList{document(QStringLiteral("other.mid"))})
+        << "so does another process's";
 }
 
 TEST_F(RecentDocumentsTest, BadSettingsLoseNothingElse) {

@@ -77,6 +77,10 @@ TEST(PassthroughSubject, EndsOnceForEverybody) {
     subject->send(Completion{});
     subject->send(1);
     EXPECT_EQ(early->completions, 1);
+    bool hasFailed = false;
+    const auto token =
+        subject->sink([](int) {}, [&](const Completion& end) { hasFailed = !end.isFinished(); });
+    EXPECT_TRUE(hasFailed) << "who comes late hears the first end";
     EXPECT_EQ(gone->completions, 0);
     EXPECT_TRUE(early->values.empty());
 
