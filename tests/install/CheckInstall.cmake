@@ -2,8 +2,12 @@
 # BUILD, SOURCE, STAGE, CONFIG
 file(REMOVE_RECURSE "${STAGE}")
 
+# From a folder with something in it that has the program's name.
+set(elsewhere "${STAGE}/elsewhere")
+file(MAKE_DIRECTORY "${elsewhere}/noteloft")
+
 function(run)
-  execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  execute_process(COMMAND ${ARGV} WORKING_DIRECTORY "${elsewhere}" RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT result EQUAL 0)
     message(FATAL_ERROR "${ARGV}\nfailed (${result}):\n${output}")
   endif()
@@ -23,10 +27,14 @@ foreach(file
   endif()
 endforeach()
 
-# The installed application starts from its own prefix.
+# The installed programs start by name, from their own prefix.
 set(ENV{QT_QPA_PLATFORM} offscreen)
 set(ENV{XDG_RUNTIME_DIR} "${STAGE}")
-run("${STAGE}/prefix/bin/noteloft" --screenshot "${STAGE}/window.png")
+set(path "$ENV{PATH}")
+set(ENV{PATH} "${STAGE}/prefix/bin:${path}")
+run(noteloft --screenshot "${STAGE}/window.png")
+run(noteloft-validate aumi mdfx Quil)
+set(ENV{PATH} "${path}")
 
 # Another project builds with the installed modules, and its program finds their bundles.
 run(${CMAKE_COMMAND} -S "${SOURCE}/tests/install/consumer" -B "${STAGE}/consumer" -G Ninja
