@@ -48,6 +48,7 @@ TEST(ParameterText, ShownInTheUsersLocaleAndEditedInC) {
     EXPECT_EQ(chorale::editingText(*level, 2), QStringLiteral("12.60"));
     EXPECT_EQ(chorale::displayText(*level, 1), QStringLiteral("12,6"));
     QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(chorale::numberText(-0.3, 0, german), QStringLiteral("0")) << "no minus before nothing";
 }
 
 TEST(ParameterText, TypedValuesAreScaledAndClamped) {

@@ -334,8 +334,14 @@ TEST(StyleSet, MayChangeTheSizeOfWhatItIsGivenTo) {
     large->setFont(font);
     const auto set = std::make_shared<StyleSet>();
     set->set<ButtonCellStyle>(large);
-    StyleSet::apply(*button, set);
-    EXPECT_EQ(layout.sizeHint(), button->sizeHint() + margins);
+    const QSize usual = layout.sizeHint();
+    for (QWidget* const root : std::initializer_list<QWidget*>{button, &window}) {
+        StyleSet::apply(*root, set);
+        EXPECT_EQ(layout.sizeHint(), button->sizeHint() + margins);
+        EXPECT_NE(layout.sizeHint(), usual);
+        StyleSet::apply(*root, nullptr);
+        EXPECT_EQ(layout.sizeHint(), usual);
+    }
 }
 
 TEST(StyledButtonStyle, AccessorsThatAMakerOverridesReachTheScreen) {
