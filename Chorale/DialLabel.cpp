@@ -218,7 +218,7 @@ void DialLabel::startEditing() {
     if (m_isEditing)
         return;
     m_isEditing = true;
-    m_hadFocus = hasFocus();
+    m_hadFocus = window()->focusWidget() == this; // also while the window counts as inactive
     m_field->show();
     m_field->setFocus(Qt::OtherFocusReason);
     m_field->selectAll();

@@ -112,7 +112,7 @@ void ParameterHoldButton::mouseReleaseEvent(QMouseEvent* event) {
 void ParameterHoldButton::keyPressEvent(QKeyEvent* event) {
     if (!holds(*event))
         QWidget::keyPressEvent(event);
-    else if (!event->isAutoRepeat()) {
+    else if (!event->isAutoRepeat() && !m_isKeyDown) { // a host may pass repeats on as presses
         begin();
         m_isKeyDown = true;
     }

@@ -5,6 +5,8 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <utility>
+
 namespace platform {
 
 void BaseButton::nextCheckState() {
@@ -15,8 +17,19 @@ void BaseButton::nextCheckState() {
 void BaseButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QAbstractButton::keyPressEvent(event);
-    else if (!event->isAutoRepeat())
+    else if (!event->isAutoRepeat() && !std::exchange(m_isReturnHeld, true))
         animateClick();
+}
+
+void BaseButton::keyReleaseEvent(QKeyEvent* event) {
+    QAbstractButton::keyReleaseEvent(event);
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
+        m_isReturnHeld = false;
+}
+
+void BaseButton::focusOutEvent(QFocusEvent* event) {
+    m_isReturnHeld = false; // its release goes to whoever has the keyboard now
+    QAbstractButton::focusOutEvent(event);
 }
 
 void BaseButton::hideEvent(QHideEvent* event) {

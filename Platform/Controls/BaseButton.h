@@ -18,11 +18,14 @@ protected:
 
     void nextCheckState() override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
 private:
     bool m_isPressOver = false;
+    bool m_isReturnHeld = false; // some hosts of plug-ins pass repeats on as presses
 };
 
 } // namespace platform

@@ -12,23 +12,26 @@ bool isSandboxed() {
     return QFile::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
 }
 
-/// The default application for pages, as `xdg-open` finds it.
-bool hasDefaultApplication(const QString& query) {
+} // namespace
+
+bool hasHandler(const QString& scheme) {
+    const QString query = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (isSandboxed() || query.isEmpty())
+        return true;
     QProcess process;
-    process.start(query, {QStringLiteral("query"), QStringLiteral("default"),
-                          QStringLiteral("x-scheme-handler/https")});
+    process.start(query, {QStringLiteral("query"), QStringLiteral("default"), u"x-scheme-handler/" + scheme});
     constexpr int patience = 2000;
     return !process.waitForFinished(patience) || !process.readAllStandardOutput().trimmed().isEmpty();
 }
 
-} // namespace
-
 bool hasBrowser() {
-    if (isSandboxed() || qEnvironmentVariableIsSet("BROWSER") ||
-        !QStandardPaths::findExecutable(QStringLiteral("x-www-browser")).isEmpty())
-        return true;
-    const QString query = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
-    return query.isEmpty() || hasDefaultApplication(query);
+    return qEnvironmentVariableIsSet("BROWSER") ||
+           !QStandardPaths::findExecutable(QStringLiteral("x-www-browser")).isEmpty() ||
+           hasHandler(QStringLiteral("https"));
+}
+
+bool startHandler(const QString& address) {
+    return QProcess::startDetached(QStringLiteral("xdg-open"), {address});
 }
 
 } // namespace platform

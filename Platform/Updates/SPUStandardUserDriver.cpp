@@ -36,7 +36,6 @@ QMessageBox& SPUStandardUserDriver::replaceDialog(const QString& text, const QSt
     m_dialog = makeAlert(text, information);
     m_dialog->setWindowTitle(QStringLiteral("Software Update"));
     m_dialog->setAttribute(Qt::WA_ShowWithoutActivating, isElsewhere);
-    m_dialog->setWindowModality(Qt::NonModal);
     return *m_dialog;
 }
 

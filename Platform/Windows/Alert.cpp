@@ -35,6 +35,7 @@ QMessageBox* makeAlert(const QString& message, const QString& informativeText, Q
     auto* const alert = new QMessageBox(QMessageBox::NoIcon, QApplication::applicationDisplayName(), message,
                                         {}, parent != nullptr ? parent : frontWindow());
     alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setWindowModality(Qt::NonModal);
     alert->setInformativeText(informativeText);
     // Texts may come from elsewhere, and markup in them is not ours to follow. The box's own text format does
     // not reach its informative text.

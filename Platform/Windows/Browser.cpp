@@ -14,8 +14,7 @@ namespace platform {
 
 namespace {
 
-void showAddress(const QUrl& url, QWidget* view) {
-    const QString address = url.toString();
+void showAddress(const QString& address, QWidget* view) {
     QMessageBox& alert = *makeAlert(QMessageBox::tr("There is no program to open this address."), address,
                                     view != nullptr ? view->window() : nullptr);
     const auto* const copy = alert.addButton(QMessageBox::tr("Copy Address"), QMessageBox::AcceptRole);
@@ -30,9 +29,14 @@ void showAddress(const QUrl& url, QWidget* view) {
 void openInBrowser(const QUrl& url, QWidget* view) {
     requireMainThread();
     // A desktop's opener says that it was started, not whether it found a browser.
-    const bool isPage = url.scheme().startsWith(QStringLiteral("http"));
-    if ((isPage && !hasBrowser()) || !QDesktopServices::openUrl(url))
-        showAddress(url, view);
+    if (!hasBrowser() || !QDesktopServices::openUrl(url))
+        showAddress(url.toString(), view);
+}
+
+void openInProgram(const QString& address, QWidget* view) {
+    requireMainThread();
+    if (!hasHandler(address.section(u':', 0, 0)) || !startHandler(address))
+        showAddress(address, view);
 }
 
 } // namespace platform

@@ -26,6 +26,11 @@ EmbeddedEditor::~EmbeddedEditor() {
     m_view.windowHandle()->setParent(nullptr);
 }
 
+void EmbeddedEditor::idle() {
+    followScale();
+    m_keyboard->look();
+}
+
 void EmbeddedEditor::followScale() {
     const qreal pixels = m_view.devicePixelRatioF();
     const qreal shown = scale() / pixels;

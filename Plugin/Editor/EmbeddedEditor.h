@@ -35,6 +35,9 @@ public:
 
     void setScale(qreal scale) { m_scale = scale; }
 
+    /// What is to be done at each idle call of the host.
+    void idle();
+
     /// Fits the view to the scales of the host and of the desktop, either of which may change at any time.
     void followScale();
 

@@ -52,7 +52,8 @@ MenuButton::MenuButton()
     add(tr("News"), chorale::MakerLinks::socialProfile());
     add(tr("Contact"), chorale::MakerLinks::contactPage());
     m_menu->addItem(platform::MenuItem::separator());
-    add(tr("Check for Updates…"), QUrl(QStringLiteral("noteloft://openAndUpdate")));
+    connect(&m_menu->addItem(tr("Check for Updates…")), &QAction::triggered, this,
+            [this] { platform::openInProgram(QStringLiteral("noteloft://openAndUpdate"), this); });
     connect(this, &QAbstractButton::clicked, this,
             [this] { platform::popUp(*m_menu, nullptr, rect().bottomLeft(), *this); });
 }

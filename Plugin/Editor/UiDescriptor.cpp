@@ -116,7 +116,7 @@ void receive(LV2UI_Handle handle, std::uint32_t port, std::uint32_t size, std::u
 
 const LV2UI_Idle_Interface idle = {[](LV2UI_Handle handle) {
     QtSession::pump();
-    instance(handle).editor.followScale();
+    instance(handle).editor.idle();
     return 0;
 }};
 

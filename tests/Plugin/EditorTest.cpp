@@ -69,6 +69,8 @@ protected:
 
 // Codes of keys on every Xvfb.
 constexpr std::uint8_t escapeKey = 9;
+constexpr std::uint8_t tabKey = 23;
+constexpr int tabsToHold = 12;
 constexpr std::uint8_t sevenKey = 16;
 constexpr std::uint8_t returnKey = 36;
 
@@ -163,6 +165,47 @@ TEST_F(EditorTest, BorrowsTheKeyboardOnlyWhileAValueIsTyped) {
     click(host, dialX, valueY);
     type(host, {sevenKey, sevenKey, escapeKey});
     EXPECT_THAT(host.take(), IsEmpty());
+    EXPECT_EQ(m_screen.focus(), host.window());
+}
+
+TEST_F(EditorTest, KeysThatAHostPassesOnEndWithItsWindow) {
+    const std::uint32_t other = m_screen.makeWindow(400);
+    EditorHost host(m_screen);
+    host.idle(20);
+    const auto pass = [&](std::uint8_t key, bool isPress) {
+        m_screen.passOn(host.editorWindow(), key, isPress);
+        host.idle(3);
+    };
+    for (int round = 0; round < 2; ++round) {
+        m_screen.setFocus(host.window());
+        m_screen.activate(host.editorWindow());
+        host.idle();
+        for (int tab = 0; round == 0 && tab < tabsToHold; ++tab) {
+            pass(tabKey, true);
+            pass(tabKey, false);
+        }
+        for (int repeat = 0; repeat < 3; ++repeat)
+            pass(returnKey, true);
+        EXPECT_THAT(host.take(), ElementsAre("touch 5", "5=1")) << "a repeat is no other press";
+        m_screen.setFocus(other);
+        host.idle();
+        EXPECT_THAT(host.take(), ElementsAre("5=0", "release 5"));
+        pass(returnKey, false);
+        host.idle();
+        EXPECT_THAT(host.take(), IsEmpty());
+    }
+    m_screen.destroyWindow(other);
+}
+
+TEST_F(EditorTest, AClickInTheHostClosesAFieldThoughTheKeyboardStays) {
+    EditorHost host(m_screen);
+    host.idle(20);
+    m_screen.setFocus(host.window());
+    const auto closed = m_screen.picture(host.window(), editorHeight);
+    click(host, dialX, valueY);
+    EXPECT_NE(m_screen.picture(host.window(), editorHeight), closed);
+    click(host, dialX, editorHeight + 40);
+    EXPECT_EQ(m_screen.picture(host.window(), editorHeight), closed);
     EXPECT_EQ(m_screen.focus(), host.window());
 }
 

@@ -15,6 +15,8 @@
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -137,12 +139,28 @@ TEST_F(EditorViewTest, TheMenuLeadsToTheMakersPagesAndToTheUpdates) {
     m_view.findChild<MenuButton*>()->click();
     auto* const menu = qobject_cast<platform::Menu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
+    // What the desktop starts for other addresses: it writes down what it is given.
+    const QTemporaryDir folder;
+    const auto script = [&](const char* name, const QByteArray& line) {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\n" + line + '\n');
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    };
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", folder.path().toUtf8() + ':' + path);
+    script("xdg-mime", "echo \"$3.desktop\"");
+    QFile opened(folder.filePath(QStringLiteral("opened")));
+    script("xdg-open", "echo \"$1\" > " + opened.fileName().toUtf8());
     for (platform::MenuItem* const item : menu->items())
         item->trigger();
     EXPECT_THAT(browser.opened,
                 ElementsAre(chorale::MakerLinks::website(), chorale::MakerLinks::socialProfile(),
-                            chorale::MakerLinks::contactPage(),
-                            QUrl(QStringLiteral("noteloft://openAndUpdate"))));
+                            chorale::MakerLinks::contactPage()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return opened.exists() && opened.size() > 10; }));
+    EXPECT_TRUE(opened.open(QIODevice::ReadOnly));
+    EXPECT_EQ(opened.readAll(), "noteloft://openAndUpdate\n") << "the application takes no other letters";
+    qputenv("PATH", path);
     menu->close();
 }
 

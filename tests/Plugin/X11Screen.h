@@ -83,6 +83,36 @@ public:
         send(XCB_KEY_RELEASE, code);
     }
 
+    /// A key as a host passes it on whose own window keeps the keyboard.
+    void passOn(std::uint32_t window, std::uint8_t code, bool isPress) {
+        xcb_key_press_event_t event{};
+        event.response_type = isPress ? XCB_KEY_PRESS : XCB_KEY_RELEASE;
+        event.detail = code;
+        event.root = m_screen->root;
+        event.event = window;
+        event.same_screen = 1;
+        event.time = ++m_time;
+        sendTo(window, &event);
+    }
+
+    /// Says to an embedded window that the keys are its own now (XEmbed, version 0).
+    void activate(std::uint32_t window) {
+        constexpr std::uint32_t windowActivate = 1;
+        constexpr std::uint32_t focusIn = 4;
+        const auto cookie = xcb_intern_atom(m_connection, 0, 7, "_XEMBED");
+        auto* const reply = xcb_intern_atom_reply(m_connection, cookie, nullptr);
+        for (const std::uint32_t message : {windowActivate, focusIn}) {
+            xcb_client_message_event_t event{};
+            event.response_type = XCB_CLIENT_MESSAGE;
+            event.format = 32;
+            event.window = window;
+            event.type = reply->atom;
+            event.data.data32[1] = message;
+            sendTo(window, &event);
+        }
+        free(reply);
+    }
+
     void movePointer(std::int16_t x, std::int16_t y) { send(XCB_MOTION_NOTIFY, 0, x, y); }
 
     void press() { send(XCB_BUTTON_PRESS, 1); }
@@ -97,6 +127,11 @@ private:
         flush();
     }
 
+    void sendTo(std::uint32_t window, const void* event) {
+        xcb_send_event(m_connection, 0, window, XCB_EVENT_MASK_NO_EVENT, static_cast<const char*>(event));
+        flush();
+    }
+
     /// Returns when the server has done it.
     void flush() {
         free(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
@@ -104,4 +139,5 @@ private:
 
     xcb_connection_t* m_connection;
     const xcb_screen_t* m_screen = nullptr;
+    std::uint32_t m_time = 1;
 };
