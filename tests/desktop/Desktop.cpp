@@ -18,7 +18,7 @@ using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
 Desktop::Desktop() : m_connection(xcb_connect(nullptr, nullptr)) {
     m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(m_connection, m_root, XCB_CW_EVENT_MASK, &mask);
     // A window manager that is still starting can take a request and then sleep on it until the next event.
     const std::uint32_t probe = xcb_generate_id(m_connection);
@@ -182,7 +182,7 @@ std::uint32_t Desktop::time() {
     return XCB_CURRENT_TIME;
 }
 
-QByteArray Desktop::startupMessages() {
+QByteArray Desktop::messages() {
     QByteArray messages;
     while (auto* const event = xcb_poll_for_event(m_connection)) {
         const auto* const message = reinterpret_cast<const xcb_client_message_event_t*>(event);
@@ -213,7 +213,7 @@ void Desktop::requestFrameExtents(std::uint32_t window) {
 }
 
 bool Desktop::waitUntil(const std::function<bool()>& condition) {
-    return QTest::qWaitFor(condition, 5000);
+    return QTest::qWaitFor(condition, 15'000);
 }
 
 void Desktop::wait(int milliseconds) {

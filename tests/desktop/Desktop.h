@@ -66,13 +66,14 @@ public:
     /// The time of the screen's server, in milliseconds.
     std::uint32_t time();
 
-    /// The messages about starting programs that were sent to all since the last call.
-    QByteArray startupMessages();
+    /// What programs have told the desktop and asked it for since the last call: the contents of the
+    /// messages.
+    QByteArray messages();
 
     /// Asks the window manager to resize the window, as a person's tool would.
     void requestSize(std::uint32_t window, QSize size);
 
-    /// Turns the event loop until `condition` holds; false after five seconds.
+    /// Turns the event loop until `condition` holds; false after fifteen seconds.
     static bool waitUntil(const std::function<bool()>& condition);
 
     /// Turns the event loop.
