@@ -252,7 +252,8 @@ TEST_F(PopUpButtonTest, ThePullDownsTitleIsItsFirstItemWhicheverThatIs) {
     m_pullDown.menu()->removeAction(m_pullDown.itemArray().front());
     m_pullDown.menu()->removeAction(m_pullDown.itemArray().front());
     EXPECT_EQ(m_pullDown.title(), QStringLiteral("Remove"));
-    m_pullDown.menu()->insertAction(m_pullDown.itemArray().front(), new MenuItem(QStringLiteral("New")));
+    MenuItem added(QStringLiteral("New"));
+    m_pullDown.menu()->insertAction(m_pullDown.itemArray().front(), &added);
     EXPECT_EQ(shown(), QString()) << "what its owner has hidden stays so";
 }
 

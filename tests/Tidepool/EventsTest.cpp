@@ -71,6 +71,7 @@ TEST(ReceiveOnMainThread, CancelDropsWhatIsOnItsWay) {
     QTest::qWait(20);
     EXPECT_EQ(recorder->values, 1);
     EXPECT_EQ(recorder->ends, 0);
+    recorder->subscription.reset(); // which holds the recorder
 }
 
 TEST(UIEventThrottler, RunsTheLastOfABurstAndGoesOnUntilCancelled) {
