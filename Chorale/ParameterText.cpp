@@ -64,7 +64,7 @@ QString hostText(std::optional<float> value, const std::optional<QStringList>& v
 }
 
 QString numberText(double number, int decimalPlaces, const QLocale& locale) {
-    const double rounded = plainText(number, decimalPlaces).toDouble() + 0.0; // minus zero becomes zero
+    const double rounded = plainText(number, decimalPlaces).toDouble(); // which has no minus before nothing
     return locale.toString(rounded, 'f', decimalPlaces);
 }
 
