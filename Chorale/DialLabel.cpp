@@ -140,7 +140,7 @@ void DialLabel::paintEvent(QPaintEvent*) {
         paintValue(painter);
     constexpr qreal radius = 4;
     if (hasFocus() && isActiveWindow())
-        platform::paintFocusRing(painter, QRectF(rect()), radius);
+        platform::paintFocusRing(painter, fieldFrame(), radius); // clear of the name
 }
 
 void DialLabel::paintName(QPainter& painter) const {
