@@ -1,9 +1,9 @@
 #include "Chorale/AudioParameter.h"
 
-#include "Platform/AudioUnits/DisplayPump.h"
-#include "Platform/AudioUnits/DisplayQueue.h"
 #include "Platform/Core/MainThread.h"
 #include "Platform/Core/MainThreadShared.h"
+#include "Platform/Display/DisplayPump.h"
+#include "Platform/Display/DisplayQueue.h"
 
 #include <utility>
 

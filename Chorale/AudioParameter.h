@@ -4,9 +4,9 @@
 #include "Chorale/ParameterEditor.h"
 #include "Chorale/ParameterEditorState.h"
 #include "Platform/AudioUnits/AUParameterTree.h"
-#include "Platform/AudioUnits/DisplayTarget.h"
 #include "Platform/Core/CacheLine.h"
 #include "Platform/Core/MainThreadShared.h"
+#include "Platform/Display/DisplayTarget.h"
 
 #include <QBindable>
 #include <QObject>

@@ -4,7 +4,7 @@
 #include "Chorale/ParameterAccessibility.h"
 #include "Chorale/ParameterSteps.h"
 
-#include "Platform/AudioUnits/DisplayPump.h"
+#include "Platform/Display/DisplayPump.h"
 
 #include <QAccessible>
 #include <QWidget>

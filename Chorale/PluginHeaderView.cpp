@@ -8,7 +8,7 @@
 #include "Chorale/TabButton.h"
 #include "Chorale/UpdateButtonStyle.h"
 #include "Chorale/ViewScale.h"
-#include "Platform/AudioUnits/DisplayPump.h"
+#include "Platform/Display/DisplayPump.h"
 #include "Platform/Windows/Browser.h"
 
 #include <QGridLayout>

@@ -1,10 +1,10 @@
 #include "Gallery/StyleSet.h"
 
 #include "Gallery/Layout/Text.h"
-#include "Tidepool/CheckBoxCellStyle.h"
-#include "Tidepool/ControlAssets.h"
-#include "Tidepool/KitStyles.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Palette/TPColors.h"
+#include "Tidepool/Styles/CheckBoxCellStyle.h"
+#include "Tidepool/Styles/KitStyles.h"
 
 #include <QApplication>
 #include <QPalette>

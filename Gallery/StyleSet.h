@@ -2,7 +2,7 @@
 
 #include "Gallery/GallerySettings.h"
 
-#include "Tidepool/StyleSet.h"
+#include "Tidepool/Styles/StyleSet.h"
 
 #include <QColor>
 

@@ -1,8 +1,8 @@
 #include "Noteloft/DefaultVantorButtonStyle.h"
 
 #include "Platform/Graphics/SystemFont.h"
-#include "Tidepool/TPColors.h"
-#include "Tidepool/TPImages.h"
+#include "Tidepool/Palette/TPColors.h"
+#include "Tidepool/Palette/TPImages.h"
 
 namespace noteloft {
 

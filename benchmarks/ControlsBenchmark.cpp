@@ -1,7 +1,7 @@
 // What it costs to paint a window full of push buttons, beside Qt's own and beside copying the pixels.
 #include "Platform/Core/Bundle.h"
 #include "Platform/Graphics/SystemFont.h"
-#include "Tidepool/StyledButton.h"
+#include "Tidepool/Buttons/StyledButton.h"
 #include "tests/support/AllocationCounter.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "Gallery/Layout/StateGrid.h"
 #include "Gallery/Layout/Text.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QLabel>
 #include <QPainter>

@@ -4,7 +4,7 @@
 #include "Gallery/Layout/LiveRow.h"
 #include "Gallery/Layout/PageBody.h"
 #include "Gallery/Layout/Section.h"
-#include "Tidepool/FavouriteCheckBox.h"
+#include "Tidepool/Buttons/FavouriteCheckBox.h"
 
 namespace gallery {
 

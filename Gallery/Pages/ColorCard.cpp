@@ -3,7 +3,7 @@
 #include "Gallery/Layout/Text.h"
 #include "Gallery/Pages/Contrast.h"
 #include "Platform/Graphics/SystemFont.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -4,7 +4,7 @@
 #include "Gallery/Pages/Contrast.h"
 #include "Gallery/Pages/KitAssets.h"
 #include "Platform/Graphics/SystemFont.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tidepool/RecentDocumentsMenuDelegate.h"
+#include "Tidepool/Menus/RecentDocumentsMenuDelegate.h"
 
 #include <QTemporaryDir>
 

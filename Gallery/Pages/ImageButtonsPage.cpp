@@ -5,11 +5,11 @@
 #include "Gallery/Layout/PageBody.h"
 #include "Gallery/Layout/Section.h"
 #include "Platform/Controls/PopUpButton.h"
-#include "Tidepool/ClickableImageView.h"
-#include "Tidepool/ControlAssets.h"
-#include "Tidepool/DarkHighlightButton.h"
-#include "Tidepool/PopUpCyclingButton.h"
-#include "Tidepool/TPImages.h"
+#include "Tidepool/Buttons/DarkHighlightButton.h"
+#include "Tidepool/Buttons/PopUpCyclingButton.h"
+#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Palette/TPImages.h"
+#include "Tidepool/Views/ClickableImageView.h"
 
 namespace gallery {
 

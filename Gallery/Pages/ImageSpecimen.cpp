@@ -2,7 +2,7 @@
 
 #include "Gallery/Layout/Text.h"
 #include "Platform/Graphics/SystemFont.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QPainter>
 #include <QStyle>

@@ -2,7 +2,7 @@
 
 #include "Platform/Core/Bundle.h"
 #include "Platform/Graphics/AssetCatalog.h"
-#include "Tidepool/resource_bundle_accessor.h"
+#include "Tidepool/Palette/resource_bundle_accessor.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -8,9 +8,9 @@
 #include "Gallery/Pages/NoteLength.h"
 #include "Gallery/Pages/OpenMenus.h"
 #include "Platform/Publishing/PassthroughSubject.h"
-#include "Tidepool/PopUpButtonPresentable.h"
-#include "Tidepool/StyledButton.h"
-#include "Tidepool/TPMenuItem.h"
+#include "Tidepool/Buttons/StyledButton.h"
+#include "Tidepool/Menus/PopUpButtonPresentable.h"
+#include "Tidepool/Menus/TPMenuItem.h"
 
 namespace gallery {
 

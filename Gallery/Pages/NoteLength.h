@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Tidepool/EnumPresentation.h"
-#include "Tidepool/MenuStructure.h"
+#include "Tidepool/Menus/EnumPresentation.h"
+#include "Tidepool/Menus/MenuStructure.h"
 
 #include <array>
 

@@ -4,9 +4,9 @@
 #include "Gallery/Pages/MenuPicture.h"
 #include "Gallery/Pages/NoteLength.h"
 #include "Platform/Controls/ImageIcon.h"
-#include "Tidepool/ControlAssets.h"
-#include "Tidepool/PresentableMenu.h"
-#include "Tidepool/TPMenuItem.h"
+#include "Tidepool/Menus/PresentableMenu.h"
+#include "Tidepool/Menus/TPMenuItem.h"
+#include "Tidepool/Palette/ControlAssets.h"
 
 #include <QLabel>
 #include <QPainter>

@@ -4,8 +4,8 @@
 #include "Gallery/Layout/LiveRow.h"
 #include "Gallery/Layout/PageBody.h"
 #include "Gallery/Layout/Section.h"
-#include "Tidepool/ControlAssets.h"
-#include "Tidepool/VantorPushButton.h"
+#include "Tidepool/Buttons/VantorPushButton.h"
+#include "Tidepool/Palette/ControlAssets.h"
 
 namespace gallery {
 

@@ -1,7 +1,7 @@
 #include "Gallery/Pages/Specimens.h"
 
 #include "Gallery/Pages/StyleClasses.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/Graphics/Image.h"
-#include "Tidepool/ControlStyle.h"
+#include "Tidepool/Styles/ControlStyle.h"
 
 #include <QWidget>
 

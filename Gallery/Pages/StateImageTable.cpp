@@ -2,8 +2,8 @@
 
 #include "Gallery/Layout/Text.h"
 #include "Gallery/Pages/Specimens.h"
-#include "Tidepool/ControlAssets.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -7,8 +7,8 @@
 #include "Gallery/Pages/StyleClasses.h"
 #include "Gallery/StyleSet.h"
 #include "Platform/Controls/PopUpButton.h"
-#include "Tidepool/KitStyles.h"
-#include "Tidepool/StyledCheckBox.h"
+#include "Tidepool/Buttons/StyledCheckBox.h"
+#include "Tidepool/Styles/KitStyles.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -2,7 +2,7 @@
 
 #include "Gallery/GalleryPage.h"
 #include "Gallery/Layout/PageBody.h"
-#include "Tidepool/StyledControlState.h"
+#include "Tidepool/Styles/StyledControlState.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 #include "Gallery/Pages/StyleClasses.h"
 
-#include "Tidepool/CheckBoxCellStyle.h"
-#include "Tidepool/PopUpButtonCellStyles.h"
-#include "Tidepool/SegmentedCellStyle.h"
-#include "Tidepool/SliderCellStyle.h"
-#include "Tidepool/TableViewStyle.h"
-#include "Tidepool/TextFieldCellStyle.h"
-#include "Tidepool/ToolButtonCellStyles.h"
+#include "Tidepool/Styles/CheckBoxCellStyle.h"
+#include "Tidepool/Styles/PopUpButtonCellStyles.h"
+#include "Tidepool/Styles/SegmentedCellStyle.h"
+#include "Tidepool/Styles/SliderCellStyle.h"
+#include "Tidepool/Styles/TableViewStyle.h"
+#include "Tidepool/Styles/TextFieldCellStyle.h"
+#include "Tidepool/Styles/ToolButtonCellStyles.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tidepool/ControlStyle.h"
+#include "Tidepool/Styles/ControlStyle.h"
 
 #include <QString>
 

@@ -6,10 +6,10 @@
 #include "Gallery/Layout/Section.h"
 #include "Gallery/Pages/HeldTarget.h"
 #include "Platform/Controls/Menu.h"
-#include "Tidepool/BackButton.h"
-#include "Tidepool/ControlAssets.h"
-#include "Tidepool/CornerButton.h"
-#include "Tidepool/ToolButton.h"
+#include "Tidepool/Buttons/BackButton.h"
+#include "Tidepool/Buttons/CornerButton.h"
+#include "Tidepool/Buttons/ToolButton.h"
+#include "Tidepool/Palette/ControlAssets.h"
 
 namespace gallery {
 

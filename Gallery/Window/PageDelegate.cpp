@@ -3,7 +3,7 @@
 #include "Gallery/Layout/Text.h"
 #include "Gallery/Window/PageFilter.h"
 #include "Platform/Controls/ButtonStyle.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QPainter>
 

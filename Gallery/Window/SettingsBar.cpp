@@ -2,8 +2,8 @@
 
 #include "Gallery/StyleSet.h"
 #include "Platform/Controls/PopUpButton.h"
-#include "Tidepool/StyledCheckBox.h"
-#include "Tidepool/TPColors.h"
+#include "Tidepool/Buttons/StyledCheckBox.h"
+#include "Tidepool/Palette/TPColors.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "Plugin/Editor/ScaleView.h"
 
 #include "Chorale/AudioParameter.h"
-#include "Platform/AudioUnits/DisplayPump.h"
+#include "Platform/Display/DisplayPump.h"
 #include "Plugin/Editor/EditorResources.h"
 #include "Plugin/Scale.h"
 

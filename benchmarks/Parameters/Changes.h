@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/AudioUnits/RealtimeScope.h"
+#include "Platform/Display/RealtimeScope.h"
 #include "benchmarks/Parameters/Samples.h"
 
 #include <atomic>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Chorale/AudioParameter.h"
-#include "Platform/AudioUnits/DisplayQueue.h"
+#include "Platform/Display/DisplayQueue.h"
 #include "benchmarks/Parameters/Changes.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #include "Chorale/AudioParameter.h"
 
 #include "Chorale/SafeElement.h"
-#include "Platform/AudioUnits/DisplayQueue.h"
 #include "Platform/AudioUnits/HostTime.h"
+#include "Platform/Display/DisplayQueue.h"
 
 #include <QCoreApplication>
 #include <QSignalSpy>

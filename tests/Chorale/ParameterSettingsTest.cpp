@@ -1,8 +1,8 @@
 #include "Chorale/ParameterSettings.h"
 
-#include "Platform/AudioUnits/DisplayQueue.h"
-#include "Platform/AudioUnits/RealtimeScope.h"
 #include "Platform/Core/Bundle.h"
+#include "Platform/Display/DisplayQueue.h"
+#include "Platform/Display/RealtimeScope.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "Chorale/ParameterSettings.h"
 
-#include "Platform/AudioUnits/DisplayQueue.h"
-#include "Platform/AudioUnits/RealtimeScope.h"
+#include "Platform/Display/DisplayQueue.h"
+#include "Platform/Display/RealtimeScope.h"
 #include "tests/support/RealtimeWatch.h"
 
 #include <QCoreApplication>

@@ -6,7 +6,7 @@
 #include "Gallery/Window/SettingsBar.h"
 #include "Platform/Controls/PopUpButton.h"
 #include "Platform/Graphics/Appearance.h"
-#include "Tidepool/StyledCheckBox.h"
+#include "Tidepool/Buttons/StyledCheckBox.h"
 #include "tests/support/PictureComparison.h"
 
 #include <QCheckBox>

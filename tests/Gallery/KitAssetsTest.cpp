@@ -1,7 +1,7 @@
 #include "Gallery/Pages/KitAssets.h"
 #include "Gallery/Pages/Contrast.h"
 #include "Platform/Graphics/AssetCatalog.h"
-#include "Tidepool/resource_bundle_accessor.h"
+#include "Tidepool/Palette/resource_bundle_accessor.h"
 
 #include <gtest/gtest.h>
 

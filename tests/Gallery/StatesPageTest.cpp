@@ -1,7 +1,7 @@
 #include "Gallery/Pages/StatesPage.h"
 #include "Gallery/Layout/PageView.h"
 #include "Gallery/Pages/StyleClasses.h"
-#include "Tidepool/TextFieldCellStyle.h"
+#include "Tidepool/Styles/TextFieldCellStyle.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -2,8 +2,8 @@
 #include "Noteloft/InterFontModifier.h"
 #include "Noteloft/QuillfenButtonStyle.h"
 #include "Noteloft/ResourceBundle.h"
-#include "Tidepool/TPColors.h"
-#include "Tidepool/TPImages.h"
+#include "Tidepool/Palette/TPColors.h"
+#include "Tidepool/Palette/TPImages.h"
 #include "tests/support/Pixels.h"
 
 #include <QFontInfo>

@@ -22,7 +22,7 @@ BELOW = {
 BELOW_FOLDER = {"Plugin/Editor": {"Platform", "Chorale", "Tidepool"}}
 INCLUDE = re.compile(r'^\s*#\s*include\s*["<](?P<path>[^">]+)[">]', re.MULTILINE)
 # Parts of Platform from the bottom up: a folder includes itself and what stands to its left.
-PLATFORM = ["Core", "Graphics", "Gpu", "Publishing", "Controls", "Windows", "AudioUnits", "Updates"]
+PLATFORM = ["Core", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Windows", "AudioUnits", "Updates"]
 
 
 def allowed(source):

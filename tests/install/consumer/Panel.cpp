@@ -2,11 +2,11 @@
 
 #include "PowerButton.h"
 
-#include <Tidepool/ControlPublishers.h>
-#include <Tidepool/KitStyles.h>
-#include <Tidepool/StyledButton.h>
-#include <Tidepool/StyledCheckBox.h>
-#include <Tidepool/TPColors.h>
+#include <Tidepool/Buttons/StyledButton.h>
+#include <Tidepool/Buttons/StyledCheckBox.h>
+#include <Tidepool/Events/ControlPublishers.h>
+#include <Tidepool/Palette/TPColors.h>
+#include <Tidepool/Styles/KitStyles.h>
 
 #include <QVBoxLayout>
 

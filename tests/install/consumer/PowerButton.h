@@ -2,7 +2,7 @@
 
 #include "PowerButtonCell.h"
 
-#include <Tidepool/StyledButton.h>
+#include <Tidepool/Buttons/StyledButton.h>
 
 /// Switches the effect on and off.
 class PowerButton : public tidepool::StyledButton {

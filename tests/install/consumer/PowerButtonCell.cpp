@@ -1,6 +1,6 @@
 #include "PowerButtonCell.h"
 
-#include <Tidepool/TPColors.h>
+#include <Tidepool/Palette/TPColors.h>
 
 #include <QPainter>
 

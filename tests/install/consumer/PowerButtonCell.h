@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Tidepool/StyledButtonCell.h>
+#include <Tidepool/Buttons/StyledButtonCell.h>
 
 /// The colours of power buttons.
 class PowerButtonCellStyle : public tidepool::ButtonCellStyle {

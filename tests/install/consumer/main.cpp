@@ -3,8 +3,8 @@
 
 #include <Chorale/AssetResources.h>
 #include <Chorale/RocketFontModifier.h>
-#include <Tidepool/TPColors.h>
-#include <Tidepool/TPImages.h>
+#include <Tidepool/Palette/TPColors.h>
+#include <Tidepool/Palette/TPImages.h>
 #include <VantorShaders/MetalShaderViewController.h>
 
 #include <QAbstractButton>

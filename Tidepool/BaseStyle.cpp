@@ -1,9 +1,0 @@
-#include "Tidepool/BaseStyle.h"
-
-#include "Tidepool/Styles.h"
-
-namespace tidepool {
-
-BaseStyle::BaseStyle() : m_backgroundColor(Styles::BaseStyles::background) {}
-
-} // namespace tidepool

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Tidepool/Buttons/StyledButton.h"
+#include "Tidepool/Buttons/VantorPushButtonCell.h"
+
+#include <optional>
+
+namespace tidepool {
+
+/// A push button whose size and insets are set for each one, rather than by a style.
+class VantorPushButton : public StyledButton {
+    Q_OBJECT
+
+public:
+    explicit VantorPushButton(const QString& title = {}, QWidget* parent = nullptr);
+
+    const std::optional<double>& fixedHeight() const { return m_fixedHeight; }
+
+    /// In points; the natural height without one.
+    void setFixedHeight(std::optional<double> height);
+
+    /// For the insets; call `update()` after a change while the button is shown.
+    VantorPushButtonCell& vantorCell() const { return static_cast<VantorPushButtonCell&>(cell()); }
+
+    QMarginsF alignmentRectInsets() const override { return {}; }
+
+    QSizeF intrinsicContentSize() const override;
+
+private:
+    std::optional<double> m_fixedHeight;
+};
+
+} // namespace tidepool

@@ -1,0 +1,42 @@
+#include "Tidepool/Styles/PopUpButtonCellStyles.h"
+
+#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Styles/StyleValues.h"
+#include "Tidepool/Styles/Styles.h"
+
+namespace tidepool {
+
+namespace {
+
+/// What combo boxes, pop-up and pop-down buttons share: room for the shadow, and for the arrows at the right.
+void setPopUpMetrics(ButtonCellStyle& style) {
+    style.setAlignmentRectInsets(insets(3, 2, 3, 2));
+    style.setEdgeInsets(insets(3, 0, 2, 12));
+    style.setSelectedTextColor(style.textColor());
+}
+
+} // namespace
+
+ComboBoxStyle::ComboBoxStyle() {
+    setPopUpMetrics(*this);
+    setTitleEdgeInsets(insets(3, 7, 2, 0));
+}
+
+PopUpButtonCellStyle::PopUpButtonCellStyle() {
+    setPopUpMetrics(*this);
+    setBezelImages({{normal, PopUpImages::normal}, {highlighted, PopUpImages::down}});
+}
+
+StyledPopDownButtonCellStyle::StyledPopDownButtonCellStyle() {
+    setPopUpMetrics(*this);
+    setBezelImages({{normal, PopDownImages::normal}, {highlighted, PopDownImages::down}});
+}
+
+ToolPopUpButtonCellStyle::ToolPopUpButtonCellStyle() {
+    setAlignmentRectInsets({});
+    setEdgeInsets(insets(1, 1, 1, 1));
+    setTitleEdgeInsets(insets(0, 4, 0, 14));
+    setBezelImages({{normal, PopUpImages::tool}, {highlighted, PopUpImages::toolDown}});
+}
+
+} // namespace tidepool

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Tidepool/Styles/ControlStyle.h"
+#include "Tidepool/Styles/StyleSet.h"
+
+#include <memory>
+#include <utility>
+
+namespace tidepool {
+
+/// The style that all cells of a class share: made on first use, and the one to change for all of them before
+/// they are shown. A class whose shared style differs from a new one specialises this.
+template <typename S>
+S& sharedStyle() {
+    static S style;
+    return style;
+}
+
+/// Where a cell gets its style from. Main thread.
+class StyleReference {
+public:
+    /// An own style; null for none.
+    void set(std::shared_ptr<const ControlStyle> own) { m_own = std::move(own); }
+
+    /// The own style if it is an `S`, else that of the style set around `view`, else the shared one.
+    template <typename S>
+    const S& get(const QWidget* view) const {
+        if (const auto* own = dynamic_cast<const S*>(m_own.get()))
+            return *own;
+        if (const StyleSet* set = StyleSet::of(view))
+            if (const S* style = set->get<S>())
+                return *style;
+        return sharedStyle<S>();
+    }
+
+private:
+    std::shared_ptr<const ControlStyle> m_own;
+};
+
+} // namespace tidepool

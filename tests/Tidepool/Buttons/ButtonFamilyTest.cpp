@@ -1,0 +1,507 @@
+#include "Platform/Controls/PopUpButton.h"
+#include "Tidepool/Buttons/BackButton.h"
+#include "Tidepool/Buttons/CornerButton.h"
+#include "Tidepool/Buttons/CursorButton.h"
+#include "Tidepool/Buttons/DarkHighlightButton.h"
+#include "Tidepool/Buttons/FavouriteCheckBox.h"
+#include "Tidepool/Buttons/PopUpCyclingButton.h"
+#include "Tidepool/Buttons/StyledCheckBox.h"
+#include "Tidepool/Buttons/ToolButton.h"
+#include "Tidepool/Menus/PopUpContextMenu.h"
+#include "Tidepool/Palette/TPImages.h"
+#include "Tidepool/Views/ClickableImageView.h"
+#include "Tidepool/Views/NoDividerSplitView.h"
+#include "tests/support/ActionCounter.h"
+#include "tests/support/Pixels.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace tidepool;
+using platform::ControlState;
+
+namespace {
+
+void show(QWidget& widget) {
+    widget.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&widget));
+}
+
+/// A menu with one item; where it opened last.
+class SpiedMenu : public QMenu {
+public:
+    SpiedMenu() { addAction(QStringLiteral("Item")); }
+
+    QPoint openedAt(const QWidget& view) const { return view.mapFromGlobal(pos()); }
+};
+
+} // namespace
+
+TEST(BackButton, AlphaShowsAndHidesIt) {
+    QWidget window;
+    BackButton button(QStringLiteral("Back"), &window);
+    show(window);
+    EXPECT_EQ(button.alignmentRectInsets(), QMarginsF(0, 6, 0, 0));
+    EXPECT_EQ(button.sizeHint().height(), 28);
+    button.setAlphaValue(0);
+    EXPECT_TRUE(button.isHidden());
+    button.setAlphaValue(0.4);
+    EXPECT_FALSE(button.isHidden());
+    button.hide();
+    button.setAlphaValue(0.4);
+    EXPECT_FALSE(button.isHidden()) << "above 0 shows a hidden button";
+}
+
+TEST(BackButton, StaysHiddenIfItWasTransparentBeforeItsWindowWasShown) {
+    QWidget window;
+    QHBoxLayout layout(&window);
+    auto* const button = new BackButton(QStringLiteral("Back"));
+    button->setAlphaValue(0);
+    layout.addWidget(button);
+    show(window);
+    EXPECT_TRUE(button->isHidden());
+}
+
+TEST(BackButton, IsNoWindowBeforeItHasOne) {
+    BackButton button(QStringLiteral("Back"));
+    button.setAlphaValue(0.4);
+    EXPECT_FALSE(button.isVisible());
+    QWidget window;
+    button.setParent(&window);
+    show(window);
+    EXPECT_TRUE(button.isVisible());
+    window.close();
+    button.setParent(nullptr);
+}
+
+TEST(BackButton, PointsToWhereLinesBegin) {
+    BackButton button;
+    button.resize(60, 28);
+    const QImage leftToRight = picture(button);
+    button.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_LE(difference(picture(button), leftToRight.mirrored(true, false)), 1);
+    EXPECT_GT(difference(picture(button), leftToRight), 30);
+}
+
+TEST(CornerButton, OpensItsMenuUnderItself) {
+    SpiedMenu menu;
+    CornerButton button;
+    ActionCounter target;
+    button.setAction(ActionCounter::first, &target);
+    button.resize(40, 24);
+    show(button);
+    button.setAlternateMenu(&menu);
+    const auto opens = [&](const std::function<void()>& gesture) {
+        gesture();
+        const bool isOpen = menu.isVisible() && menu.openedAt(button) == QPoint(0, 28);
+        EXPECT_EQ(button.cell().isHighlighted(), menu.isVisible());
+        menu.close();
+        EXPECT_FALSE(button.cell().isHighlighted());
+        return isOpen;
+    };
+    EXPECT_TRUE(opens([&] { QTest::mousePress(&button, Qt::LeftButton); }));
+    EXPECT_TRUE(opens([&] { QTest::mousePress(&button, Qt::RightButton); }));
+    EXPECT_TRUE(opens([&] { QTest::mousePress(&button, Qt::LeftButton, Qt::ControlModifier); }));
+    EXPECT_TRUE(opens([&] { QTest::keyClick(&button, Qt::Key_Space); }));
+    EXPECT_TRUE(opens([&] { QTest::keyClick(&button, Qt::Key_Return); }));
+    EXPECT_TRUE(opens([&] { button.click(); })) << "as its mnemonic and assistive technology do";
+    EXPECT_EQ(target.count, 0);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    EXPECT_FALSE(opens([&] { QApplication::sendEvent(&button, &repeated); })) << "a key that is still held";
+    button.setEnabled(false);
+    menu.setEnabled(false);
+    EXPECT_FALSE(opens([&] { popUpContextMenu(button); }));
+    button.setEnabled(true);
+    button.setAlternateMenu(nullptr);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(target.count, 1);
+}
+
+TEST(CursorButton, ShowsItsPointerWhileThePointerIsOverIt) {
+    QWidget window;
+    CursorButton button(&window);
+    button.resize(40, 40);
+    show(window);
+    EXPECT_TRUE(button.acceptsFirstMouse());
+    const auto enter = [&] {
+        QEnterEvent event({5, 5}, {5, 5}, {5, 5});
+        QApplication::sendEvent(&button, &event);
+    };
+    const auto leave = [&] {
+        QEvent event(QEvent::Leave);
+        QApplication::sendEvent(&button, &event);
+    };
+    enter();
+    EXPECT_EQ(button.cursor().shape(), Qt::ArrowCursor) << "without an image";
+    button.setCursorImage(TPImagesAK::cursorTrackingSlider.image());
+    button.setCursorHotSpot({3, 4});
+    enter();
+    EXPECT_EQ(button.cursor().shape(), Qt::BitmapCursor);
+    EXPECT_EQ(button.cursor().hotSpot(), QPoint(3, 4));
+    leave();
+    EXPECT_EQ(button.cursor().shape(), Qt::ArrowCursor);
+
+    button.setCursor(Qt::PointingHandCursor);
+    enter();
+    EXPECT_EQ(button.cursor().shape(), Qt::BitmapCursor);
+    leave();
+    EXPECT_EQ(button.cursor().shape(), Qt::PointingHandCursor) << "what a client has set is there again";
+    enter();
+    button.setCursor(Qt::BusyCursor);
+    leave();
+    EXPECT_EQ(button.cursor().shape(), Qt::BusyCursor) << "also what it has set meanwhile";
+    enter();
+    button.setCursorImage({});
+    EXPECT_EQ(button.cursor().shape(), Qt::BusyCursor);
+}
+
+TEST(CursorButton, ItsPointerIsSharpOnEveryScreen) {
+    class MovedButton : public CursorButton {
+    public:
+        qreal scale = 1;
+
+    protected:
+        int metric(PaintDeviceMetric metric) const override {
+            if (metric == PdmDevicePixelRatio)
+                return static_cast<int>(scale);
+            return metric == PdmDevicePixelRatioScaled ? static_cast<int>(scale * devicePixelRatioFScale())
+                                                       : CursorButton::metric(metric);
+        }
+    };
+
+    MovedButton button;
+    button.setCursorImage(TPImagesAK::cursorTrackingSlider.image());
+    QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
+    QApplication::sendEvent(&button, &enter);
+    EXPECT_EQ(button.cursor().pixmap().devicePixelRatio(), 1);
+    button.scale = 2;
+    QEvent moved(QEvent::ScreenChangeInternal);
+    QApplication::sendEvent(&button, &moved);
+    EXPECT_EQ(button.cursor().pixmap().devicePixelRatio(), 2) << "while the pointer is over it";
+    button.scale = 1;
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&button, &leave);
+    QApplication::sendEvent(&button, &enter);
+    EXPECT_EQ(button.cursor().pixmap().devicePixelRatio(), 1);
+}
+
+TEST(CursorButton, IsHalfAsOpaqueWhilePressed) {
+    const auto alpha = [](platform::PushButton& button) {
+        button.resize(16, 16);
+        QImage image(16, 16, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        button.render(&image, {}, {}, QWidget::RenderFlags());
+        return qAlpha(image.pixel(8, 8));
+    };
+    CursorButton cursor;
+    DarkHighlightButton dark;
+    for (platform::PushButton* const button :
+         {static_cast<platform::PushButton*>(&cursor), static_cast<platform::PushButton*>(&dark)}) {
+        button->setImage(TPImages::checkboxOn.image());
+        EXPECT_EQ(alpha(*button), 255);
+        button->setDown(true);
+        EXPECT_NEAR(alpha(*button), 128, 1);
+        button->setDown(false);
+    }
+    dark.setEnabled(false);
+    EXPECT_NEAR(alpha(dark), 128, 1);
+}
+
+TEST(PopUpCyclingButton, StepsItsPopUpButtonAndTreatsOthersAsUsual) {
+    platform::PopUpButton popUp;
+    for (const char16_t* const title : {u"A", u"B", u"C"})
+        popUp.addItem(QString::fromUtf16(title));
+    PopUpCyclingButton button;
+    button.resize(20, 20);
+    show(button);
+    button.setAction(ActionCounter::first, &popUp);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("B"));
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("A"));
+    const auto pressReturn = [&](Qt::KeyboardModifiers then, Qt::KeyboardModifiers later) {
+        const QString before = popUp.titleOfSelectedItem();
+        QTest::keyPress(&button, Qt::Key_Return, then);
+        QTest::keyRelease(&button, Qt::Key_Return, later);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return popUp.titleOfSelectedItem() != before; }));
+        return popUp.titleOfSelectedItem();
+    };
+    EXPECT_EQ(pressReturn({}, Qt::ShiftModifier), QStringLiteral("B")) << "Shift came after the key";
+    EXPECT_EQ(pressReturn(Qt::ShiftModifier, {}), QStringLiteral("A")) << "Shift has gone since";
+    QTest::mousePress(&button, Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("B")) << "the release is the click";
+    ActionCounter other;
+    button.setTarget(&other);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(other.count, 1);
+}
+
+TEST(ButtonCells, KeepTheRoomOfTheirTitlesOnTheSideWhereLinesBegin) {
+    BackButton back(QStringLiteral("Back"));
+    StyledCheckBox box(QStringLiteral("A box"));
+    for (platform::PushButton* const button : std::initializer_list<platform::PushButton*>{&back, &box})
+        for (const qreal width : {90, 30}) { // more than the title needs, and less
+            SCOPED_TRACE(button->metaObject()->className());
+            const QRectF bounds(0, 0, width, 31);
+            const auto rects = [&](Qt::LayoutDirection direction) {
+                button->setLayoutDirection(direction);
+                const platform::ButtonCell& cell = button->cell();
+                const QRectF inner = cell.drawingRect(bounds);
+                return std::pair(cell.titleRect(inner), cell.imageRect(inner));
+            };
+            const auto [title, image] = rects(Qt::LeftToRight);
+            const auto [otherTitle, otherImage] = rects(Qt::RightToLeft);
+            EXPECT_NEAR(otherTitle.left(), width - title.right(), 1);
+            EXPECT_NEAR(otherTitle.right(), width - title.left(), 1);
+            EXPECT_NEAR(otherImage.left(), width - image.right(), 1);
+            EXPECT_NE(title.left(), width - title.right()) << "there is something to mirror";
+        }
+}
+
+TEST(StyledCheckBox, ClicksAlternateAndNeverMix) {
+    StyledCheckBox box(QStringLiteral("Box"));
+    box.setState(ControlState::mixed);
+    EXPECT_EQ(box.doubleValue(), -1);
+    for (const ControlState expected : {ControlState::on, ControlState::off, ControlState::on}) {
+        box.click();
+        EXPECT_EQ(box.state(), expected);
+    }
+}
+
+TEST(StyledCheckBox, BoxAndTitleStandInTheMiddleWhereTheirRulesSay) {
+    StyledCheckBox box(QStringLiteral("A title"));
+    auto& cell = static_cast<StyledCheckBoxCell&>(box.cell());
+    const QRectF bounds(0, 0, 30, 31);
+    const QRectF image = cell.imageRect(bounds);
+    EXPECT_EQ(image.size(), QSizeF(16, 16));
+    EXPECT_EQ(image.top(), 7);
+    cell.setXOffset(2.5);
+    EXPECT_EQ(cell.imageRect(bounds), image.translated(2.5, 0));
+    EXPECT_GT(cell.titleRect(bounds).right(), 30) << "as wide as the title, whatever room there is";
+}
+
+TEST(FavouriteCheckBox, ShowsItsStarAndDimsWhileHeld) {
+    FavouriteCheckBox star;
+    const auto& cell = static_cast<const FavouriteCheckBoxCell&>(star.cell());
+    EXPECT_EQ(&cell.image(), cell.style().buttonImage(StyledControlState::defaultState));
+    EXPECT_EQ(&cell.alternateImage(), cell.style().buttonImage(StyledControlState::on));
+    EXPECT_NE(&cell.image(), &cell.alternateImage());
+    star.resize(star.sizeHint());
+    show(star);
+    const QImage empty = picture(star);
+    QTest::mousePress(&star, Qt::LeftButton);
+    EXPECT_EQ(star.alphaValue(), 0.5);
+    QTest::keyClick(&star, Qt::Key_Escape);
+    EXPECT_EQ(star.alphaValue(), 1) << "whatever ends the press";
+    QTest::mousePress(&star, Qt::LeftButton);
+    QTest::mouseRelease(&star, Qt::LeftButton);
+    EXPECT_EQ(star.alphaValue(), 1);
+    EXPECT_EQ(star.state(), ControlState::on);
+    EXPECT_GT(difference(empty, picture(star)), 100);
+    const QImage full = picture(star);
+    QTest::keyPress(&star, Qt::Key_Space);
+    EXPECT_GT(difference(full, picture(star)), 60) << "the keyboard's press shows, too";
+    QTest::keyRelease(&star, Qt::Key_Space);
+    EXPECT_LE(difference(empty, picture(star)), 1);
+}
+
+TEST(FavouriteCheckBox, StandsOnWholePoints) {
+    FavouriteCheckBox star;
+    const QRectF image = star.cell().imageRect(QRectF(0, 0, 31, 31));
+    EXPECT_EQ(image, QRectF(image.toRect()));
+    EXPECT_TRUE(image.contains(QRectF(7.5, 7.5, 16, 16).center()));
+}
+
+class ToolButtonTest : public testing::Test {
+protected:
+    ToolButtonTest() {
+        m_button.setAction(ActionCounter::first, &m_target);
+        m_button.setSecondaryAction(ActionCounter::second);
+        m_button.setSecondaryTarget(&m_target);
+        m_button.resize(30, 24);
+        show(m_button);
+        QApplication::setDoubleClickInterval(60);
+    }
+
+    ~ToolButtonTest() override { QApplication::setDoubleClickInterval(400); }
+
+    bool holdIsSent() {
+        return QTest::qWaitFor([this] { return m_target.secondCount > 0; }, 300);
+    }
+
+    ActionCounter m_target;
+    ToolButton m_button;
+};
+
+TEST_F(ToolButtonTest, QuickClickSendsTheActionAndHoldTheSecondOne) {
+    QTest::mouseClick(&m_button, Qt::LeftButton);
+    EXPECT_EQ(m_target.count, 1);
+    EXPECT_FALSE(holdIsSent());
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    EXPECT_TRUE(holdIsSent());
+    EXPECT_FALSE(m_button.isDown());
+    QTest::mouseRelease(&m_button, Qt::LeftButton);
+    EXPECT_EQ(m_target.count, 1);
+    EXPECT_EQ(m_target.secondCount, 1);
+}
+
+TEST_F(ToolButtonTest, NoHoldWithoutAnActionAfterAnEndOrOnADoubleClick) {
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    m_button.setEnabled(false);
+    EXPECT_FALSE(holdIsSent());
+    m_button.setEnabled(true);
+
+    QTest::mouseClick(&m_button, Qt::LeftButton);
+    QMouseEvent second(QEvent::MouseButtonDblClick, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&m_button, &second);
+    EXPECT_FALSE(holdIsSent());
+    QTest::mouseRelease(&m_button, Qt::LeftButton, {}, {5, 5});
+
+    m_button.setSecondaryAction(std::nullopt);
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    EXPECT_FALSE(holdIsSent());
+    EXPECT_TRUE(m_button.isDown());
+}
+
+TEST_F(ToolButtonTest, MenuKeyReachesWhatHoldingDoes) {
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(&m_button, &key);
+    EXPECT_EQ(m_target.secondCount, 1);
+    QAccessible::queryAccessibleInterface(&m_button)->actionInterface()->doAction(
+        QAccessibleActionInterface::showMenuAction());
+    EXPECT_EQ(m_target.secondCount, 2) << "so does assistive technology";
+    SpiedMenu menu;
+    m_button.setMenu(&menu);
+    QTest::mousePress(&m_button, Qt::RightButton);
+    EXPECT_EQ(menu.openedAt(m_button), QPoint(0, 28));
+}
+
+TEST_F(ToolButtonTest, MarkOfMoreStandsInTheCornerWhereLinesEndWithOrWithoutABorder) {
+    for (const bool isBordered : {true, false}) {
+        m_button.setBordered(isBordered);
+        const auto mark = [this](Qt::LayoutDirection direction) {
+            m_button.setLayoutDirection(direction);
+            m_button.setShowMoreIcon(false);
+            const QImage without = picture(m_button);
+            m_button.setShowMoreIcon(true);
+            const QImage with = picture(m_button);
+            QImage changed(with.size(), QImage::Format_RGB32);
+            for (int y = 0; y < with.height(); ++y)
+                for (int x = 0; x < with.width(); ++x)
+                    changed.setPixel(x, y,
+                                     difference(with.pixel(x, y), without.pixel(x, y)) > 12 ? 0xffffff : 0);
+            return changed;
+        };
+        const QImage leftToRight = mark(Qt::LeftToRight);
+        const auto isMarked = [&](int from, int to) {
+            for (int y = 12; y < 24; ++y)
+                for (int x = from; x < to; ++x)
+                    if ((leftToRight.pixel(x, y) & 0xff) != 0)
+                        return true;
+            return false;
+        };
+        EXPECT_TRUE(isMarked(15, 30)) << isBordered;
+        EXPECT_FALSE(isMarked(0, 15)) << isBordered;
+        EXPECT_EQ(difference(mark(Qt::RightToLeft), leftToRight.mirrored(true, false)), 0) << isBordered;
+    }
+}
+
+TEST(ClickableImageView, ClicksAndDimsOnlyWhileEnabled) {
+    ClickableImageView view(TPImages::checkboxOn.image(), QStringLiteral("Picture"));
+    view.resize(16, 16);
+    show(view);
+    int clicks = 0;
+    const auto token = view.clicked()->sink([&](std::monostate) { ++clicks; });
+    QTest::mousePress(&view, Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(view.alphaValue(), 0.5);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(view.alphaValue(), 1);
+    EXPECT_EQ(clicks, 1);
+    QTest::mousePress(&view, Qt::LeftButton, {}, {8, 8});
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {40, 8});
+    EXPECT_EQ(clicks, 1);
+    QTest::keyClick(&view, Qt::Key_Space);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QApplication::sendEvent(&view, &repeated);
+    EXPECT_EQ(clicks, 2) << "a key that is held presses once";
+    EXPECT_TRUE(repeated.isAccepted()) << "and is nobody else's";
+    QTest::mousePress(&view, Qt::LeftButton, {}, {8, 8});
+    view.setEnabled(false);
+    EXPECT_EQ(view.alphaValue(), 1);
+    view.setEnabled(true);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(clicks, 2);
+}
+
+class ClickableImageViewTest : public testing::Test {
+protected:
+    ClickableImageViewTest() {
+        m_view->setParent(&m_window);
+        m_window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        m_token = m_view->clicked()->sink([this](std::monostate) { ++m_clicks; });
+    }
+
+    void press() { QTest::mousePress(m_view, Qt::LeftButton, {}, {8, 8}); }
+
+    void release() { QTest::mouseRelease(m_view, Qt::LeftButton, {}, {8, 8}); }
+
+    QWidget m_window;
+    QPointer<ClickableImageView> m_view =
+        new ClickableImageView(TPImages::checkboxOn.image(), QStringLiteral("Picture"));
+    int m_clicks = 0;
+    platform::AnyCancellable m_token;
+};
+
+TEST_F(ClickableImageViewTest, HidingAndEscapeEndThePress) {
+    press();
+    m_view->hide();
+    EXPECT_EQ(m_view->alphaValue(), 1);
+    m_view->show();
+    press();
+    QTest::keyClick(&m_window, Qt::Key_Escape);
+    EXPECT_EQ(m_view->alphaValue(), 1);
+    release();
+    EXPECT_EQ(m_clicks, 0);
+}
+
+TEST_F(ClickableImageViewTest, MayBeDestroyedByItsClick) {
+    const auto destroyer = m_view->clicked()->sink([this](std::monostate) { delete m_view; });
+    press();
+    release();
+    EXPECT_EQ(m_view, nullptr);
+    EXPECT_EQ(m_clicks, 1);
+}
+
+TEST_F(ClickableImageViewTest, ShowsThatItHasTheKeyboard) {
+    m_view->clearFocus();
+    const QImage without = picture(*m_view);
+    m_view->setFocus(Qt::TabFocusReason);
+    EXPECT_GT(difference(without, picture(*m_view)), 60);
+}
+
+TEST_F(ClickableImageViewTest, AssistiveTechnologyPressesIt) {
+    QAccessibleInterface* const view = QAccessible::queryAccessibleInterface(m_view);
+    EXPECT_EQ(view->role(), QAccessible::Button);
+    EXPECT_EQ(view->text(QAccessible::Name), QStringLiteral("Picture"));
+    view->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(m_clicks, 1);
+}
+
+TEST(NoDividerSplitView, PartsTouch) {
+    NoDividerSplitView split;
+    auto* const left = new QWidget;
+    auto* const right = new QWidget;
+    split.addWidget(left);
+    split.addWidget(right);
+    split.resize(200, 100);
+    show(split);
+    EXPECT_EQ(left->geometry().right() + 1, right->geometry().left());
+    const QImage image = picture(split);
+    EXPECT_EQ(image.pixel(left->width() - 1, 50), image.pixel(10, 50));
+}

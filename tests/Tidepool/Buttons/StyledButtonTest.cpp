@@ -1,0 +1,366 @@
+#include "Tidepool/Buttons/StyledButton.h"
+#include "Tidepool/Buttons/DarkHighlightButton.h"
+#include "Tidepool/Buttons/StyledCheckBox.h"
+#include "Tidepool/Buttons/VantorPushButton.h"
+#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Palette/TPImages.h"
+#include "Tidepool/Styles/Validating.h"
+#include "tests/support/AllocationCounter.h"
+#include "tests/support/Pixels.h"
+
+#include <QHBoxLayout>
+#include <QPaintEvent>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace tidepool;
+using platform::ButtonCell;
+using platform::ControlState;
+using platform::ImagePosition;
+using platform::ImageScaling;
+using State = StyledControlState;
+
+namespace {
+
+platform::Image square(const platform::ImageResource& resource = TPImages::checkbox) {
+    return resource.image();
+}
+
+class ValidatedButton : public StyledButton, public Validating {
+public:
+    using StyledButton::StyledButton;
+
+    bool isValid() const override { return valid; }
+
+    bool valid = true;
+};
+
+/// Counts how many points are painted anew.
+class PaintCounter : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            const QRect rect = static_cast<QPaintEvent*>(event)->region().boundingRect();
+            area += rect.width() * rect.height();
+        }
+        return false;
+    }
+
+    int area = 0;
+};
+
+/// What would be seen on `background`.
+QImage drawn(const StyledButtonCell& cell, QSize size) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    cell.draw(painter, QRectF(QPointF(), size));
+    return image;
+}
+
+/// The pixel that is the most opaque, premultiplied.
+QRgb strongest(platform::PushButton& button) {
+    QImage image(button.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    button.render(&image, {}, {}, QWidget::RenderFlags());
+    QRgb strongest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
+            strongest = qAlpha(pixel) > qAlpha(strongest) ? pixel : strongest;
+        }
+    return strongest;
+}
+
+StyledButtonCell& cellOf(const StyledButton& button) {
+    return static_cast<StyledButtonCell&>(button.cell());
+}
+
+} // namespace
+
+TEST(StyledButtonCell, StateFollowsTheControl) {
+    ValidatedButton button;
+    button.setState(ControlState::on);
+    EXPECT_EQ(cellOf(button).controlState(), State::defaultState) << "a push button shows no state";
+    button.cell().setButtonType(ButtonCell::ButtonType::pushOnPushOff);
+    EXPECT_EQ(cellOf(button).controlState(), State::defaultState | State::on);
+    button.setState(ControlState::mixed);
+    button.setDown(true);
+    button.setSelected(true);
+    EXPECT_EQ(cellOf(button).controlState(),
+              State::defaultState | State::mixed | State::highlighted | State::selected);
+    button.valid = false;
+    button.setEnabled(false);
+    button.setDown(true);
+    EXPECT_EQ(cellOf(button).controlState(),
+              State::defaultState | State::mixed | State::disabled | State::selected | State::invalid)
+        << "a disabled button is never highlighted";
+}
+
+TEST(StyledButtonCell, GeometryFollowsTheInsetsOfTheStyle) {
+    const auto style = std::make_shared<ButtonCellStyle>();
+    style->setEdgeInsets({3, 1, 2, 4});
+    style->setImageEdgeInsets({1, -1, 0, 1});
+    style->setTitleEdgeInsets({4, 6, 0, 0});
+    StyledButtonCell cell;
+    cell.setStyle(style);
+    const QRectF bounds(0, 0, 100.5, 31);
+    EXPECT_EQ(cell.drawingRect(bounds), QRectF(3, 1, 96, 26)) << "integral";
+    cell.setBordered(false);
+    EXPECT_EQ(cell.drawingRect(bounds), bounds);
+    EXPECT_EQ(cell.focusRingMaskBounds(bounds), bounds);
+
+    cell.setImage(square());
+    cell.setImagePosition(ImagePosition::imageOnly);
+    EXPECT_EQ(cell.imageRect(QRectF(0, 0, 40, 30)), QRectF(1, -1, 39, 30));
+    cell.setImagePosition(ImagePosition::imageLeading);
+    cell.setTitle(QStringLiteral("Title"));
+    const QRectF image = cell.imageRect(QRectF(0, 0, 100, 31));
+    EXPECT_EQ(image.size(), QSizeF(16, 16));
+    EXPECT_EQ(image.top(), 7) << "the middle of the bounds, without its fraction, whatever the insets";
+    const auto titleMiddle = [&] { return cell.titleRect(QRectF(0, 0, 100, 31)).center().y(); };
+    EXPECT_NEAR(titleMiddle(), 15.5, 1);
+    cell.setVerticallyCenterTitle(false);
+    EXPECT_NEAR(titleMiddle(), 18.5, 1) << "the middle of what the insets leave";
+    cell.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_GT(cell.imageRect(QRectF(0, 0, 100, 31)).left(),
+              cell.titleRect(QRectF(0, 0, 100, 31)).right() - 1);
+}
+
+TEST(StyledButtonCell, BezelAndImageAreHalfOpaqueWhenDisabled) {
+    StyledButtonCell cell;
+    const QRgb enabled = drawn(cell, {40, 24}).pixel(20, 12);
+    cell.setEnabled(false);
+    const QRgb disabled = drawn(cell, {40, 24}).pixel(20, 12);
+    EXPECT_NEAR(qBlue(disabled), qBlue(enabled) / 2, 2);
+    cell.setBordered(false);
+    EXPECT_EQ(drawn(cell, {40, 24}).pixel(20, 12), qRgb(0, 0, 0));
+
+    cell.setImage(square(TPImages::checkboxOn));
+    cell.setImagePosition(ImagePosition::imageOnly);
+    const QRgb dim = drawn(cell, {16, 16}).pixel(8, 3);
+    cell.setEnabled(true);
+    const QRgb bright = drawn(cell, {16, 16}).pixel(8, 3);
+    EXPECT_NEAR(qBlue(dim), qBlue(bright) / 2, 2);
+    cell.setHighlighted(true);
+    EXPECT_EQ(drawn(cell, {16, 16}).pixel(8, 3), dim);
+}
+
+TEST(StyledButtonCell, TemplatesHaveTheTextColorOfTheSetInForceAndAreDimmedOnce) {
+    QWidget window;
+    const auto style = std::make_shared<ButtonCellStyle>();
+    style->setTextColor(QColor(0, 200, 0));
+    const auto set = std::make_shared<StyleSet>();
+    set->set<ButtonCellStyle>(style);
+    StyleSet::apply(window, set);
+    StyledButton styled({}, &window);
+    styled.cell().setButtonType(ButtonCell::ButtonType::pushOnPushOff);
+    DarkHighlightButton plain(&window);
+    for (platform::PushButton* const button : std::initializer_list<platform::PushButton*>{&styled, &plain}) {
+        SCOPED_TRACE(button->metaObject()->className());
+        button->setBordered(false);
+        button->setImage(OrganiserImages::iconDisclose);
+        button->setImagePosition(ImagePosition::imageOnly);
+        button->resize(30, 30);
+        const QRgb usual = strongest(*button);
+        EXPECT_LE(difference(qUnpremultiply(usual), qRgba(0, 200, 0, qAlpha(usual))), 1);
+        button->setState(ControlState::on);
+        EXPECT_EQ(strongest(*button), usual) << "as bright when on";
+        const auto isHalf = [&] {
+            const QRgb color = strongest(*button);
+            return std::abs(2 * qAlpha(color) - qAlpha(usual)) <= 2 &&
+                   std::abs(2 * qGreen(color) - qGreen(usual)) <= 4;
+        };
+        button->setDown(true);
+        EXPECT_TRUE(isHalf());
+        button->setDown(false);
+        button->setEnabled(false);
+        EXPECT_TRUE(isHalf());
+    }
+    StyleSet::apply(window, nullptr);
+}
+
+TEST(StyledButtonCell, DrawingAgainAllocatesNothing) {
+    StyledButtonCell cell;
+    cell.setTitle(QStringLiteral("Title"));
+    cell.setImage(square(TPImages::checkboxOn));
+    QImage image(90, 24, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    const QRectF frame(0, 0, 90, 24);
+    cell.draw(painter, frame);
+    const AllocationCounter counter;
+    cell.draw(painter, frame);
+    EXPECT_EQ(counter.allocations(), 0);
+}
+
+TEST(StyledButtonCell, ImageScalingPlacesTheImage) {
+    StyledButtonCell cell;
+    cell.setBordered(false);
+    cell.setImage(square(TPImages::checkboxOn));
+    cell.setImagePosition(ImagePosition::imageOnly);
+    const auto isPainted = [&](int x, int y) { return drawn(cell, {40, 40}).pixel(x, y) != qRgb(0, 0, 0); };
+    for (const ImageScaling scaling :
+         {ImageScaling::none, ImageScaling::proportionallyDown, ImageScaling::proportionallyUpOrDown}) {
+        cell.setImageScaling(scaling);
+        EXPECT_TRUE(isPainted(20, 20));
+        EXPECT_FALSE(isPainted(8, 8));
+    }
+    cell.setImageScaling(ImageScaling::axesIndependently);
+    EXPECT_TRUE(isPainted(4, 20));
+}
+
+TEST(StyledButtonCellDeathTest, AnotherImageScalingStopsTheProgram) {
+    StyledButtonCell cell;
+    cell.setImage(square());
+    cell.setImageScaling(static_cast<ImageScaling>(4));
+    EXPECT_DEATH(drawn(cell, {40, 24}), "^Unhandled image scaling value\n$");
+}
+
+TEST(StyledButton, SizeIsThatOfTheBezelAndTheTitle) {
+    StyledButton button(QStringLiteral("A title that is long"));
+    const QSize natural = button.sizeHint();
+    EXPECT_EQ(natural.height(), 24);
+    EXPECT_GT(natural.width(), 80);
+    button.setFixedWidth(50);
+    EXPECT_EQ(button.sizeHint(), QSize(50, 24));
+    EXPECT_EQ(StyledButton({}, 10).sizeHint().width(), 10);
+
+    const auto bare = std::make_shared<ButtonCellStyle>();
+    bare->setBezelImages({});
+    button.setButtonStyle(bare);
+    EXPECT_EQ(button.intrinsicContentSize().height(), button.cell().cellSize().height());
+
+    VantorPushButton other(QStringLiteral("Title"));
+    other.setFixedHeight(40);
+    other.setFixedWidth(90);
+    EXPECT_EQ(other.sizeHint(), QSize(90, 40));
+}
+
+TEST(StyledButton, RingIsDrawnOnlyWithTheKeyboardInTheKeyWindow) {
+    QWidget window;
+    StyledButton button(QStringLiteral("OK"), &window);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    button.clearFocus();
+    const QImage without = picture(button);
+    button.setFocus();
+    const QImage with = picture(button);
+    EXPECT_GT(difference(without, with), 60);
+    const QColor ring = sharedStyle<ButtonCellStyle>().focusRingColor();
+    EXPECT_LT(difference(with.pixel(with.width() / 2, 1), ring.rgb()), 8);
+
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_EQ(difference(without, picture(button)), 0);
+}
+
+TEST(StyledButton, EveryChangeRepaintsTheButtonOnceAndNothingElse) {
+    QWidget window;
+    window.resize(400, 300);
+    StyledButton button(QStringLiteral("OK"), &window);
+    button.setGeometry(20, 20, 80, 24);
+    StyledButton neighbor(QStringLiteral("No"), &window);
+    neighbor.setGeometry(120, 20, 80, 24);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    button.clearFocus();
+    QCoreApplication::processEvents();
+    PaintCounter own;
+    PaintCounter others;
+    button.installEventFilter(&own);
+    neighbor.installEventFilter(&others);
+    const auto painted = [&](const std::function<void()>& change) {
+        own.area = 0;
+        change();
+        QCoreApplication::processEvents();
+        return own.area;
+    };
+    constexpr int area = 80 * 24;
+    EXPECT_EQ(painted([&] { button.setDown(true); }), area);
+    EXPECT_EQ(painted([&] { button.setDown(false); }), area);
+    EXPECT_EQ(painted([&] { button.setSelected(true); }), area);
+    EXPECT_EQ(painted([&] { button.setSelected(true); }), 0) << "the same again changes nothing";
+    EXPECT_EQ(painted([&] { button.setState(ControlState::on); }), area);
+    EXPECT_EQ(painted([&] { button.setState(ControlState::on); }), 0);
+    EXPECT_EQ(painted([&] { button.setEnabled(false); }), area);
+    EXPECT_EQ(others.area, 0);
+}
+
+TEST(StyleSet, HoldsForAWindowAndGivesWayToAnOwnStyle) {
+    QWidget window;
+    QWidget group(&window);
+    StyledButton button(QStringLiteral("OK"), &group);
+    StyledCheckBox box(QStringLiteral("Box"), &group);
+    const auto color = [](const StyledButton& control) {
+        return cellOf(control).style().textColor(State::defaultState);
+    };
+    const auto styled = [](QColor text) {
+        auto style = std::make_shared<ButtonCellStyle>();
+        style->setTextColor(text);
+        return style;
+    };
+    const auto set = std::make_shared<StyleSet>();
+    set->set<ButtonCellStyle>(styled(Qt::red));
+    StyleSet::apply(window, set);
+    EXPECT_EQ(color(button), QColor(Qt::red));
+    EXPECT_EQ(color(box), sharedStyle<CheckBoxCellStyle>().textColor()) << "a check box has its own class";
+
+    const auto inner = std::make_shared<StyleSet>();
+    inner->set<ButtonCellStyle>(styled(Qt::green));
+    StyleSet::apply(group, inner);
+    EXPECT_EQ(color(button), QColor(Qt::green));
+    button.setButtonStyle(styled(Qt::blue));
+    EXPECT_EQ(color(button), QColor(Qt::blue));
+    button.setButtonStyle(nullptr);
+    StyleSet::apply(group, nullptr);
+    EXPECT_EQ(color(button), QColor(Qt::red)) << "what lies around holds again";
+    button.setParent(nullptr);
+    EXPECT_EQ(color(button), sharedStyle<ButtonCellStyle>().textColor());
+    StyleSet::apply(window, nullptr);
+}
+
+TEST(StyleSet, MayChangeTheSizeOfWhatItIsGivenTo) {
+    QWidget window;
+    QHBoxLayout layout(&window);
+    auto* const button = new StyledButton(QStringLiteral("OK"));
+    layout.addWidget(button);
+    const QSize margins = layout.sizeHint() - button->sizeHint();
+    const auto large = std::make_shared<ButtonCellStyle>();
+    QFont font = large->font();
+    font.setPixelSize(60);
+    large->setFont(font);
+    const auto set = std::make_shared<StyleSet>();
+    set->set<ButtonCellStyle>(large);
+    const QSize usual = layout.sizeHint();
+    for (QWidget* const root : std::initializer_list<QWidget*>{button, &window}) {
+        StyleSet::apply(*root, set);
+        EXPECT_EQ(layout.sizeHint(), button->sizeHint() + margins);
+        EXPECT_NE(layout.sizeHint(), usual);
+        StyleSet::apply(*root, nullptr);
+        EXPECT_EQ(layout.sizeHint(), usual);
+    }
+}
+
+TEST(StyledButtonStyle, AccessorsThatAMakerOverridesReachTheScreen) {
+    class WarningStyle : public ButtonCellStyle {
+    public:
+        using ButtonCellStyle::textColor;
+
+        const QColor& textColor() const override { return m_color; }
+
+    private:
+        QColor m_color{255, 0, 0};
+    };
+
+    StyledButton button(QStringLiteral("HHH"));
+    button.setButtonStyle(std::make_shared<WarningStyle>());
+    button.resize(button.sizeHint());
+    const QImage image = picture(button);
+    bool isRed = false;
+    for (int x = 0; x < image.width(); ++x)
+        isRed = isRed || difference(image.pixel(x, 13), qRgb(255, 0, 0)) < 60;
+    EXPECT_TRUE(isRed);
+}

@@ -1,0 +1,142 @@
+#include "Tidepool/Buttons/StyledCheckBox.h"
+#include "Tidepool/Events/ActionTrampoline.h"
+#include "Tidepool/Events/ControlPublishers.h"
+#include "Tidepool/Events/FocusOnOutput.h"
+#include "tests/support/ActionCounter.h"
+
+#include <QLineEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+using namespace tidepool;
+using platform::ControlState;
+
+TEST(ActionTrampoline, RunsTheLastHandlerWithTheControl) {
+    StyledCheckBox box;
+    int first = 0;
+    std::vector<StyledCheckBox*> second;
+    setActionHandler(box, [&](StyledCheckBox&) { ++first; });
+    box.click();
+    setActionHandler(box, [&](StyledCheckBox& sender) { second.push_back(&sender); });
+    box.click();
+    EXPECT_EQ(first, 1);
+    EXPECT_EQ(second, std::vector{&box});
+    EXPECT_EQ(box.children().count(box.target()), 1) << "the control owns its trampoline";
+}
+
+TEST(ActionTrampoline, MayBeReplacedByItsOwnHandlerAndGoesWithItsControl) {
+    const auto alive = std::make_shared<int>(0);
+    {
+        StyledCheckBox box;
+        setActionHandler(box, [&, alive](StyledCheckBox& sender) {
+            setActionHandler(sender, [alive](StyledCheckBox&) { *alive += 10; });
+            *alive += 1;
+        });
+        box.click();
+        box.click();
+        EXPECT_EQ(*alive, 11);
+    }
+    EXPECT_EQ(alive.use_count(), 1);
+}
+
+TEST(ActionTrampolineDeathTest, ASenderOfAnotherTypeStopsTheProgram) {
+    StyledCheckBox box;
+    setActionHandler(box, [](StyledCheckBox&) {});
+    platform::PushButton other;
+    EXPECT_DEATH(other.Control::sendAction(box.action(), box.target()), "sender of an action");
+}
+
+TEST(NSControlPublisher, IsOneForEachControlAndEndsWithIt) {
+    auto box = std::make_unique<StyledCheckBox>();
+    EXPECT_EQ(publisher(*box), publisher(*box));
+    std::vector<ControlState> states;
+    std::vector<double> values;
+    int ends = 0;
+    const auto end = [&](const platform::Completion& completion) { ends += completion.isFinished() ? 1 : 0; };
+    const auto byState =
+        statePublisher(*box)->sink([&](ControlState state) { states.push_back(state); }, end);
+    const auto byValue =
+        doubleValuePublisher(*box)->sink([&](double value) { values.push_back(value); }, end);
+    box->click();
+    box->Control::sendAction(); // changes nothing, and is sent all the same
+    box->click();
+    EXPECT_EQ(states, (std::vector{ControlState::on, ControlState::on, ControlState::off}));
+    EXPECT_EQ(values, (std::vector{1.0, 1.0, 0.0}));
+    EXPECT_EQ(ends, 0);
+    const auto kept = publisher(*box);
+    box.reset();
+    EXPECT_EQ(ends, 2);
+    EXPECT_EQ(kept->control(), nullptr);
+}
+
+TEST(NSControlPublisher, TellsTheSelectedItemOfAPopUpButton) {
+    platform::PopUpButton popUp;
+    popUp.addItem(QStringLiteral("A"));
+    popUp.addItem(QStringLiteral("B"));
+    QStringList selected;
+    const auto token = selectedItemPublisher(popUp)->sink(
+        [&](platform::MenuItem* const& item) { selected.append(item->title()); });
+    popUp.selectNextItem();
+    popUp.selectItem(0); // a program's selection is no action
+    popUp.selectNextItem();
+    EXPECT_EQ(selected, (QStringList{QStringLiteral("B"), QStringLiteral("B")}));
+}
+
+TEST(NSControlPublisher, TheLastTargetWins) {
+    StyledCheckBox box;
+    ActionCounter counter;
+    int published = 0;
+    box.setAction(ActionCounter::first, &counter);
+    const auto token = publisher(box)->sink([&](StyledCheckBox* const&) { ++published; });
+    box.click();
+    EXPECT_EQ(counter.count, 0);
+    box.setAction(ActionCounter::first, &counter);
+    box.click();
+    EXPECT_EQ(counter.count, 1);
+    EXPECT_EQ(published, 1);
+}
+
+TEST(NSControlPublisher, OfAnotherTypeTakesThePlaceOfTheFormer) {
+    StyledCheckBox box;
+    int ends = 0;
+    const auto former = statePublisher(box)->sink([](ControlState) {}, [&](auto&) { ++ends; });
+    int published = 0;
+    const auto general =
+        publisher<platform::PushButton>(box)->sink([&](platform::PushButton* const&) { ++published; });
+    EXPECT_EQ(ends, 1) << "a control has one publisher";
+    box.click();
+    EXPECT_EQ(published, 1);
+    int again = 0;
+    const auto latter = publisher(box)->sink([&](StyledCheckBox* const&) { ++again; });
+    box.click();
+    EXPECT_EQ(again, 1);
+    EXPECT_STREQ(box.action()->name, "controlActionWithSender");
+}
+
+TEST(FocusOnOutput, GivesTheKeyboardToAViewThatIsShown) {
+    QWidget window;
+    QLineEdit first(&window);
+    auto second = std::make_unique<QLineEdit>(&window);
+    const auto subject = std::make_shared<platform::PassthroughSubject<int>>();
+    const auto token = focusOnOutput(*subject, *second);
+    first.setFocus();
+    subject->send(1);
+    EXPECT_EQ(window.focusWidget(), &first) << "there is no window yet";
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    subject->send(2);
+    EXPECT_TRUE(second->hasFocus());
+
+    first.setFocus();
+    std::thread([&] { subject->send(3); }).join();
+    EXPECT_TRUE(first.hasFocus());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return second->hasFocus(); }));
+
+    second.reset();
+    subject->send(4);
+    EXPECT_FALSE(first.isHidden());
+}

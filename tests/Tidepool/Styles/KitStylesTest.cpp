@@ -1,0 +1,69 @@
+#include "Tidepool/Styles/KitStyles.h"
+#include "Tidepool/Buttons/BackButton.h"
+#include "Tidepool/Buttons/StyledCheckBox.h"
+#include "Tidepool/Palette/TPColors.h"
+#include "Tidepool/Styles/CheckBoxCellStyle.h"
+#include "Tidepool/Styles/TableViewStyle.h"
+#include "tests/support/Pixels.h"
+
+#include <gtest/gtest.h>
+
+using namespace tidepool;
+using platform::Appearance;
+
+namespace {
+
+QImage look(platform::PushButton& button) {
+    button.resize(60, 28);
+    return picture(button);
+}
+
+/// The colour in the middle of the mark-free part of a box that is on.
+QColor boxColor(QWidget& window, platform::PushButton& box) {
+    box.setState(platform::ControlState::on);
+    box.resize(box.sizeHint());
+    window.resize(box.size());
+    return picture(box).pixelColor(6, box.height() / 2 - 5);
+}
+
+} // namespace
+
+TEST(KitStyles, ChangeARunningWindowAndBack) {
+    QWidget window;
+    BackButton button(QStringLiteral("Back"), &window);
+    const QImage dark = look(button);
+    StyleSet::apply(window, makeStyleSet(Appearance::light));
+    EXPECT_GT(difference(look(button), dark), 60);
+    EXPECT_EQ(platform::currentAppearance(), Appearance::dark) << "only the set is light";
+    StyleSet::apply(window, makeStyleSet(Appearance::dark));
+    EXPECT_EQ(difference(look(button), dark), 0);
+    StyleSet::apply(window, nullptr);
+    EXPECT_EQ(difference(look(button), dark), 0);
+}
+
+TEST(KitStyles, AccentReplacesTheBlueAndNothingElse) {
+    QWidget window;
+    StyledCheckBox box({}, &window);
+    const QColor blue = boxColor(window, box);
+    StyleSet::apply(window, makeStyleSet(Appearance::dark, QColor(230, 90, 30)));
+    const QColor orange = boxColor(window, box);
+    EXPECT_NEAR(blue.hue(), 220, 12);
+    EXPECT_NEAR(orange.hue(), 18, 12);
+    EXPECT_GT(orange.saturation(), 120);
+
+    box.setState(platform::ControlState::off);
+    const QImage off = picture(box);
+    StyleSet::apply(window, nullptr);
+    EXPECT_LE(difference(off, picture(box)), 1) << "a box that is off has no accent";
+}
+
+TEST(KitStyles, SetHasEveryStyleInItsAppearance) {
+    const auto set = makeStyleSet(Appearance::light, QColor(Qt::red));
+    const auto* style = set->get<CheckBoxCellStyle>();
+    ASSERT_NE(style, nullptr);
+    EXPECT_EQ(style->appearanceName(), Appearance::light);
+    EXPECT_EQ(style->focusRingColor(), QColor(Qt::red));
+    EXPECT_NE(style->textColor(), TPColors::grey85.color());
+    EXPECT_EQ(set->get<TableViewStyle>()->selectedRowBackgroundColor(), QColor(Qt::red));
+    EXPECT_EQ(set->get<OutlineViewStyle>()->selectedRowBackgroundColor(), QColor(Qt::red));
+}
