@@ -5,8 +5,9 @@
 #include "Chorale/ParameterGesture.h"
 #include "Chorale/ParameterText.h"
 #include "Chorale/RocketFontModifier.h"
-#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
 #include "Platform/Controls/Menu.h"
+#include "Platform/Graphics/Pens.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -29,7 +30,7 @@ void paintArrow(QPainter& painter, QPointF middle, qreal scale, const QColor& co
     const QPointF half = QPointF(arrowSize.width() / 2, arrowSize.height() / 2) * scale;
     const QPointF points[] = {middle - half, middle + QPointF(0, half.y()),
                               middle + QPointF(half.x(), -half.y())};
-    painter.setPen(QPen(color, arrowWidth * scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(platform::roundPen(color, arrowWidth * scale));
     painter.drawPolyline(points, std::size(points));
 }
 
@@ -98,7 +99,7 @@ void ChoiceLabel::paintEvent(QPaintEvent*) {
 
     constexpr qreal radius = 4;
     if (hasFocus() && isActiveWindow())
-        platform::paintFocusRing(painter, QRectF(rect()), radius);
+        platform::drawFocusRing(painter, QRectF(rect()), {.radius = radius});
 }
 
 void ChoiceLabel::mousePressEvent(QMouseEvent* event) {

@@ -4,7 +4,7 @@
 #include "Chorale/LabelRows.h"
 #include "Chorale/ParameterText.h"
 #include "Chorale/RocketFontModifier.h"
-#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -140,7 +140,7 @@ void DialLabel::paintEvent(QPaintEvent*) {
         paintValue(painter);
     constexpr qreal radius = 4;
     if (hasFocus() && isActiveWindow())
-        platform::paintFocusRing(painter, fieldFrame(), radius); // clear of the name
+        platform::drawFocusRing(painter, fieldFrame(), {.radius = radius}); // clear of the name
 }
 
 void DialLabel::paintName(QPainter& painter) const {

@@ -1,6 +1,7 @@
 #include "Chorale/DialPainter.h"
 
-#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
+#include "Platform/Graphics/Pens.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -12,6 +13,8 @@
 namespace chorale {
 
 namespace {
+
+using State = platform::StyledControlState;
 
 /// Lengths in parts of the diameter.
 constexpr qreal ringWidth = 0.065;
@@ -26,27 +29,24 @@ int qtAngle(double position) {
     return static_cast<int>(std::lround((start - position * sweep) * 16));
 }
 
-QPen roundPen(const QColor& color, qreal width) {
-    return {color, width, Qt::SolidLine, Qt::RoundCap};
-}
-
 void paintRing(QPainter& painter, const QRectF& frame, const DialLook& look) {
     const qreal width = frame.width() * ringWidth;
     const QRectF ring = frame.adjusted(width, width, -width, -width);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(roundPen(QColor(0, 0, 0, 110), width));
+    painter.setPen(platform::roundPen(QColor(0, 0, 0, 110), width));
     painter.drawArc(ring, qtAngle(0), qtAngle(1) - qtAngle(0));
-    painter.setPen(roundPen(QColor(255, 255, 255, 18), width * 0.6));
+    painter.setPen(platform::roundPen(QColor(255, 255, 255, 18), width * 0.6));
     painter.drawArc(ring, qtAngle(0), qtAngle(1) - qtAngle(0));
     const double from = std::min(look.origin, look.value);
     const double to = std::max(look.origin, look.value);
     if (to <= from)
         return;
+    const bool isHeld = look.state.contains(State::highlighted);
     QColor glow = look.accent;
-    glow.setAlpha(look.isHeld ? 90 : 45);
-    painter.setPen(roundPen(glow, width * 1.9));
+    glow.setAlpha(isHeld ? 90 : 45);
+    painter.setPen(platform::roundPen(glow, width * 1.9));
     painter.drawArc(ring, qtAngle(from), qtAngle(to) - qtAngle(from));
-    painter.setPen(roundPen(look.isHeld ? look.accent.lighter(115) : look.accent, width));
+    painter.setPen(platform::roundPen(isHeld ? look.accent.lighter(115) : look.accent, width));
     painter.drawArc(ring, qtAngle(from), qtAngle(to) - qtAngle(from));
 }
 
@@ -80,7 +80,7 @@ void paintPointer(QPainter& painter, const QRectF& frame, const DialLook& look) 
     const double turn = (look.value - 0.5) * dialSweep;
     const QPointF direction(std::sin(turn), -std::cos(turn));
     const qreal radius = frame.width() * (0.5 - knobInset);
-    painter.setPen(roundPen(QColor(0xf2, 0xf3, 0xf8), std::max(1.5, frame.width() * pointerWidth)));
+    painter.setPen(platform::roundPen(QColor(0xf2, 0xf3, 0xf8), std::max(1.5, frame.width() * pointerWidth)));
     painter.drawLine(frame.center() + direction * radius * 0.5, frame.center() + direction * radius * 0.82);
 }
 
@@ -88,12 +88,12 @@ void paintPointer(QPainter& painter, const QRectF& frame, const DialLook& look) 
 
 void paintDial(QPainter& painter, const QRectF& frame, const DialLook& look) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(look.isEnabled ? 1 : disabledOpacity);
+    painter.setOpacity(look.state.contains(State::disabled) ? disabledOpacity : 1);
     paintRing(painter, frame, look);
     paintKnob(painter, frame);
     paintPointer(painter, frame, look);
-    if (look.isFocused)
-        platform::paintFocusRing(painter, frame, frame.width() / 2);
+    if (look.state.contains(State::focused))
+        platform::drawFocusRing(painter, frame, {.radius = frame.width() / 2});
 }
 
 } // namespace chorale

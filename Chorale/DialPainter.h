@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Controls/StyledControlState.h"
+
 #include <QColor>
 #include <QRectF>
 
@@ -19,9 +21,8 @@ struct DialLook {
     /// Where the coloured arc begins: the place of zero in a range with values on both sides.
     double origin = 0;
     QColor accent;
-    bool isHeld = false;
-    bool isEnabled = true;
-    bool isFocused = false;
+    /// Of it `highlighted`, `disabled` and `focused` show.
+    platform::StyledControlState state;
 };
 
 /// Draws a dial into the square `frame`, in points: a knob with a pointer inside a ring that is lit from the

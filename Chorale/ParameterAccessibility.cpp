@@ -3,6 +3,7 @@
 #include "Chorale/AudioParameter.h"
 #include "Chorale/ParameterSteps.h"
 #include "Chorale/ParameterView.h"
+#include "Platform/Controls/Accessibility.h"
 
 #include <QAccessibleWidget>
 #include <QWidget>
@@ -13,8 +14,8 @@ namespace {
 
 class ParameterViewInterface : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    ParameterViewInterface(QWidget& widget, ParameterView& view)
-        : QAccessibleWidget(&widget, view.role()), m_view(view) {}
+    explicit ParameterViewInterface(ParameterView& view)
+        : QAccessibleWidget(&dynamic_cast<QWidget&>(view), view.role()), m_view(view) {}
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface)
@@ -67,19 +68,10 @@ private:
     ParameterView& m_view;
 };
 
-QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-    auto* const view = dynamic_cast<ParameterView*>(object);
-    return view != nullptr ? new ParameterViewInterface(dynamic_cast<QWidget&>(*object), *view) : nullptr;
-}
-
 } // namespace
 
 void installParameterAccessibility() {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
-    Q_UNUSED(installed);
+    platform::installAccessibility<ParameterView, ParameterViewInterface>();
 }
 
 } // namespace chorale

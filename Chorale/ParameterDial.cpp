@@ -19,6 +19,8 @@ namespace chorale {
 
 namespace {
 
+using State = platform::StyledControlState;
+
 /// How far a drag goes from one end of the range to the other, in points.
 constexpr double fullDrag = 200;
 constexpr double fineFactor = 0.1;
@@ -67,9 +69,7 @@ ParameterDial::ParameterDial(std::shared_ptr<AudioParameter> param, qreal diamet
             QOverload<>::of(&QWidget::update));
 }
 
-ParameterDial::~ParameterDial() {
-    m_tracking.reset();
-}
+ParameterDial::~ParameterDial() = default;
 
 QString ParameterDial::valueText() const {
     if (m_param->valueStrings() && !m_param->valueStrings()->isEmpty())
@@ -94,37 +94,46 @@ void ParameterDial::paintEvent(QPaintEvent*) {
               {.value = placeInRange(*m_param, m_param->value()),
                .origin = isBipolar ? placeInRange(*m_param, 0) : 0,
                .accent = m_accent,
-               .isHeld = m_gesture != nullptr,
-               .isEnabled = isEnabled(),
-               .isFocused = hasFocus() && isActiveWindow()});
+               .state = State()
+                            .with(State::highlighted, m_gesture != nullptr)
+                            .with(State::disabled, !isEnabled())
+                            .with(State::focused, hasFocus() && isActiveWindow())});
 }
 
-void ParameterDial::beginDrag(const QMouseEvent& press) {
-    m_last = press.position();
+platform::PanGestureRecognizer::Handlers ParameterDial::drag() {
+    return {[this](const QMouseEvent& press) { return beginDrag(press); },
+            [this](const QMouseEvent& move, QPointF from) { dragTo(move, from); },
+            [this](platform::PointerTracking::End end) { endDrag(end); }};
+}
+
+bool ParameterDial::beginDrag(const QMouseEvent& press) {
+    if (press.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) // some desktops keep Alt
+        return false;
     m_position = placeInRange(*m_param, m_param->value());
     m_gesture = std::make_unique<ParameterGesture>(m_param);
-    m_tracking =
-        std::make_unique<platform::PointerTracking>(*this, [this](platform::PointerTracking::End end) {
-            if (end == platform::PointerTracking::End::escaped)
-                m_gesture->cancel();
-            m_gesture.reset();
-            update();
-        });
+    update();
+    return true;
+}
+
+void ParameterDial::dragTo(const QMouseEvent& move, QPointF from) {
+    const double speed = move.modifiers().testFlag(Qt::ShiftModifier) ? fineFactor : 1;
+    m_position = std::clamp(m_position + turned(from, move.position()) * speed, 0.0, 1.0);
+    const double value = valueAtPlace(*m_param, m_position);
+    m_gesture->setValue(static_cast<float>(isWhole(*m_param) ? std::round(value) : value));
+}
+
+void ParameterDial::endDrag(platform::PointerTracking::End end) {
+    if (end == platform::PointerTracking::End::escaped)
+        m_gesture->cancel();
+    m_gesture.reset();
     update();
 }
 
-double ParameterDial::moved(QPointF to) {
-    const QPointF from = std::exchange(m_last, to);
+double ParameterDial::turned(QPointF from, QPointF to) const {
     if (m_dragMode == DragMode::vertical)
         return (from.y() - to.y()) / (fullDrag * m_scale);
     const QPointF center = QRectF(rect()).center();
-    const double turned = angle(to, center) - angle(from, center);
-    return std::remainder(turned, 2 * std::numbers::pi) / dialSweep;
-}
-
-void ParameterDial::apply() {
-    const double value = valueAtPlace(*m_param, m_position);
-    m_gesture->setValue(static_cast<float>(isWhole(*m_param) ? std::round(value) : value));
+    return std::remainder(angle(to, center) - angle(from, center), 2 * std::numbers::pi) / dialSweep;
 }
 
 void ParameterDial::reset() {
@@ -132,36 +141,11 @@ void ParameterDial::reset() {
 }
 
 void ParameterDial::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton)
-        event->ignore();
-    else if (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier)) // some desktops keep Alt
-        reset();
-    else
-        beginDrag(*event);
-}
-
-void ParameterDial::mouseMoveEvent(QMouseEvent* event) {
-    if (!m_tracking || !m_tracking->isActive()) {
-        event->ignore();
-        return;
-    }
-    const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier);
-    m_position = std::clamp(m_position + moved(event->position()) * (isFine ? fineFactor : 1), 0.0, 1.0);
-    apply();
-}
-
-void ParameterDial::mouseReleaseEvent(QMouseEvent* event) {
-    if (m_tracking && event->button() == Qt::LeftButton)
-        m_tracking->release();
-    else
-        event->ignore();
+    event->button() == Qt::LeftButton ? reset() : event->ignore();
 }
 
 void ParameterDial::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        reset();
-    else
-        event->ignore();
+    mousePressEvent(event);
 }
 
 void ParameterDial::wheelEvent(QWheelEvent* event) {
@@ -186,9 +170,8 @@ void ParameterDial::stepOnce(double count) {
 
 void ParameterDial::keyPressEvent(QKeyEvent* event) {
     const double count = stepsOf(*event);
-    const bool isDragged = m_tracking && m_tracking->isActive();
     const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier) && !isWhole(*m_param);
-    if (isDragged || (count == 0 && !isReset(*event)))
+    if (m_drag.isActive() || (count == 0 && !isReset(*event)))
         QWidget::keyPressEvent(event);
     else if (count == 0)
         reset();
@@ -199,13 +182,13 @@ void ParameterDial::keyPressEvent(QKeyEvent* event) {
 void ParameterDial::keyReleaseEvent(QKeyEvent* event) {
     if (stepsOf(*event) == 0)
         QWidget::keyReleaseEvent(event);
-    else if (!event->isAutoRepeat() && !(m_tracking && m_tracking->isActive()))
+    else if (!event->isAutoRepeat() && !m_drag.isActive())
         m_gesture.reset();
 }
 
 void ParameterDial::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
-    if (!m_tracking || !m_tracking->isActive())
+    if (!m_drag.isActive())
         m_gesture.reset();
 }
 

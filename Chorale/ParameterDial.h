@@ -3,7 +3,7 @@
 #include "Chorale/ParameterSteps.h"
 #include "Chorale/ParameterView.h"
 #include "Chorale/ViewScale.h"
-#include "Platform/Controls/PointerTracking.h"
+#include "Platform/Controls/PanGestureRecognizer.h"
 
 #include <QColor>
 #include <QWidget>
@@ -48,8 +48,6 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -57,11 +55,13 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void beginDrag(const QMouseEvent& press);
+    platform::PanGestureRecognizer::Handlers drag();
+    bool beginDrag(const QMouseEvent& press);
+    void dragTo(const QMouseEvent& move, QPointF from);
+    void endDrag(platform::PointerTracking::End end);
+    /// Part of the range that the pointer has moved by.
+    double turned(QPointF from, QPointF to) const;
     void reset();
-    /// Part of the range that the pointer has moved by since it was last seen.
-    double moved(QPointF to);
-    void apply();
     void stepOnce(double count);
 
     const std::shared_ptr<AudioParameter> m_param;
@@ -71,10 +71,9 @@ private:
     DragMode m_dragMode = DragMode::vertical;
     int m_decimalPlaces = 1;
     double m_position = 0;                       // the drag's place in the range, between detents too
-    QPointF m_last;                              // where the pointer was seen last
     ParameterSteps m_steps{m_param};             // of the wheel and the keys
     std::unique_ptr<ParameterGesture> m_gesture; // of a drag or a key
-    std::unique_ptr<platform::PointerTracking> m_tracking; // of a drag
+    platform::PanGestureRecognizer m_drag{*this, drag()};
 };
 
 } // namespace chorale

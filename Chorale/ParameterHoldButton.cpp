@@ -1,8 +1,9 @@
 #include "Chorale/ParameterHoldButton.h"
 
 #include "Chorale/AudioParameter.h"
-#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
 #include "Platform/Controls/PointerTracking.h"
+#include "Platform/Graphics/Dimming.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -81,11 +82,11 @@ void ParameterHoldButton::paintEvent(QPaintEvent*) {
     QRectF frame(QPointF(), image.size() * m_scale);
     frame.moveCenter(QRectF(rect()).center());
     if (!isEnabled())
-        painter.setOpacity(0.5);
+        painter.setOpacity(platform::dimmedOpacity);
     drawScaled(painter, image, frame, m_scale);
     constexpr qreal radius = 3;
     if (hasFocus() && isActiveWindow())
-        platform::paintFocusRing(painter, QRectF(rect()), radius);
+        platform::drawFocusRing(painter, QRectF(rect()), {.radius = radius});
 }
 
 void ParameterHoldButton::mousePressEvent(QMouseEvent* event) {

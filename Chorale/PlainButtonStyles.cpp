@@ -2,6 +2,7 @@
 
 #include "Chorale/AssetResources.h"
 #include "Chorale/RocketFontModifier.h"
+#include "Platform/Controls/FocusRing.h"
 
 #include <QPainter>
 
@@ -14,9 +15,9 @@ constexpr qreal focusRadius = 4;
 
 /// What all buttons without a bezel do.
 void prepare(QPainter& painter, const platform::ButtonConfiguration& configuration) {
-    painter.setOpacity(configuration.isPressed ? pressedOpacity : 1);
-    if (configuration.isFocused)
-        platform::paintFocusRing(painter, configuration.frame, focusRadius);
+    painter.setOpacity(configuration.isPressed() ? pressedOpacity : 1);
+    if (configuration.isFocused())
+        platform::drawFocusRing(painter, configuration.frame, {.radius = focusRadius});
 }
 
 } // namespace
@@ -28,7 +29,8 @@ QFont TabButtonStyle::font() const {
 
 void TabButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     prepare(painter, configuration);
-    painter.setPen(m_isSelected ? EditorAssets::tabSelected.color() : EditorAssets::tabUnselected.color());
+    const bool isSelected = configuration.state.contains(platform::StyledControlState::on);
+    painter.setPen(isSelected ? EditorAssets::tabSelected.color() : EditorAssets::tabUnselected.color());
     painter.drawText(configuration.frame, Qt::AlignCenter, configuration.label);
 }
 

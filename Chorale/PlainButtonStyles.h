@@ -9,8 +9,6 @@ namespace chorale {
 /// A tab of the header: its label alone, in the colour of the chosen tab or of the others.
 class TabButtonStyle : public platform::ButtonStyle {
 public:
-    explicit TabButtonStyle(const bool& isSelected) : m_isSelected(isSelected) {}
-
     QFont font() const override;
 
     QSizeF size(QSizeF label) const override { return label; }
@@ -19,7 +17,6 @@ public:
 
 private:
     const qreal m_scale = ViewScale::current();
-    const bool& m_isSelected; // the button's
 };
 
 /// An image alone.

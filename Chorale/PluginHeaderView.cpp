@@ -65,7 +65,7 @@ void PluginHeaderView::setUpdateDetails(const std::optional<UpdateAvailableDetai
         return;
     const ViewScale scale(m_scale);
     const QString title = (details->newVersion + QStringLiteral(" Available")).toUpper();
-    auto* const button = new platform::Button(title, std::make_unique<UpdateButtonStyle>());
+    auto* const button = new platform::PushButton(title, std::make_unique<UpdateButtonStyle>());
     connect(button, &QAbstractButton::clicked, this,
             [this] { platform::openInBrowser(m_appUpdateURL, this); });
     m_update = button;
@@ -74,7 +74,7 @@ void PluginHeaderView::setUpdateDetails(const std::optional<UpdateAvailableDetai
 
 QWidget* PluginHeaderView::makeLogoRow() {
     auto* const logo =
-        new platform::Button({}, std::make_unique<LogoButtonStyle>(EditorAssets::quillfenLogo));
+        new platform::PushButton({}, std::make_unique<LogoButtonStyle>(EditorAssets::quillfenLogo));
     logo->setAccessibleName(tr("Website of the maker"));
     connect(logo, &QAbstractButton::clicked, this,
             [this] { platform::openInBrowser(MakerLinks::website(), this); });
@@ -117,7 +117,9 @@ QWidget* PluginHeaderView::makeTrailingRow(const QString& version, const std::fu
 
 void PluginHeaderView::showTab() {
     for (std::size_t index = 0; index < m_tabs.size(); ++index)
-        m_tabs[index]->setSelected(m_tabParameter->value() == static_cast<float>(index));
+        m_tabs[index]->setState(m_tabParameter->value() == static_cast<float>(index)
+                                    ? platform::ControlState::on
+                                    : platform::ControlState::off);
 }
 
 void PluginHeaderView::paintEvent(QPaintEvent*) {

@@ -5,15 +5,8 @@
 namespace chorale {
 
 TabButton::TabButton(const QString& title, QWidget* parent)
-    : Button(title, std::make_unique<TabButtonStyle>(m_isSelected), parent) {
-    // For assistive technology, which is told which one is chosen.
-    setCheckable(true);
-}
-
-void TabButton::setSelected(bool isSelected) {
-    m_isSelected = isSelected;
-    setChecked(isSelected);
-    update();
+    : PushButton(title, std::make_unique<TabButtonStyle>(), parent) {
+    cell().setButtonType(platform::ButtonCell::ButtonType::onOff);
 }
 
 } // namespace chorale

@@ -1,26 +1,19 @@
 #pragma once
 
-#include "Platform/Controls/Button.h"
+#include "Platform/Controls/PushButton.h"
 
 namespace chorale {
 
-/// One tab of the header.
-class TabButton : public platform::Button {
+/// One tab of the header, on while it is the chosen one.
+class TabButton : public platform::PushButton {
     Q_OBJECT
 
 public:
     explicit TabButton(const QString& title, QWidget* parent = nullptr);
 
-    bool isSelected() const { return m_isSelected; }
-
-    void setSelected(bool isSelected);
-
 protected:
     /// Only the parameter selects.
     void nextCheckState() override {}
-
-private:
-    bool m_isSelected = false;
 };
 
 } // namespace chorale

@@ -2,6 +2,7 @@
 
 #include "Chorale/AssetResources.h"
 #include "Chorale/RocketFontModifier.h"
+#include "Platform/Controls/FocusRing.h"
 
 #include <QPainter>
 
@@ -26,7 +27,7 @@ QSizeF UpdateButtonStyle::size(QSizeF label) const {
 }
 
 void UpdateButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
-    painter.setOpacity(configuration.isPressed ? pressedOpacity : 1);
+    painter.setOpacity(configuration.isPressed() ? pressedOpacity : 1);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(EditorAssets::updateBackground.color());
@@ -35,8 +36,8 @@ void UpdateButtonStyle::paint(QPainter& painter, const platform::ButtonConfigura
     painter.drawText(
         configuration.frame.adjusted(sidePadding * m_scale, topPadding * m_scale, -sidePadding * m_scale, 0),
         Qt::AlignCenter, configuration.label);
-    if (configuration.isFocused)
-        platform::paintFocusRing(painter, configuration.frame, radius);
+    if (configuration.isFocused())
+        platform::drawFocusRing(painter, configuration.frame, {.radius = radius});
 }
 
 } // namespace chorale

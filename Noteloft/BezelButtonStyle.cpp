@@ -1,5 +1,6 @@
 #include "Noteloft/BezelButtonStyle.h"
 
+#include "Platform/Controls/FocusRing.h"
 #include "Platform/Graphics/Image.h"
 
 #include <QPainter>
@@ -17,11 +18,11 @@ qreal BezelButtonStyle::overhang() const {
 
 void BezelButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     constexpr qreal focusRadius = 7;
-    bezel(configuration.isPressed).draw(painter, configuration.frame);
+    bezel(configuration.isPressed()).draw(painter, configuration.frame);
     painter.setPen(labelColor(configuration));
     painter.drawText(configuration.frame, Qt::AlignCenter, configuration.label);
-    if (configuration.isFocused)
-        platform::paintFocusRing(painter, configuration.frame, focusRadius);
+    if (configuration.isFocused())
+        platform::drawFocusRing(painter, configuration.frame, {.radius = focusRadius});
 }
 
 } // namespace noteloft

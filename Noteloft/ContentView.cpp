@@ -6,8 +6,8 @@
 #include "Noteloft/ContentViewShader.h"
 #include "Noteloft/QuillfenButtonStyle.h"
 #include "Noteloft/ResourceBundle.h"
-#include "Platform/Controls/Button.h"
 #include "Platform/Controls/ImageView.h"
+#include "Platform/Controls/PushButton.h"
 #include "Platform/Controls/ShadowedLabel.h"
 #include "Platform/Core/ConstantUrl.h"
 #include "Platform/Graphics/DisplayP3.h"
@@ -19,6 +19,8 @@
 #include <QPainter>
 #include <QShowEvent>
 #include <QVBoxLayout>
+
+#include <cmath>
 
 namespace noteloft {
 
@@ -111,9 +113,9 @@ QBoxLayout* ContentView::makeInstructions() {
 
 QBoxLayout* ContentView::makeButtonRow(qreal buttonWidth) {
     const auto makeButton = [buttonWidth](const QString& title, void (*action)()) {
-        auto* const button = new platform::Button(title, std::make_unique<QuillfenButtonStyle>());
-        button->setLabelWidth(buttonWidth);
-        connect(button, &platform::Button::clicked, button, action);
+        auto* const button = new platform::PushButton(title, std::make_unique<QuillfenButtonStyle>());
+        button->setFixedWidth(static_cast<int>(std::ceil(buttonWidth)));
+        connect(button, &platform::PushButton::clicked, button, action);
         return button;
     };
     auto* const row = new QHBoxLayout;

@@ -1,5 +1,6 @@
 #include "Noteloft/DefaultVantorButtonStyle.h"
 
+#include "Platform/Graphics/Dimming.h"
 #include "Platform/Graphics/SystemFont.h"
 #include "Tidepool/Palette/TPColors.h"
 #include "Tidepool/Palette/TPImages.h"
@@ -18,10 +19,8 @@ const platform::Image& DefaultVantorButtonStyle::bezel(bool isPressed) const {
 }
 
 QColor DefaultVantorButtonStyle::labelColor(const platform::ButtonConfiguration& configuration) const {
-    QColor color = configuration.isPressed ? TPColorsAK::grey50 : TPColorsAK::grey85;
-    if (!configuration.isEnabled)
-        color.setAlphaF(color.alphaF() * 0.5F);
-    return color;
+    const QColor color = configuration.isPressed() ? TPColorsAK::grey50 : TPColorsAK::grey85;
+    return configuration.isEnabled() ? color : platform::dimmed(color);
 }
 
 } // namespace noteloft

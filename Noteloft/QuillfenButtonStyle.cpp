@@ -14,7 +14,7 @@ const platform::Image& QuillfenButtonStyle::bezel(bool isPressed) const {
 }
 
 QColor QuillfenButtonStyle::labelColor(const platform::ButtonConfiguration& configuration) const {
-    return configuration.isPressed ? Assets::labels : Assets::buttonText;
+    return configuration.isPressed() ? Assets::labels : Assets::buttonText;
 }
 
 } // namespace noteloft

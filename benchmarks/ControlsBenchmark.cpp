@@ -155,7 +155,7 @@ void drawCells(benchmark::State& state, Page& page) {
         for (const auto& [button, position] : buttons) {
             const QTransform before = painter.transform();
             painter.translate(position);
-            button->cell().draw(painter, QRectF(QPointF(), cellSize));
+            button->cell().draw(painter, QRectF(QPointF(), cellSize), button->context());
             painter.setTransform(before);
         }
     };

@@ -2,8 +2,11 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
 class QLabel;
+
+namespace platform {
+class AlignedBoxLayout;
+}
 
 namespace gallery {
 
@@ -27,7 +30,7 @@ public:
 private:
     void take(QWidget* control);
 
-    QHBoxLayout* m_row;
+    platform::AlignedBoxLayout* m_row;
     QLabel* m_line;
 };
 

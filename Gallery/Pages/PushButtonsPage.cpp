@@ -80,8 +80,8 @@ void addInsets(Section& section, const GallerySettings& settings) {
             button.setText(QStringLiteral("Render"));
             button.setFixedHeight(height);
             button.setFixedWidth(96);
-            button.vantorCell().setTitleEdgeInsets(insets);
-            button.vantorCell().setVerticallyCenterTitle(insets.isNull());
+            button.cell().setTitleEdgeInsets(insets);
+            button.cell().setVerticallyCenterTitle(insets.isNull());
             button.setSelected(settings.isSelected);
         });
     };

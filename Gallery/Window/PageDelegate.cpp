@@ -2,7 +2,7 @@
 
 #include "Gallery/Layout/Text.h"
 #include "Gallery/Window/PageFilter.h"
-#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
 #include "Tidepool/Palette/TPColors.h"
 
 #include <QPainter>
@@ -49,7 +49,7 @@ void PageDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         painter->drawRoundedRect(item, radius, radius);
     }
     if (isSelected && (option.state & QStyle::State_HasFocus) != 0)
-        platform::paintFocusRing(*painter, item, radius);
+        platform::drawFocusRing(*painter, item, {.radius = radius});
     painter->setFont(textFont(TextRole::body));
     painter->setPen(isSelected ? TPColorsAK::grey100.color() : TPColorsAK::grey70.color());
     painter->drawText(text, Qt::AlignLeading | Qt::AlignVCenter, index.data().toString());

@@ -17,8 +17,10 @@ void BaseButton::nextCheckState() {
 void BaseButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QAbstractButton::keyPressEvent(event);
-    else if (!event->isAutoRepeat() && !std::exchange(m_isReturnHeld, true))
+    else if (!event->isAutoRepeat() && !std::exchange(m_isReturnHeld, true)) {
+        m_returnPress = currentEvent();
         animateClick();
+    }
 }
 
 void BaseButton::keyReleaseEvent(QKeyEvent* event) {
@@ -42,6 +44,7 @@ void BaseButton::hideEvent(QHideEvent* event) {
 
 /// Qt clicks a while after Return or the mnemonic, also if the button was disabled or hidden meanwhile.
 void BaseButton::timerEvent(QTimerEvent* event) {
+    const CurrentEventScope scope(m_returnPress);
     if (isDown()) {
         QAbstractButton::timerEvent(event);
         return;

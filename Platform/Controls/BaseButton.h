@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Controls/CurrentEvent.h"
+
 #include <QAbstractButton>
 
 namespace platform {
@@ -25,7 +27,8 @@ protected:
 
 private:
     bool m_isPressOver = false;
-    bool m_isReturnHeld = false; // some hosts of plug-ins pass repeats on as presses
+    std::optional<UserEvent> m_returnPress; // for the click that follows later
+    bool m_isReturnHeld = false;            // some hosts of plug-ins pass repeats on as presses
 };
 
 } // namespace platform

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/Controls/Cell.h"
-#include "Platform/Graphics/PreparedText.h"
+#include "Platform/Graphics/Image.h"
 
 namespace platform {
 
@@ -14,6 +14,7 @@ class ButtonCell : public Cell {
 public:
     /// By what a pressed button, or one that is on, is told from another.
     enum Mask { none = 0, contents = 1, pushIn = 2, changeGray = 4, changeBackground = 8 };
+    Q_DECLARE_FLAGS(Masks, Mask)
 
     enum class ButtonType {
         momentaryLight,
@@ -34,18 +35,19 @@ public:
     /// Sets both masks as the type has them.
     void setButtonType(ButtonType type);
 
-    int highlightsBy() const { return m_highlightsBy; }
+    /// With `contents` a pressed button shows its alternate image.
+    Masks highlightsBy() const { return m_highlightsBy; }
 
-    void setHighlightsBy(int mask) { m_highlightsBy = mask; }
+    void setHighlightsBy(Masks masks) { set(m_highlightsBy, masks); }
 
-    /// 0 for a button that shows no state and therefore has none.
-    int showsStateBy() const { return m_showsStateBy; }
+    /// Empty for a button that shows no state and therefore has none.
+    Masks showsStateBy() const { return m_showsStateBy; }
 
-    void setShowsStateBy(int mask) { m_showsStateBy = mask; }
+    void setShowsStateBy(Masks masks) { set(m_showsStateBy, masks); }
 
     BezelStyle bezelStyle() const { return m_bezelStyle; }
 
-    void setBezelStyle(BezelStyle style) { m_bezelStyle = style; }
+    void setBezelStyle(BezelStyle style) { set(m_bezelStyle, style); }
 
     bool allowsMixedState() const { return m_allowsMixedState; }
 
@@ -53,67 +55,64 @@ public:
 
     ImagePosition imagePosition() const { return m_imagePosition; }
 
-    void setImagePosition(ImagePosition position) { m_imagePosition = position; }
+    void setImagePosition(ImagePosition position) { set(m_imagePosition, position); }
 
     ImageScaling imageScaling() const { return m_imageScaling; }
 
-    void setImageScaling(ImageScaling scaling) { m_imageScaling = scaling; }
+    void setImageScaling(ImageScaling scaling) { set(m_imageScaling, scaling); }
 
     /// What is shown while the button is off, and while it is on if there is one.
-    virtual const Image& image() const { return m_image; }
+    virtual const Image& image(const CellStyle&) const { return m_image; }
 
-    void setImage(Image image) { m_image = std::move(image); }
+    void setImage(Image image);
 
-    virtual const Image& alternateImage() const { return m_alternateImage; }
+    virtual const Image& alternateImage(const CellStyle&) const { return m_alternateImage; }
 
-    void setAlternateImage(Image image) { m_alternateImage = std::move(image); }
-
-    /// The title without what marks its mnemonic.
-    const QString& plainTitle() const { return preparedTitle(titleFont()).text(); }
+    void setAlternateImage(Image image);
 
     /// The state that a click leads to: off, on, off; with mixed off, mixed, on, off.
-    virtual ControlState nextState() const;
+    virtual ControlState nextState(ControlState state) const;
 
-    QRectF titleRect(const QRectF& bounds) const override;
-    QRectF imageRect(const QRectF& bounds) const override;
-    QSizeF cellSize() const override;
+    /// Where the title and the image stand.
+    virtual QRectF titleRect(const QRectF& bounds, const CellContext& context) const;
+    virtual QRectF imageRect(const QRectF& bounds, const CellContext& context) const;
 
-    void draw(QPainter& painter, const QRectF& frame) const override;
-    virtual void drawInterior(QPainter& painter, const QRectF& frame) const;
-    virtual void drawBezel(QPainter& painter, const QRectF& frame) const;
-    virtual void drawTitle(QPainter& painter, const QRectF& frame) const;
-    virtual void drawImage(QPainter& painter, const QRectF& frame) const;
+    /// The y of the line that the title stands on; absent without one.
+    std::optional<qreal> baseline(const QRectF& bounds, const CellContext& context) const;
+
+    QSizeF cellSize(const CellContext& context) const override;
+
+    void draw(QPainter& painter, const QRectF& frame, const CellContext& context) const override;
+    virtual void drawInterior(QPainter& painter, const QRectF& frame, const CellContext& context) const;
+    virtual void drawBezel(QPainter& painter, const QRectF& frame, const CellContext& context) const;
+    virtual void drawTitle(QPainter& painter, const QRectF& frame, const CellContext& context) const;
+    virtual void drawImage(QPainter& painter, const QRectF& frame, const CellContext& context) const;
 
 protected:
     /// Where both stand if no subclass says otherwise.
-    CellFrames arranged(const QRectF& bounds) const;
+    CellFrames arranged(const QRectF& bounds, const CellContext& context) const;
 
     /// Of the image and the alternate image the one that the state shows.
-    const Image& shownImage() const;
+    const Image& shownImage(const CellContext& context) const;
 
-    /// The title, shaped in `font`.
-    const PreparedText& preparedTitle(const QFont& font) const;
-
-    virtual const QFont& titleFont() const { return font(); }
+    virtual QSizeF imageSize(const CellContext& context) const { return shownImage(context).size(); }
 
     /// Whether the mnemonic is underlined, as the desktop's style wants it.
-    bool showsMnemonic() const;
-
-    virtual QSizeF imageSize() const { return shownImage().size(); }
+    bool showsMnemonic(const CellContext& context) const;
 
 private:
-    CellContent content() const;
-    QRectF contentRect(const QRectF& bounds) const;
+    CellContent content(const CellContext& context) const;
 
-    int m_highlightsBy = none;
-    int m_showsStateBy = none;
+    Masks m_highlightsBy;
+    Masks m_showsStateBy;
     BezelStyle m_bezelStyle = BezelStyle::rounded;
     bool m_allowsMixedState = false;
     ImagePosition m_imagePosition = ImagePosition::imageLeading;
     ImageScaling m_imageScaling = ImageScaling::proportionallyDown;
     Image m_image;
     Image m_alternateImage;
-    mutable PreparedText m_preparedTitle;
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(ButtonCell::Masks)
 
 } // namespace platform

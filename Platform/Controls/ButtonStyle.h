@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Controls/StyledControlState.h"
+
 #include <QFont>
 #include <QRectF>
 #include <QSizeF>
@@ -14,10 +16,14 @@ struct ButtonConfiguration {
     QString label;
     /// The whole button, in its own coordinates.
     QRectF frame;
-    bool isPressed = false;
-    bool isEnabled = true;
-    /// The keyboard is on the button, and the user uses the keyboard.
-    bool isFocused = false;
+    /// `focused` while the keyboard is on the button, and the user uses the keyboard.
+    StyledControlState state{};
+
+    bool isPressed() const { return state.contains(StyledControlState::highlighted); }
+
+    bool isEnabled() const { return !state.contains(StyledControlState::disabled); }
+
+    bool isFocused() const { return state.contains(StyledControlState::focused); }
 };
 
 /// The look of a button: a value without state of its own.
@@ -36,8 +42,5 @@ public:
 
     virtual void paint(QPainter& painter, const ButtonConfiguration& configuration) const = 0;
 };
-
-/// The ring around what has the keyboard: `frame` with rounded corners, in the system's highlight colour.
-void paintFocusRing(QPainter& painter, const QRectF& frame, qreal radius);
 
 } // namespace platform

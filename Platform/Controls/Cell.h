@@ -1,66 +1,41 @@
 #pragma once
 
+#include "Platform/Controls/CellStyle.h"
 #include "Platform/Controls/CellTypes.h"
-#include "Platform/Graphics/Image.h"
+#include "Platform/Controls/StyledControlState.h"
+#include "Platform/Graphics/PreparedText.h"
 
-#include <QFont>
 #include <QRectF>
-#include <QString>
 
 class QPainter;
 class QWidget;
 
 namespace platform {
 
-/// What a control measures and draws itself with. It receives no event: its control tells it what to show.
-/// Rectangles are points in the control's coordinates. Main thread.
+/// What a control is at this moment, handed to its cell to measure and to draw. Valid for that call.
+struct CellContext {
+    StyledControlState state;
+    const PreparedText& title;
+    Qt::LayoutDirection direction;
+    const CellStyle& style;
+};
+
+/// What a control measures and draws itself with. It receives no event, and neither measuring nor drawing
+/// changes it. Its setters show the change. Rectangles are points in the control's coordinates. Main thread.
 class Cell {
 public:
     virtual ~Cell() = default;
 
-    bool isEnabled() const { return m_enabled; }
-
-    void setEnabled(bool enabled) { m_enabled = enabled; }
-
-    /// Pressed.
-    bool isHighlighted() const { return m_highlighted; }
-
-    void setHighlighted(bool highlighted) { m_highlighted = highlighted; }
-
     bool isBordered() const { return m_bordered; }
 
-    void setBordered(bool bordered) { m_bordered = bordered; }
+    void setBordered(bool bordered) { set(m_bordered, bordered); }
 
     bool isBezeled() const { return m_bezeled; }
 
-    void setBezeled(bool bezeled) { m_bezeled = bezeled; }
+    void setBezeled(bool bezeled) { set(m_bezeled, bezeled); }
 
     /// True if it has a frame of either kind.
     bool isFramed() const { return m_bordered || m_bezeled; }
-
-    ControlState state() const { return m_state; }
-
-    void setState(ControlState state) { m_state = state; }
-
-    const QString& title() const { return m_title; }
-
-    // A view tells its cell all of this before each paint: to compare costs less than to share it again.
-    void setTitle(const QString& title) {
-        if (title != m_title)
-            m_title = title;
-    }
-
-    /// The title's font, unless a style says otherwise.
-    const QFont& font() const { return m_font; }
-
-    void setFont(const QFont& font) {
-        if (font != m_font)
-            m_font = font;
-    }
-
-    Qt::LayoutDirection layoutDirection() const { return m_direction; }
-
-    void setLayoutDirection(Qt::LayoutDirection direction) { m_direction = direction; }
 
     /// The control that shows the cell, or null. Not owned.
     QWidget* controlView() const { return m_controlView; }
@@ -70,31 +45,44 @@ public:
     /// Pixels in a point where the cell is shown; that of the main screen without a control.
     qreal backingScale() const;
 
-    /// The colour of an enabled control's text, which templates take: the one of the control's palette,
-    /// unless a style says otherwise.
-    virtual QColor controlTextColor() const;
+    /// Looked up once for each time that the control is measured or drawn.
+    virtual const CellStyle& style() const;
+
+    /// The flags that the control knows, with those that the cell does.
+    virtual StyledControlState controlState(StyledControlState ofControl) const;
+
+    /// The font of a title in a control whose own is `ofControl`.
+    virtual const QFont& titleFont(const QFont& ofControl, const CellStyle& style) const;
+
+    /// The colour of an enabled control's text, which templates take.
+    virtual QColor controlTextColor(const CellContext& context) const;
 
     /// The part of `bounds` that the frame leaves to the content.
-    virtual QRectF drawingRect(const QRectF& bounds) const { return bounds; }
-
-    /// Where the title and the image stand, without and with an own one.
-    virtual QRectF titleRect(const QRectF& bounds) const = 0;
-    virtual QRectF imageRect(const QRectF& bounds) const = 0;
+    virtual QRectF drawingRect(const QRectF& bounds, const CellContext& context) const;
 
     /// The natural size.
-    virtual QSizeF cellSize() const = 0;
+    virtual QSizeF cellSize(const CellContext& context) const = 0;
 
-    virtual void draw(QPainter& painter, const QRectF& frame) const = 0;
+    virtual void draw(QPainter& painter, const QRectF& frame, const CellContext& context) const = 0;
+
+    /// Shows within `bounds` that the keyboard is on the control.
+    virtual void drawFocus(QPainter& painter, const QRectF& bounds, const CellContext& context) const;
+
+protected:
+    /// Measures the control anew and shows it.
+    void changed() const;
+
+    template <typename T>
+    void set(T& field, T value) {
+        if (field == value)
+            return;
+        field = std::move(value);
+        changed();
+    }
 
 private:
-    bool m_enabled = true;
-    bool m_highlighted = false;
     bool m_bordered = true;
     bool m_bezeled = false;
-    ControlState m_state = ControlState::off;
-    Qt::LayoutDirection m_direction = Qt::LeftToRight;
-    QString m_title;
-    QFont m_font;
     QWidget* m_controlView = nullptr;
 };
 

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <cmath>
+
 namespace platform {
 
 void Control::setAction(std::optional<Selector> action, QObject* target) {
@@ -15,6 +17,22 @@ bool Control::sendAction(std::optional<Selector> action, QObject* target) {
 
 bool Control::sendAction() {
     return sendAction(action(), target());
+}
+
+QRectF Control::focusRingMaskBounds() const {
+    return QRectF(view().rect());
+}
+
+void Control::setAlphaValue(qreal alpha) {
+    if (alpha == m_alphaValue)
+        return;
+    m_alphaValue = alpha;
+    view().update();
+}
+
+QSize Control::naturalSize() const {
+    const QSizeF size = intrinsicContentSize().grownBy(alignmentRectInsets());
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
 }
 
 } // namespace platform

@@ -1,5 +1,7 @@
 #include "Platform/Controls/ImageIcon.h"
 
+#include "Platform/Graphics/Dimming.h"
+
 #include "Platform/Graphics/Image.h"
 
 #include <QGuiApplication>
@@ -30,10 +32,9 @@ public:
     explicit ImageIconEngine(Image image) : m_image(std::move(image)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        constexpr qreal disabledOpacity = 0.5;
         painter->save();
         if (mode == QIcon::Disabled && !m_image.isTemplate())
-            painter->setOpacity(painter->opacity() * disabledOpacity);
+            painter->setOpacity(painter->opacity() * dimmedOpacity);
         m_image.tinted(textColor(mode)).draw(*painter, target(rect));
         painter->restore();
     }

@@ -15,16 +15,9 @@ ImageView::ImageView(Image image, const QString& description, QWidget* parent)
     setPixmap(QPixmap(1, 1));
 }
 
-void ImageView::setAlphaValue(qreal alpha) {
-    if (alpha == m_alphaValue)
-        return;
-    m_alphaValue = alpha;
-    update();
-}
-
 void ImageView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setOpacity(m_alphaValue);
+    painter.setOpacity(alphaValue());
     m_image.draw(painter, QRectF(rect()));
 }
 

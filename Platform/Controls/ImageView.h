@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Controls/Control.h"
 #include "Platform/Graphics/Image.h"
 
 #include <QLabel>
@@ -7,26 +8,24 @@
 namespace platform {
 
 /// Shows an image at its own size, sharp at every scale.
-class ImageView : public QLabel {
+class ImageView : public QLabel, public Control {
     Q_OBJECT
 
 public:
     /// `description` is what a screen reader says.
     ImageView(Image image, const QString& description, QWidget* parent = nullptr);
 
-    /// How opaque the image is drawn, from 0 to 1.
-    qreal alphaValue() const { return m_alphaValue; }
+    QSizeF intrinsicContentSize() const override { return m_image.size(); }
 
-    void setAlphaValue(qreal alpha);
+    QWidget& view() override { return *this; }
 
-    QSize sizeHint() const override { return m_image.size().toSize(); }
+    QSize sizeHint() const override { return naturalSize(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Image m_image;
-    qreal m_alphaValue = 1;
 };
 
 } // namespace platform

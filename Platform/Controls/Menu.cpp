@@ -158,6 +158,10 @@ void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view) {
         menu.setActiveAction(shown);
 }
 
+QPoint below(const QWidget& view, int gap) {
+    return {view.isRightToLeft() ? view.width() : 0, view.height() + gap};
+}
+
 QList<MenuItem*> flattenedItems(const Menu& menu) {
     QList<MenuItem*> items;
     const auto own = menu.items();

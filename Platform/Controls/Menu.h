@@ -75,6 +75,9 @@ private:
 /// menu and is not passed on; so does disabling, hiding or destroying `view`. A disabled view opens nothing.
 void popUp(QMenu& menu, QAction* item, QPoint point, QWidget& view);
 
+/// Where a menu opens below `view`, in its coordinates: where lines begin, `gap` points under it.
+QPoint below(const QWidget& view, int gap = 0);
+
 /// All items of a menu and of its submenus, each item before those of its submenu.
 QList<MenuItem*> flattenedItems(const Menu& menu);
 

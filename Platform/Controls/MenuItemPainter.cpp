@@ -1,5 +1,7 @@
 #include "Platform/Controls/MenuItemPainter.h"
 
+#include "Platform/Graphics/Pens.h"
+#include "Platform/Graphics/PreparedText.h"
 #include "Platform/Graphics/SystemFont.h"
 
 #include <QFontMetrics>
@@ -25,21 +27,6 @@ constexpr qreal selectionRadius = 5;
 
 QFont sectionHeaderFont() {
     return systemFont(11, QFont::DemiBold);
-}
-
-QPen roundPen(const QColor& color, qreal width) {
-    return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
-}
-
-/// The text of an action as it is read: with the letters for the keyboard unmarked.
-QString withoutMnemonics(const QString& text) {
-    QString plain;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'&' && i + 1 < text.size())
-            ++i;
-        plain += text[i];
-    }
-    return plain;
 }
 
 QString elided(const QString& text, int width, const QFont& font) {
@@ -76,7 +63,8 @@ int MenuItemPainter::titleInset() const {
 QSize MenuItemPainter::size(QSize text) const {
     if (isSectionHeader()) {
         const QFontMetrics metrics(sectionHeaderFont());
-        return {metrics.horizontalAdvance(withoutMnemonics(m_item.text)) + 2 * padding, sectionHeaderHeight};
+        return {metrics.horizontalAdvance(withoutMnemonic(m_item.text).text) + 2 * padding,
+                sectionHeaderHeight};
     }
     if (isSeparator())
         return {2 * padding, separatorHeight};
@@ -122,7 +110,7 @@ void MenuItemPainter::paintSectionHeader(QPainter& painter) const {
     painter.setFont(sectionHeaderFont());
     painter.setPen(m_item.palette.color(QPalette::PlaceholderText));
     drawLine(painter, m_item.rect.adjusted(padding, 2, -padding, 0), Qt::AlignLeft,
-             withoutMnemonics(m_item.text));
+             withoutMnemonic(m_item.text).text);
 }
 
 void MenuItemPainter::paintSelection(QPainter& painter) const {
@@ -174,7 +162,7 @@ void MenuItemPainter::paintTexts(QPainter& painter) const {
     const QRect line = place(titleInset(), m_item.rect.width() - titleInset() - behind);
     const QString keys = m_item.text.section(u'\t', 1);
     const int keysWidth = keys.isEmpty() ? 0 : QFontMetrics(m_item.font).horizontalAdvance(keys) + keyGap;
-    const QString title = withoutMnemonics(m_item.text.section(u'\t', 0, 0));
+    const QString title = withoutMnemonic(m_item.text.section(u'\t', 0, 0)).text;
     painter.setFont(m_item.font);
     painter.setPen(quietColor());
     drawLine(painter, line, Qt::AlignRight, keys);

@@ -1,6 +1,5 @@
 #include "Platform/Controls/PopUpButton.h"
 
-#include "Platform/Controls/ButtonStyle.h"
 #include "Platform/Controls/MenuStyle.h"
 #include "Platform/Controls/PopUpButtonAccessibility.h"
 #include "Platform/Core/FatalError.h"
@@ -233,7 +232,8 @@ void PopUpButton::selectTyped(const QString& text) {
 /// How far the menu reaches beyond the button, so that the item's title comes to lie over the button's.
 int PopUpButton::titleOverhang() const {
     const QRectF bounds(rect());
-    const QRectF title = cell().titleRect(cell().drawingRect(bounds));
+    const CellContext own = context();
+    const QRectF title = cell().titleRect(cell().drawingRect(bounds, own), own);
     const qreal inset = isRightToLeft() ? bounds.right() - title.right() : title.left();
     return MenuStyle::titleInset(*m_menu) - static_cast<int>(std::lround(inset));
 }
@@ -241,17 +241,16 @@ int PopUpButton::titleOverhang() const {
 void PopUpButton::openMenu() {
     if (m_menu == nullptr)
         return;
-    const int start = isRightToLeft() ? width() : 0;
     auto* const item = itemArray().value(indexOfSelectedItem());
     if (m_pullsDown || item == nullptr) {
         m_menu->setMinimumWidth(width());
-        popUp(*m_menu, {start, height() + menuGap});
+        popUp(*m_menu, below(*this, menuGap));
         return;
     }
     const int overhang = titleOverhang();
     m_menu->setMinimumWidth(width() + 2 * overhang);
     popUp(*m_menu,
-          {isRightToLeft() ? start + overhang : -overhang,
+          {isRightToLeft() ? width() + overhang : -overhang,
            (height() - m_menu->actionGeometry(item).height()) / 2},
           item);
 }
@@ -312,17 +311,13 @@ QSizeF PopUpButton::intrinsicContentSize() const {
     QSizeF size = PushButton::intrinsicContentSize();
     if (m_pullsDown)
         return size;
-    ButtonCell& measured = cell();
+    const CellContext own = context();
     for (const MenuItem* item : itemArray()) {
-        measured.setTitle(item->text());
-        size = size.expandedTo(measured.cellSize());
+        PreparedText title;
+        title.set(item->text(), cell().titleFont(font(), own.style));
+        size = size.expandedTo(cell().cellSize({own.state, title, own.direction, own.style}));
     }
     return size;
-}
-
-void PopUpButton::drawFocus(QPainter& painter) {
-    constexpr qreal radius = 4;
-    paintFocusRing(painter, focusRingMaskBounds(), radius);
 }
 
 } // namespace platform

@@ -76,7 +76,6 @@ protected:
     PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent);
 
     void performClick() override;
-    void drawFocus(QPainter& painter) override;
     void beginTracking(QMouseEvent& event) override;
     bool popUpMenu(const QMouseEvent& press) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

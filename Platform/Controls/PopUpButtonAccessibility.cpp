@@ -1,5 +1,6 @@
 #include "Platform/Controls/PopUpButtonAccessibility.h"
 
+#include "Platform/Controls/Accessibility.h"
 #include "Platform/Controls/PopUpButton.h"
 
 #include <QAccessibleWidget>
@@ -43,19 +44,10 @@ private:
     PopUpButton& m_button;
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
-    auto* const button = dynamic_cast<PopUpButton*>(object);
-    return button != nullptr ? new PopUpButtonInterface(*button) : nullptr;
-}
-
 } // namespace
 
 void installPopUpButtonAccessibility() {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
-    Q_UNUSED(installed);
+    installAccessibility<PopUpButton, PopUpButtonInterface>();
 }
 
 } // namespace platform

@@ -12,15 +12,16 @@ public:
 
     bool pullsDown() const { return m_pullsDown; }
 
-    QRectF titleRect(const QRectF& bounds) const override;
-    QSizeF cellSize() const override;
+    QRectF titleRect(const QRectF& bounds, const CellContext& context) const override;
+    QSizeF cellSize(const CellContext& context) const override;
 
-    void drawBezel(QPainter& painter, const QRectF& frame) const override;
-    void drawTitle(QPainter& painter, const QRectF& frame) const override;
+    void drawBezel(QPainter& painter, const QRectF& frame, const CellContext& context) const override;
+    void drawTitle(QPainter& painter, const QRectF& frame, const CellContext& context) const override;
+    void drawFocus(QPainter& painter, const QRectF& bounds, const CellContext& context) const override;
 
 private:
     /// Of the title and the arrows.
-    QColor contentColor() const;
+    QColor contentColor(const CellContext& context) const;
 
     const bool m_pullsDown;
 };

@@ -1,6 +1,6 @@
 #include "Platform/Controls/PushButton.h"
 
-#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/ButtonStyleCell.h"
 #include "Platform/Controls/Menu.h"
 #include "Platform/Controls/PointerTracking.h"
 #include "Platform/Controls/PushButtonAccessibility.h"
@@ -11,7 +11,6 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
-#include <cmath>
 #include <utility>
 
 namespace platform {
@@ -29,6 +28,9 @@ PushButton::PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, Q
     connect(this, &QAbstractButton::clicked, this, [this] { performClick(); });
 }
 
+PushButton::PushButton(const QString& title, std::unique_ptr<ButtonStyle> style, QWidget* parent)
+    : PushButton(title, std::make_unique<ButtonStyleCell>(std::move(style)), parent) {}
+
 PushButton::~PushButton() {
     // Once the members of subclasses have gone there is nothing to end, and nobody to tell.
     const QSignalBlocker nobodyHears(this);
@@ -37,19 +39,24 @@ PushButton::~PushButton() {
         m_openMenu->close(); // while this can still hear of it
 }
 
-ButtonCell& PushButton::cell() const {
-    m_cell->setTitle(text());
-    m_cell->setFont(font());
-    m_cell->setLayoutDirection(layoutDirection());
-    m_cell->setEnabled(isEnabled());
-    m_cell->setHighlighted(isDown() || m_openMenu != nullptr);
-    return *m_cell;
+CellContext PushButton::context() const {
+    using State = StyledControlState;
+    const CellStyle& style = m_cell->style();
+    m_title.set(text(), m_cell->titleFont(font(), style));
+    const bool hasState = m_cell->showsStateBy() != ButtonCell::none;
+    const State state = State()
+                            .with(State::disabled, !isEnabled())
+                            .with(State::highlighted, isEnabled() && (isDown() || m_openMenu != nullptr))
+                            .with(State::focused, showsFocus())
+                            .with(State::on, hasState && m_state == ControlState::on)
+                            .with(State::mixed, hasState && m_state == ControlState::mixed);
+    return {m_cell->controlState(state), m_title, layoutDirection(), style};
 }
 
 void PushButton::setState(ControlState state) {
-    if (state == m_cell->state())
+    if (state == m_state)
         return;
-    m_cell->setState(state);
+    m_state = state;
     update();
     QAccessible::State changed;
     changed.checked = true;
@@ -57,24 +64,6 @@ void PushButton::setState(ControlState state) {
     QAccessibleStateChangeEvent change(this, changed);
     QAccessible::updateAccessibility(&change);
     Q_EMIT stateChanged(state);
-}
-
-void PushButton::setBordered(bool bordered) {
-    m_cell->setBordered(bordered);
-    updateGeometry();
-    update();
-}
-
-void PushButton::setImage(Image image) {
-    m_cell->setImage(std::move(image));
-    updateGeometry();
-    update();
-}
-
-void PushButton::setImagePosition(ImagePosition position) {
-    m_cell->setImagePosition(position);
-    updateGeometry();
-    update();
 }
 
 QMenu* PushButton::menu() const {
@@ -85,25 +74,13 @@ void PushButton::setMenu(QMenu* menu) {
     m_menu = menu;
 }
 
-void PushButton::setAlphaValue(qreal alpha) {
-    if (alpha == m_alphaValue)
-        return;
-    m_alphaValue = alpha;
-    update();
-}
-
-QSizeF PushButton::intrinsicContentSize() const {
-    return cell().cellSize();
-}
-
-QSize PushButton::sizeHint() const {
-    const QSizeF size = intrinsicContentSize().grownBy(alignmentRectInsets());
-    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+std::optional<qreal> PushButton::baseline(qreal height) const {
+    return m_cell->baseline(QRectF(0, 0, width(), height), context());
 }
 
 void PushButton::nextCheckState() {
     if (!isPressOver() && m_cell->showsStateBy() != ButtonCell::none)
-        setState(m_cell->nextState());
+        setState(m_cell->nextState(m_state));
 }
 
 void PushButton::performClick() {
@@ -111,7 +88,7 @@ void PushButton::performClick() {
 }
 
 void PushButton::draw(QPainter& painter) {
-    cell().draw(painter, QRectF(rect()));
+    m_cell->draw(painter, QRectF(rect()), context());
 }
 
 // The view's font and colours would cost a fourteenth of a repaint, and no cell asks for them.
@@ -124,15 +101,10 @@ void PushButton::paintEvent(QPaintEvent*) {
     m_isMakingPainter = true;
     QPainter painter(this);
     m_isMakingPainter = false;
-    painter.setOpacity(m_alphaValue);
+    painter.setOpacity(alphaValue());
     draw(painter);
     if (showsFocus())
-        drawFocus(painter);
-}
-
-void PushButton::drawFocus(QPainter& painter) {
-    constexpr qreal radius = 3;
-    paintFocusRing(painter, focusRingMaskBounds(), radius);
+        m_cell->drawFocus(painter, focusRingMaskBounds(), context());
 }
 
 bool PushButton::isTracking() const {
@@ -216,7 +188,7 @@ void PushButton::focusOutEvent(QFocusEvent* event) {
 void PushButton::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* const offered = offeredMenu();
     if (event->reason() == QContextMenuEvent::Keyboard && offered != nullptr)
-        popUp(*offered, {isRightToLeft() ? width() : 0, height()});
+        popUp(*offered, below(*this));
     else
         event->setAccepted(offered != nullptr);
 }

@@ -5,12 +5,14 @@
 #include "Platform/Controls/Control.h"
 
 #include <memory>
+#include <utility>
 
 class QAction;
 class QMenu;
 
 namespace platform {
 
+class ButtonStyle;
 class PointerTracking;
 
 /// A button that a cell draws. It is pressed by the pointer, by Space, by Return and by the mnemonic in its
@@ -24,42 +26,40 @@ class PushButton : public BaseButton, public Control {
 public:
     explicit PushButton(const QString& title = {}, QWidget* parent = nullptr);
     PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, QWidget* parent = nullptr);
+
+    /// A button that is drawn by a style.
+    PushButton(const QString& title, std::unique_ptr<ButtonStyle> style, QWidget* parent = nullptr);
     ~PushButton() override;
 
-    /// The cell, told all that the button knows. Owned.
-    ButtonCell& cell() const;
+    /// How the button looks. Owned.
+    ButtonCell& cell() const { return *m_cell; }
 
-    ControlState state() const { return m_cell->state(); }
+    /// What the button tells its cell, until either changes.
+    CellContext context() const;
+
+    /// The text without what marks its mnemonic.
+    const QString& plainTitle() const { return context().title.text(); }
+
+    ControlState state() const { return m_state; }
 
     void setState(ControlState state);
 
-    void setBordered(bool bordered);
-    void setImage(Image image);
-    void setImagePosition(ImagePosition position);
+    /// The state as a number: 0, 1 or -1.
+    double doubleValue() const override { return static_cast<double>(m_state); }
+
+    void setBordered(bool bordered) { m_cell->setBordered(bordered); }
+
+    void setImage(Image image) { m_cell->setImage(std::move(image)); }
+
+    void setImagePosition(ImagePosition position) { m_cell->setImagePosition(position); }
 
     /// What a right click or the menu key opens. Not owned.
     QMenu* menu() const;
     void setMenu(QMenu* menu);
 
-    /// How opaque the button is drawn, from 0 to 1.
-    qreal alphaValue() const { return m_alphaValue; }
+    QSizeF intrinsicContentSize() const override { return m_cell->cellSize(context()); }
 
-    virtual void setAlphaValue(qreal alpha);
-
-    /// How far the button reaches beyond the rectangle that aligns with its neighbours, in points.
-    virtual QMarginsF alignmentRectInsets() const { return {}; }
-
-    /// The natural size of the rectangle that aligns with the neighbours.
-    virtual QSizeF intrinsicContentSize() const;
-
-    virtual QRectF focusRingMaskBounds() const { return QRectF(rect()); }
-
-    /// Whether the click that activates its window is meant for the button as well. Where the desktop passes
-    /// that click on to every widget, the answer makes no difference.
-    virtual bool acceptsFirstMouse() const { return false; }
-
-    /// The state as a number: 0, 1 or -1.
-    double doubleValue() const override { return static_cast<double>(state()); }
+    std::optional<qreal> baseline(qreal height) const override;
 
     /// Whether the button has a state that users are told of.
     virtual bool showsState() const { return m_cell->showsStateBy() != ButtonCell::none; }
@@ -72,7 +72,7 @@ public:
 
     QWidget& view() override { return *this; }
 
-    QSize sizeHint() const override;
+    QSize sizeHint() const override { return naturalSize(); }
 
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -83,11 +83,8 @@ protected:
     /// What a click does, whichever way it was made: sends the action.
     virtual void performClick();
 
-    /// Draws the cell. The painter is as new: it has neither the button's font nor its colours.
+    /// Draws the button but for its focus. The painter is as new: it has neither its font nor its colours.
     virtual void draw(QPainter& painter);
-
-    /// Shows that the keyboard is on the button: a ring within `focusRingMaskBounds`.
-    virtual void drawFocus(QPainter& painter);
 
     /// Whether the focus is drawn: the keyboard is on the button, in the window that has it.
     virtual bool showsFocus() const { return hasFocus() && isActiveWindow(); }
@@ -124,9 +121,10 @@ private:
     void menuClosed();
 
     std::unique_ptr<ButtonCell> m_cell;
+    mutable PreparedText m_title;
+    ControlState m_state = ControlState::off;
     QPointer<QMenu> m_menu;
-    QPointer<QMenu> m_openMenu; // while it is open
-    qreal m_alphaValue = 1;
+    QPointer<QMenu> m_openMenu;                  // while it is open
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
     bool m_isMakingPainter = false;
 };

@@ -1,5 +1,6 @@
 #include "Platform/Controls/PushButtonAccessibility.h"
 
+#include "Platform/Controls/Accessibility.h"
 #include "Platform/Controls/PushButton.h"
 
 #include <QAccessibleWidget>
@@ -25,7 +26,7 @@ public:
         if (kind == QAccessible::Accelerator && !m_button.shortcut().isEmpty())
             return m_button.shortcut().toString(QKeySequence::NativeText);
         const QString own = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && own.isEmpty() ? m_button.cell().plainTitle() : own;
+        return kind == QAccessible::Name && own.isEmpty() ? m_button.plainTitle() : own;
     }
 
     QAccessible::State state() const override {
@@ -73,22 +74,10 @@ private:
     PushButton& m_button;
 };
 
-/// Asked for the class of the object and for each that it derives from, the nearest first; a subclass may
-/// have an interface of its own.
-QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
-    auto* const button =
-        className == QLatin1String("platform::PushButton") ? dynamic_cast<PushButton*>(object) : nullptr;
-    return button != nullptr ? new PushButtonInterface(*button) : nullptr;
-}
-
 } // namespace
 
 void installPushButtonAccessibility() {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
-    Q_UNUSED(installed);
+    installAccessibility<PushButton, PushButtonInterface>();
 }
 
 } // namespace platform

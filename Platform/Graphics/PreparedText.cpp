@@ -16,24 +16,6 @@ namespace {
 /// The picture has room around the line for what letters reach beyond their advance, in points.
 constexpr qreal overhang = 2;
 
-struct Mnemonic {
-    QString text;
-    qsizetype position = -1;
-};
-
-Mnemonic withoutAmpersands(const QString& source) {
-    Mnemonic result;
-    for (qsizetype i = 0; i < source.size(); ++i) {
-        if (source[i] == u'&' && i + 1 < source.size()) {
-            ++i;
-            if (source[i] != u'&' && result.position < 0)
-                result.position = result.text.size();
-        }
-        result.text += source[i];
-    }
-    return result;
-}
-
 /// The least rectangle around all that is not transparent; one pixel if there is nothing.
 QRect inkBounds(const QImage& image) {
     QRect bounds;
@@ -53,14 +35,27 @@ QRect inkBounds(const QImage& image) {
 
 } // namespace
 
+PlainText withoutMnemonic(const QString& source) {
+    PlainText result;
+    for (qsizetype i = 0; i < source.size(); ++i) {
+        if (source[i] == u'&' && i + 1 < source.size()) {
+            ++i;
+            if (source[i] != u'&' && result.mnemonic < 0)
+                result.mnemonic = result.text.size();
+        }
+        result.text += source[i];
+    }
+    return result;
+}
+
 void PreparedText::set(const QString& text, const QFont& font) {
     if (text == m_source && font == m_font && m_size.height() > 0)
         return;
     m_source = text;
     m_font = font;
-    const Mnemonic mnemonic = withoutAmpersands(text);
-    m_text = mnemonic.text;
-    m_mnemonic = mnemonic.position;
+    const PlainText plain = withoutMnemonic(text);
+    m_text = plain.text;
+    m_mnemonic = plain.mnemonic;
     const QFontMetricsF metrics(font);
     // An even height has its middle on a whole point.
     m_size = {std::ceil(metrics.horizontalAdvance(m_text)), 2 * std::ceil(metrics.height() / 2)};
@@ -103,8 +98,8 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look)
         x += (rect.width() - m_shownWidth) / 2;
     else if (look.alignment & Qt::AlignRight)
         x = rect.right() - m_shownWidth;
-    const qreal baseline = onPixel(rect.center().y() + m_capHeight / 2, scale);
-    const qreal top = baseline - onPixel(overhang + m_ascent, scale);
+    const qreal line = onPixel(baseline(rect), scale);
+    const qreal top = line - onPixel(overhang + m_ascent, scale);
     m_picture.draw(painter, QPointF(onPixel(x - overhang, scale), top) + QPointF(m_inkOrigin) / scale);
 }
 

@@ -12,6 +12,15 @@ class QPainter;
 
 namespace platform {
 
+/// A text without the ampersands that mark its mnemonic.
+struct PlainText {
+    QString text;
+    qsizetype mnemonic = -1; ///< Where it stands; -1 for none.
+};
+
+/// `&` marks the next character as the mnemonic, `&&` stands for `&`.
+PlainText withoutMnemonic(const QString& source);
+
 /// A line of text that is drawn once and then only copied, until its text, font, colour, room or scale
 /// changes. Main thread.
 class PreparedText {
@@ -23,7 +32,7 @@ public:
         bool showsMnemonic = false;
     };
 
-    /// Sets the text, in which `&` marks the next character as its mnemonic and `&&` stands for `&`.
+    /// `text` may have a mnemonic.
     void set(const QString& text, const QFont& font);
 
     const QString& text() const { return m_text; }
@@ -32,6 +41,9 @@ public:
 
     /// In points; the height is the font's line height, made even.
     QSizeF size() const { return m_size; }
+
+    /// The y on which the text stands when it is drawn into `rect`.
+    qreal baseline(const QRectF& rect) const { return rect.center().y() + m_capHeight / 2; }
 
     /// Draws with the capitals in the middle of the height of `rect`, aligned within its width. What is too
     /// long ends with an ellipsis.

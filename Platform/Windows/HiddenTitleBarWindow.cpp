@@ -71,7 +71,7 @@ void HiddenTitleBarWindow::addButtons() {
     m_fade->setEndValue(1.0);
     connect(m_fade, &QVariantAnimation::valueChanged, this, [=, this](const QVariant& value) {
         for (WindowButton* button : {m_menuButton, minimize, close})
-            button->setPresence(value.toReal());
+            button->setAlphaValue(value.toReal());
     });
 }
 

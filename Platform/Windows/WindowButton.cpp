@@ -1,6 +1,7 @@
 #include "Platform/Windows/WindowButton.h"
 
-#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
+#include "Platform/Graphics/Pens.h"
 
 #include <QPainter>
 
@@ -10,42 +11,38 @@ namespace {
 
 constexpr int diameter = 24;
 
+class WindowButtonCell : public ButtonCell {
+public:
+    void drawFocus(QPainter& painter, const QRectF& bounds, const CellContext&) const override {
+        drawFocusRing(painter, bounds, {.radius = bounds.width() / 2});
+    }
+};
+
 } // namespace
 
 WindowButton::WindowButton(Kind kind, const QString& name, QWidget* parent)
-    : BaseButton(parent), m_kind(kind) {
+    : PushButton({}, std::make_unique<WindowButtonCell>(), parent), m_kind(kind) {
     setAccessibleName(name);
     setToolTip(name);
-    setFocusPolicy(Qt::TabFocus);
+    setAlphaValue(0); // until its window shows it
     setFixedSize(diameter, diameter);
 }
 
-void WindowButton::setPresence(qreal presence) {
-    m_presence = presence;
-    update();
-}
-
-QSize WindowButton::sizeHint() const {
+QSizeF WindowButton::intrinsicContentSize() const {
     return {diameter, diameter};
 }
 
-void WindowButton::paintEvent(QPaintEvent*) {
-    if (m_presence <= 0)
-        return;
-    QPainter painter(this);
+void WindowButton::draw(QPainter& painter) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(m_presence);
     const int veil = isDown() ? 70 : underMouse() ? 48 : 22;
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(255, 255, 255, veil));
     painter.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
     paintGlyph(painter);
-    if (hasFocus())
-        paintFocusRing(painter, rect(), diameter / 2.0);
 }
 
 void WindowButton::paintGlyph(QPainter& painter) const {
-    painter.setPen(QPen(QColor(255, 255, 255, underMouse() ? 245 : 190), 1.5, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(roundPen(QColor(255, 255, 255, underMouse() ? 245 : 190), 1.5));
     constexpr qreal middle = diameter / 2.0;
     constexpr qreal reach = 4;
     switch (m_kind) {
@@ -65,12 +62,12 @@ void WindowButton::paintGlyph(QPainter& painter) const {
 }
 
 void WindowButton::enterEvent(QEnterEvent* event) {
-    BaseButton::enterEvent(event);
+    PushButton::enterEvent(event);
     update();
 }
 
 void WindowButton::leaveEvent(QEvent* event) {
-    BaseButton::leaveEvent(event);
+    PushButton::leaveEvent(event);
     update();
 }
 

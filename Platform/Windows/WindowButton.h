@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Platform/Controls/BaseButton.h"
+#include "Platform/Controls/PushButton.h"
 
 namespace platform {
 
 /// A small round button of a window without a title bar.
-class WindowButton : public BaseButton {
+class WindowButton : public PushButton {
     Q_OBJECT
 
 public:
@@ -13,13 +13,10 @@ public:
 
     WindowButton(Kind kind, const QString& name, QWidget* parent = nullptr);
 
-    /// 0 is invisible, 1 is shown.
-    void setPresence(qreal presence);
-
-    QSize sizeHint() const override;
+    QSizeF intrinsicContentSize() const override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void draw(QPainter& painter) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
@@ -27,7 +24,6 @@ private:
     void paintGlyph(QPainter& painter) const;
 
     Kind m_kind;
-    qreal m_presence = 0;
 };
 
 } // namespace platform

@@ -2,7 +2,10 @@
 
 #include "Chorale/MakerLinks.h"
 #include "Chorale/ViewScale.h"
+#include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
 #include "Platform/Controls/Menu.h"
+#include "Platform/Graphics/Pens.h"
 #include "Platform/Windows/Browser.h"
 #include "Plugin/Editor/EditorResources.h"
 
@@ -23,11 +26,11 @@ public:
     void paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const override {
         constexpr qreal width = 14;
         constexpr qreal distance = 4.5;
-        if (configuration.isFocused)
-            platform::paintFocusRing(painter, configuration.frame, 4 * m_scale);
+        if (configuration.isFocused())
+            platform::drawFocusRing(painter, configuration.frame, {.radius = 4 * m_scale});
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setOpacity(configuration.isPressed ? 0.7 : 1);
-        painter.setPen(QPen(EditorColors::value.color(), 1.5 * m_scale, Qt::SolidLine, Qt::RoundCap));
+        painter.setOpacity(configuration.isPressed() ? 0.7 : 1);
+        painter.setPen(platform::roundPen(EditorColors::value, 1.5 * m_scale));
         painter.translate(configuration.frame.center());
         for (const int line : {-1, 0, 1})
             painter.drawLine(QPointF(-width / 2, line * distance) * m_scale,
@@ -41,7 +44,7 @@ private:
 } // namespace
 
 MenuButton::MenuButton()
-    : Button({}, std::make_unique<MenuButtonStyle>()), m_menu(std::make_unique<platform::Menu>()) {
+    : PushButton({}, std::make_unique<MenuButtonStyle>()), m_menu(std::make_unique<platform::Menu>()) {
     setAccessibleName(tr("Menu"));
     m_menu->setAutoenablesItems(false);
     const auto add = [this](const QString& title, const QUrl& page) {
@@ -55,7 +58,7 @@ MenuButton::MenuButton()
     connect(&m_menu->addItem(tr("Check for Updates…")), &QAction::triggered, this,
             [this] { platform::openInProgram(QStringLiteral("noteloft://openAndUpdate"), this); });
     connect(this, &QAbstractButton::clicked, this,
-            [this] { platform::popUp(*m_menu, nullptr, rect().bottomLeft(), *this); });
+            [this] { platform::popUp(*m_menu, nullptr, platform::below(*this), *this); });
 }
 
 MenuButton::~MenuButton() = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Controls/Button.h"
+#include "Platform/Controls/PushButton.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class Menu;
 namespace noteloft::plugin {
 
 /// The editor's menu at the end of its header: the maker's pages, and a check for updates by the application.
-class MenuButton : public platform::Button {
+class MenuButton : public platform::PushButton {
     Q_OBJECT
 
 public:

@@ -12,6 +12,8 @@ class BackButton : public StyledButton {
 public:
     explicit BackButton(const QString& title = {}, QWidget* parent = nullptr);
 
+    BackButtonCell& cell() const { return static_cast<BackButtonCell&>(StyledButton::cell()); }
+
     /// Above 0 shows a hidden button, 0 hides it.
     void setAlphaValue(qreal alpha) override;
 

@@ -1,8 +1,12 @@
 #include "Tidepool/Buttons/BackButtonCell.h"
 
+#include "Tidepool/Buttons/CellDrawing.h"
+
 #include <QPainter>
 
 namespace tidepool {
+
+using platform::CellContext;
 
 namespace {
 
@@ -28,25 +32,21 @@ BackButtonCell::BackButtonCell() {
     setButtonType(ButtonType::toggle);
 }
 
-QRectF BackButtonCell::drawingRect(const QRectF& bounds) const {
-    const QRectF rect = StyledButtonCell::drawingRect(bounds).adjusted(0, topMargin, 0, 0);
-    return layoutDirection() == Qt::RightToLeft ? rect.adjusted(0, 0, -arrowWidth, 0)
+QRectF BackButtonCell::drawingRect(const QRectF& bounds, const CellContext& context) const {
+    const QRectF rect = StyledButtonCell::drawingRect(bounds, context).adjusted(0, topMargin, 0, 0);
+    return context.direction == Qt::RightToLeft ? rect.adjusted(0, 0, -arrowWidth, 0)
                                                 : rect.adjusted(arrowWidth, 0, 0, 0);
 }
 
-QSizeF BackButtonCell::cellSize() const {
-    return StyledButtonCell::cellSize() + QSizeF(arrowWidth, 0);
+QSizeF BackButtonCell::cellSize(const CellContext& context) const {
+    return StyledButtonCell::cellSize(context) + QSizeF(arrowWidth, 0);
 }
 
-void BackButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
-    if (layoutDirection() == Qt::LeftToRight) {
-        StyledButtonCell::drawBezel(painter, frame);
-        return;
-    }
+void BackButtonCell::drawBezel(QPainter& painter, const QRectF& frame, const CellContext& context) const {
     painter.save();
-    painter.translate(frame.left() + frame.right(), 0);
-    painter.scale(-1, 1);
-    StyledButtonCell::drawBezel(painter, frame);
+    if (context.direction == Qt::RightToLeft)
+        mirror(painter, frame);
+    StyledButtonCell::drawBezel(painter, frame, context);
     painter.restore();
 }
 

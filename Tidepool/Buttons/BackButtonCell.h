@@ -10,15 +10,14 @@ template <>
 BackButtonCellStyle& sharedStyle<BackButtonCellStyle>();
 
 /// An arrow-shaped bezel that points to where lines begin.
-class BackButtonCell : public StyledButtonCell {
+class BackButtonCell : public RestyledCell<BackButtonCellStyle, StyledButtonCell> {
 public:
     BackButtonCell();
 
-    const BackButtonCellStyle& style() const override { return resolvedStyle<BackButtonCellStyle>(); }
-
-    QRectF drawingRect(const QRectF& bounds) const override;
-    QSizeF cellSize() const override;
-    void drawBezel(QPainter& painter, const QRectF& frame) const override;
+    QRectF drawingRect(const QRectF& bounds, const platform::CellContext& context) const override;
+    QSizeF cellSize(const platform::CellContext& context) const override;
+    void drawBezel(QPainter& painter, const QRectF& frame,
+                   const platform::CellContext& context) const override;
 };
 
 } // namespace tidepool

@@ -1,7 +1,6 @@
 #include "Tidepool/Buttons/CornerButton.h"
 
 #include "Platform/Controls/PressKey.h"
-#include "Tidepool/Buttons/ButtonMenu.h"
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -25,7 +24,7 @@ QMenu* CornerButton::offeredMenu() const {
 
 void CornerButton::performClick() {
     if (m_alternateMenu != nullptr)
-        popUp(*m_alternateMenu, positionUnder(*this));
+        popUp(*m_alternateMenu, menuPosition());
     else
         StyledButton::performClick();
 }

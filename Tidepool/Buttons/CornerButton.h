@@ -1,9 +1,12 @@
 #pragma once
 
-#include "Tidepool/Buttons/CornerButtonCell.h"
 #include "Tidepool/Buttons/StyledButton.h"
+#include "Tidepool/Styles/ToolButtonCellStyles.h"
 
 namespace tidepool {
+
+/// The push button's bezel with insets of its own.
+using CornerButtonCell = RestyledCell<CornerButtonCellStyle, StyledButtonCell>;
 
 /// A button in the corner of a view that can open a menu under itself.
 class CornerButton : public StyledButton {
@@ -11,6 +14,8 @@ class CornerButton : public StyledButton {
 
 public:
     explicit CornerButton(const QString& title = {}, QWidget* parent = nullptr);
+
+    CornerButtonCell& cell() const { return static_cast<CornerButtonCell&>(StyledButton::cell()); }
 
     /// What a click, Space, Return and a right click open; without one the button is an ordinary button. Not
     /// owned.

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "Platform/Controls/PushButton.h"
-#include "Tidepool/Buttons/CursorButtonCell.h"
+#include "Tidepool/Buttons/ImageButtonCell.h"
 
 #include <QCursor>
 
 #include <optional>
 
 namespace tidepool {
+
+using CursorButtonCell = ImageButtonCell;
 
 /// An image to press that changes the pointer while it is over it; otherwise the pointer is what `setCursor`
 /// says. It takes the first click of an inactive window.

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "Platform/Controls/PushButton.h"
-#include "Tidepool/Buttons/DarkHighlightButtonCell.h"
+#include "Tidepool/Buttons/ImageButtonCell.h"
 
 namespace tidepool {
+
+using DarkHighlightButtonCell = ImageButtonCell;
 
 /// An image to press, with a pointer of its own.
 class DarkHighlightButton : public platform::PushButton {

@@ -1,12 +1,14 @@
 #include "Tidepool/Buttons/FavouriteCheckBox.h"
 
+#include "Platform/Graphics/Dimming.h"
+
 #include <QPainter>
 
 namespace tidepool {
 
 namespace {
 
-constexpr qreal held = 0.5;
+constexpr qreal held = platform::dimmedOpacity;
 
 } // namespace
 

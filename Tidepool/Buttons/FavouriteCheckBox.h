@@ -12,6 +12,10 @@ class FavouriteCheckBox : public StyledCheckBox {
 public:
     explicit FavouriteCheckBox(QWidget* parent = nullptr);
 
+    FavouriteCheckBoxCell& cell() const {
+        return static_cast<FavouriteCheckBoxCell&>(StyledCheckBox::cell());
+    }
+
 protected:
     /// As opaque as while the pointer holds it, also while the keyboard does.
     void draw(QPainter& painter) override;

@@ -6,9 +6,9 @@ namespace tidepool {
 
 namespace {
 
-const platform::Image& imageOf(const CheckBoxCellStyle& style, StyledControlState state) {
+const platform::Image& imageOf(const platform::CellStyle& style, StyledControlState state) {
     static const platform::Image nothing;
-    const platform::Image* image = style.buttonImage(state);
+    const platform::Image* image = static_cast<const CheckBoxCellStyle&>(style).buttonImage(state);
     return image != nullptr ? *image : nothing;
 }
 
@@ -18,17 +18,19 @@ FavouriteCheckBoxCell::FavouriteCheckBoxCell() {
     setImagePosition(platform::ImagePosition::imageOnly);
 }
 
-const platform::Image& FavouriteCheckBoxCell::image() const {
-    return imageOf(style(), StyledControlState::defaultState);
+const platform::Image& FavouriteCheckBoxCell::image(const platform::CellStyle& style) const {
+    return imageOf(style, StyledControlState::defaultState);
 }
 
-const platform::Image& FavouriteCheckBoxCell::alternateImage() const {
-    return imageOf(style(), StyledControlState::on);
+const platform::Image& FavouriteCheckBoxCell::alternateImage(const platform::CellStyle& style) const {
+    return imageOf(style, StyledControlState::on);
 }
 
-void FavouriteCheckBoxCell::drawImage(QPainter& painter, const QRectF& frame) const {
-    tidepool::drawBezel(painter, imageFrame(shownImage().size(), frame, imageScaling(), backingScale()),
-                        &shownImage(), *this);
+void FavouriteCheckBoxCell::drawImage(QPainter& painter, const QRectF& frame,
+                                      const platform::CellContext& context) const {
+    const platform::Image& star = shownImage(context);
+    drawTinted(painter, imageFrame(star.size(), frame, imageScaling(), backingScale()), star,
+               controlTextColor(context), opacityOfBezel(context.state));
 }
 
 } // namespace tidepool

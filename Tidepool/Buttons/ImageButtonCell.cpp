@@ -1,7 +1,6 @@
 #include "Tidepool/Buttons/ImageButtonCell.h"
 
-#include "Tidepool/Styles/ButtonCellStyle.h"
-#include "Tidepool/Styles/StyleReference.h"
+#include "Tidepool/Buttons/CellDrawing.h"
 
 namespace tidepool {
 
@@ -10,8 +9,13 @@ ImageButtonCell::ImageButtonCell() {
     setImagePosition(platform::ImagePosition::imageOnly);
 }
 
-QColor ImageButtonCell::controlTextColor() const {
-    return StyleReference().get<ButtonCellStyle>(controlView()).textColor();
+float ImageButtonCell::opacity(StyledControlState state) const {
+    return opacityOfImage(state);
+}
+
+void ImageButtonCell::drawImage(QPainter& painter, const QRectF& frame,
+                                const platform::CellContext& context) const {
+    drawTinted(painter, frame, shownImage(context), controlTextColor(context), opacity(context.state));
 }
 
 } // namespace tidepool

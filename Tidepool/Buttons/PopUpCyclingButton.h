@@ -15,15 +15,6 @@ public:
     explicit PopUpCyclingButton(QWidget* parent = nullptr);
 
     bool sendAction(std::optional<platform::Selector> action, QObject* target) override;
-
-protected:
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
-
-private:
-    void readShift();
-
-    bool m_goesBack = false;
 };
 
 } // namespace tidepool

@@ -1,6 +1,8 @@
 #include "Tidepool/Buttons/StyledButton.h"
 
-#include "Tidepool/Buttons/CellDrawing.h"
+#include "Platform/Controls/Menu.h"
+
+#include <QMouseEvent>
 
 #include <algorithm>
 #include <utility>
@@ -18,11 +20,7 @@ StyledButton::StyledButton(const QString& title, double fixedWidth, QWidget* par
 StyledButton::StyledButton(const QString& title, std::unique_ptr<StyledButtonCell> cell, QWidget* parent)
     : PushButton(title, std::move(cell), parent) {
     // The style's images show the press.
-    styledCell().setHighlightsBy(StyledButtonCell::none);
-}
-
-StyledButtonCell& StyledButton::styledCell() const {
-    return static_cast<StyledButtonCell&>(cell());
+    this->cell().setHighlightsBy(StyledButtonCell::none);
 }
 
 void StyledButton::setFixedWidth(std::optional<double> width) {
@@ -30,32 +28,15 @@ void StyledButton::setFixedWidth(std::optional<double> width) {
     updateGeometry();
 }
 
-bool StyledButton::isSelected() const {
-    return styledCell().isSelected();
-}
-
-void StyledButton::setSelected(bool selected) {
-    if (selected == isSelected())
-        return;
-    styledCell().setSelected(selected);
-    update();
-}
-
-void StyledButton::setButtonStyle(std::shared_ptr<const ButtonCellStyle> style) {
-    styledCell().setStyle(std::move(style));
-    updateGeometry();
-    update();
-}
-
 QMarginsF StyledButton::alignmentRectInsets() const {
     return sharedStyle<ButtonCellStyle>().alignmentRectInsets();
 }
 
 QSizeF StyledButton::intrinsicContentSize() const {
-    const QSizeF natural = PushButton::intrinsicContentSize();
+    const platform::CellContext look = context();
+    const QSizeF natural = cell().cellSize(look);
     const double width = m_fixedWidth.value_or(natural.width());
-    const StyledButtonCell& cell = styledCell();
-    const platform::Image* bezel = cell.isBordered() ? cell.style().bezelImage(cell.controlState()) : nullptr;
+    const platform::Image* bezel = cell().bezel(look);
     if (bezel == nullptr)
         return {width, natural.height()};
     const QMarginsF insets = alignmentRectInsets();
@@ -63,9 +44,14 @@ QSizeF StyledButton::intrinsicContentSize() const {
     return {framed - insets.left() - insets.right(), bezel->size().height() - insets.top() - insets.bottom()};
 }
 
-void StyledButton::drawFocus(QPainter& painter) {
-    const StyledButtonCell& cell = styledCell();
-    drawFocusRing(painter, focusRingMaskBounds(), cell.style().focusRingColor(cell.controlState()));
+bool StyledButton::asksForMenu(const QMouseEvent& press) {
+    return press.button() == Qt::RightButton ||
+           (press.button() == Qt::LeftButton && press.modifiers().testFlag(Qt::ControlModifier));
+}
+
+QPoint StyledButton::menuPosition() const {
+    constexpr int gap = 4;
+    return platform::below(*this, gap);
 }
 
 } // namespace tidepool

@@ -24,14 +24,12 @@ public:
 
     void setFixedWidth(std::optional<double> width);
 
-    bool isSelected() const;
+    /// Its setters show the change.
+    StyledButtonCell& cell() const { return static_cast<StyledButtonCell&>(PushButton::cell()); }
 
-    /// Selected beside being on or off, as the chosen one of several is.
-    void setSelected(bool selected);
+    bool isSelected() const { return cell().isSelected(); }
 
-    /// A look of its own, instead of the one of its window; null for none. It must be of the class of the
-    /// cell's own style.
-    void setButtonStyle(std::shared_ptr<const ButtonCellStyle> style);
+    void setSelected(bool selected) { cell().setSelected(selected); }
 
     QMarginsF alignmentRectInsets() const override;
     QSizeF intrinsicContentSize() const override;
@@ -40,9 +38,11 @@ protected:
     /// For subclasses with a cell of their own.
     StyledButton(const QString& title, std::unique_ptr<StyledButtonCell> cell, QWidget* parent);
 
-    StyledButtonCell& styledCell() const;
+    /// True for the right button, and for the left one with the Control key.
+    static bool asksForMenu(const QMouseEvent& press);
 
-    void drawFocus(QPainter& painter) override;
+    /// Where a menu opens below the button.
+    QPoint menuPosition() const;
 
 private:
     std::optional<double> m_fixedWidth;

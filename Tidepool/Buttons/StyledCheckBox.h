@@ -13,6 +13,8 @@ public:
     explicit StyledCheckBox(const QString& title = {}, QWidget* parent = nullptr)
         : StyledCheckBox(title, std::make_unique<StyledCheckBoxCell>(), parent) {}
 
+    StyledCheckBoxCell& cell() const { return static_cast<StyledCheckBoxCell&>(StyledButton::cell()); }
+
 protected:
     StyledCheckBox(const QString& title, std::unique_ptr<StyledCheckBoxCell> cell, QWidget* parent)
         : StyledButton(title, std::move(cell), parent) {}

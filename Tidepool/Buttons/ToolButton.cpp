@@ -1,7 +1,5 @@
 #include "Tidepool/Buttons/ToolButton.h"
 
-#include "Tidepool/Buttons/ButtonMenu.h"
-
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -22,20 +20,10 @@ ToolButton::ToolButton(const QString& title, QWidget* parent)
     });
 }
 
-bool ToolButton::showMoreIcon() const {
-    return toolCell().showMoreIcon();
-}
-
-void ToolButton::setShowMoreIcon(bool shows) {
-    toolCell().setShowMoreIcon(shows);
-    update();
-}
-
 QSizeF ToolButton::intrinsicContentSize() const {
-    const ToolButtonCell& cell = toolCell();
-    QSizeF size = cell.cellSize();
-    if (const platform::Image* bezel = cell.style().bezelImage(cell.controlState());
-        bezel != nullptr && cell.isBordered())
+    const platform::CellContext look = context();
+    QSizeF size = cell().cellSize(look);
+    if (const platform::Image* bezel = cell().bezel(look))
         size.setWidth(std::max(size.width(), bezel->size().width()));
     return size;
 }
@@ -56,7 +44,7 @@ void ToolButton::sendSecondaryAction() {
 bool ToolButton::popUpMenu(const QMouseEvent& press) {
     if (!asksForMenu(press) || menu() == nullptr)
         return false;
-    popUp(*menu(), positionUnder(*this));
+    popUp(*menu(), menuPosition());
     return true;
 }
 

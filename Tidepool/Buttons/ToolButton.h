@@ -15,9 +15,12 @@ class ToolButton : public StyledButton {
 public:
     explicit ToolButton(const QString& title = {}, QWidget* parent = nullptr);
 
+    ToolButtonCell& cell() const { return static_cast<ToolButtonCell&>(StyledButton::cell()); }
+
     /// A small mark which says that there is more behind the button.
-    bool showMoreIcon() const;
-    void setShowMoreIcon(bool shows);
+    bool showMoreIcon() const { return cell().showMoreIcon(); }
+
+    void setShowMoreIcon(bool shows) { cell().setShowMoreIcon(shows); }
 
     QObject* secondaryTarget() const { return m_secondaryTarget; }
 
@@ -40,8 +43,6 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    ToolButtonCell& toolCell() const { return static_cast<ToolButtonCell&>(cell()); }
-
     void sendSecondaryAction();
 
     QPointer<QObject> m_secondaryTarget;

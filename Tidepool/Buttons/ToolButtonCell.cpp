@@ -7,25 +7,25 @@
 
 namespace tidepool {
 
+using platform::CellContext;
+
 // Over the bezel, if there is one, and below what the user put there.
-void ToolButtonCell::drawInterior(QPainter& painter, const QRectF& frame) const {
+void ToolButtonCell::drawInterior(QPainter& painter, const QRectF& frame, const CellContext& context) const {
     if (m_showMoreIcon)
-        drawMore(painter, frame);
-    StyledButtonCell::drawInterior(painter, frame);
+        drawMore(painter, frame, context);
+    StyledButtonCell::drawInterior(painter, frame, context);
 }
 
-void ToolButtonCell::drawMore(QPainter& painter, const QRectF& frame) const {
+void ToolButtonCell::drawMore(QPainter& painter, const QRectF& frame, const CellContext& context) const {
     // Inside the bezel's edge.
     constexpr qreal margin = 4;
     const platform::Image& more = CornerToolImages::more;
     QRectF mark(QPointF(), more.size());
     mark.moveBottomRight(frame.bottomRight() - QPointF(margin, margin));
     painter.save();
-    if (layoutDirection() == Qt::RightToLeft) {
-        painter.translate(frame.left() + frame.right(), 0);
-        painter.scale(-1, 1);
-    }
-    tidepool::drawBezel(painter, mark, &more, *this);
+    if (context.direction == Qt::RightToLeft)
+        mirror(painter, frame);
+    drawTinted(painter, mark, more, controlTextColor(context), opacityOfBezel(context.state));
     painter.restore();
 }
 

@@ -6,18 +6,17 @@
 namespace tidepool {
 
 /// The bezel of a tool, with a mark in the corner where lines end if there is more.
-class ToolButtonCell : public StyledButtonCell {
+class ToolButtonCell : public RestyledCell<ToolButtonCellStyle, StyledButtonCell> {
 public:
-    const ToolButtonCellStyle& style() const override { return resolvedStyle<ToolButtonCellStyle>(); }
-
     bool showMoreIcon() const { return m_showMoreIcon; }
 
-    void setShowMoreIcon(bool shows) { m_showMoreIcon = shows; }
+    void setShowMoreIcon(bool shows) { set(m_showMoreIcon, shows); }
 
-    void drawInterior(QPainter& painter, const QRectF& frame) const override;
+    void drawInterior(QPainter& painter, const QRectF& frame,
+                      const platform::CellContext& context) const override;
 
 private:
-    void drawMore(QPainter& painter, const QRectF& frame) const;
+    void drawMore(QPainter& painter, const QRectF& frame, const platform::CellContext& context) const;
 
     bool m_showMoreIcon = false;
 };

@@ -11,7 +11,7 @@ void VantorPushButton::setFixedHeight(std::optional<double> height) {
 }
 
 QSizeF VantorPushButton::intrinsicContentSize() const {
-    const QSizeF natural = cell().cellSize();
+    const QSizeF natural = cell().cellSize(context());
     return {fixedWidth().value_or(natural.width()), m_fixedHeight.value_or(natural.height())};
 }
 

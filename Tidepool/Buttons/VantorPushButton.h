@@ -19,8 +19,7 @@ public:
     /// In points; the natural height without one.
     void setFixedHeight(std::optional<double> height);
 
-    /// For the insets; call `update()` after a change while the button is shown.
-    VantorPushButtonCell& vantorCell() const { return static_cast<VantorPushButtonCell&>(cell()); }
+    VantorPushButtonCell& cell() const { return static_cast<VantorPushButtonCell&>(StyledButton::cell()); }
 
     QMarginsF alignmentRectInsets() const override { return {}; }
 

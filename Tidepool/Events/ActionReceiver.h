@@ -17,16 +17,6 @@ public:
     Q_INVOKABLE virtual void actionWithSender(QObject* sender) = 0;
 };
 
-/// The same for a control with a publisher.
-class ControlActionReceiver : public QObject {
-    Q_OBJECT
-
-public:
-    static constexpr platform::Selector controlActionWithSenderSelector{"controlActionWithSender"};
-
-    Q_INVOKABLE virtual void controlActionWithSender(QObject* sender) = 0;
-};
-
 /// The action's sender as what its receiver expects; a sender of another type stops the program.
 template <typename T>
 T& senderAs(QObject* sender) {

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "Platform/Publishing/PassthroughSubject.h"
 #include "Tidepool/Events/ActionReceiver.h"
+#include "Tidepool/Events/ControlActions.h"
 
 #include <QPointer>
+#include <QWidget>
 
 #include <concepts>
 #include <memory>
@@ -19,60 +20,37 @@ concept CombineCompatible = std::derived_from<T, platform::Control> && std::deri
 template <CombineCompatible Control>
 class NSControlPublisher : public platform::Publisher<Control*> {
 public:
-    explicit NSControlPublisher(Control& control) : m_control(&control) {}
+    /// Takes the place of the control's target, and so silences whatever published its actions before. Most
+    /// callers want `publisher`.
+    explicit NSControlPublisher(Control& control)
+        : NSControlPublisher(control, (new ControlActions(control))->subject()) {}
+
+    NSControlPublisher(Control& control, const std::shared_ptr<ControlActions::Subject>& actions)
+        : m_control(&control), m_controls(actions->map([](platform::Control* const& sender) {
+              return &senderAs<Control>(&sender->view());
+          })) {}
 
     /// Null once it has gone.
     Control* control() const { return m_control; }
 
     void receive(std::shared_ptr<platform::Subscriber<Control*>> subscriber) override {
-        m_subject->receive(std::move(subscriber));
+        m_controls->receive(std::move(subscriber));
     }
-
-    void send(Control& control) { m_subject->send(&control); }
-
-    void finish() { m_subject->send(platform::Completion{}); }
 
 private:
     QPointer<Control> m_control;
-    const std::shared_ptr<platform::PassthroughSubject<Control*>> m_subject =
-        std::make_shared<platform::PassthroughSubject<Control*>>();
+    const platform::AnyPublisher<Control*> m_controls;
 };
 
-/// What the control keeps: its target, and with it the publisher.
-template <CombineCompatible Control>
-class ControlPublisherTarget : public ControlActionReceiver {
-public:
-    static QString key() { return QStringLiteral("PublisherHelperKey"); }
-
-    explicit ControlPublisherTarget(Control& control)
-        : m_publisher(std::make_shared<NSControlPublisher<Control>>(control)) {
-        setParent(&control);
-        setObjectName(key());
-        control.setAction(controlActionWithSenderSelector, this);
-    }
-
-    ~ControlPublisherTarget() override { m_publisher->finish(); }
-
-    const std::shared_ptr<NSControlPublisher<Control>>& publisher() const { return m_publisher; }
-
-    void controlActionWithSender(QObject* sender) override { m_publisher->send(senderAs<Control>(sender)); }
-
-private:
-    const std::shared_ptr<NSControlPublisher<Control>> m_publisher;
-};
-
-/// The one publisher of `control`. The first call makes it the control's target, in place of any other; a
-/// target that is set later silences it. Always call it with the same static type: a control has one
-/// publisher, and one of another type takes its place and ends it.
+/// The publisher of `control`, the same for each call. The first makes it the control's target, in place of
+/// any other; a target that is set later silences it.
 template <CombineCompatible Control>
 std::shared_ptr<NSControlPublisher<Control>> publisher(Control& control) {
-    using Target = ControlPublisherTarget<Control>;
-    auto* const known =
-        control.template findChild<ControlActionReceiver*>(Target::key(), Qt::FindDirectChildrenOnly);
-    if (const auto* const target = dynamic_cast<Target*>(known))
-        return target->publisher();
-    const std::unique_ptr<QObject> former(known);
-    return (new Target(control))->publisher();
+    ControlActions& actions = ControlActions::of(control);
+    std::shared_ptr<void>& known = actions.publishers[typeid(Control)];
+    if (!known)
+        known = std::make_shared<NSControlPublisher<Control>>(control, actions.subject());
+    return std::static_pointer_cast<NSControlPublisher<Control>>(known);
 }
 
 } // namespace tidepool

@@ -82,9 +82,10 @@ private:
     platform::AnyPublisher<T> m_upstream;
 };
 
-template <typename T>
-platform::AnyPublisher<T> receiveOnMainThread(std::shared_ptr<platform::Publisher<T>> upstream) {
-    return std::make_shared<ReceiveOnMainThread<T>>(std::move(upstream));
+/// Of any publisher.
+template <typename Upstream>
+platform::AnyPublisher<typename Upstream::Output> receiveOnMainThread(std::shared_ptr<Upstream> upstream) {
+    return std::make_shared<ReceiveOnMainThread<typename Upstream::Output>>(std::move(upstream));
 }
 
 } // namespace tidepool

@@ -79,7 +79,7 @@ void bindMenu(platform::PopUpButton& button, const T& value, platform::AnyPublis
     configure(button, value);
     const auto current = std::make_shared<RawValue<T>>(Presentation<T>::rawValue(value));
     const QPointer<platform::PopUpButton> shown(&button);
-    cancellables.push_back(receiveOnMainThread<T>(std::move(publisher))->sink([=](const T& published) {
+    cancellables.push_back(receiveOnMainThread(std::move(publisher))->sink([=](const T& published) {
         *current = Presentation<T>::rawValue(published);
         if (shown && shown->menu() != nullptr)
             selectItem(*shown, platform::flattenedItems(*shown->menu()), published);

@@ -6,9 +6,8 @@
 namespace tidepool {
 
 void popUpContextMenu(platform::PushButton& button) {
-    const int start = button.isRightToLeft() ? button.width() : 0;
     if (button.menu() != nullptr)
-        platform::popUp(*button.menu(), nullptr, QPoint(start, button.height()), button);
+        platform::popUp(*button.menu(), nullptr, platform::below(button), button);
 }
 
 } // namespace tidepool

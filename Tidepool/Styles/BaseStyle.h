@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Controls/CellStyle.h"
 #include "Platform/Graphics/Appearance.h"
 
 #include <QColor>
@@ -12,9 +13,8 @@ namespace tidepool {
 enum class BackgroundStyle { normal = 0, emphasized = 1, raised = 2, lowered = 3 };
 
 /// What every style can say.
-class Style {
+class Style : public platform::CellStyle {
 public:
-    virtual ~Style() = default;
     virtual const std::optional<platform::Appearance>& appearanceName() const = 0;
     virtual BackgroundStyle backgroundStyle() const = 0;
     virtual BackgroundStyle interiorBackgroundStyle() const = 0;

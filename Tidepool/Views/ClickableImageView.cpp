@@ -1,6 +1,7 @@
 #include "Tidepool/Views/ClickableImageView.h"
 
 #include "Platform/Controls/PressKey.h"
+#include "Platform/Graphics/Dimming.h"
 #include "Tidepool/Buttons/CellDrawing.h"
 #include "Tidepool/Styles/ButtonCellStyle.h"
 #include "Tidepool/Styles/StyleReference.h"
@@ -32,7 +33,7 @@ void ClickableImageView::click() {
 }
 
 platform::ClickGestureRecognizer& ClickableImageView::clickGestureRecognizer() {
-    constexpr qreal pressed = 0.5;
+    constexpr qreal pressed = platform::dimmedOpacity;
     if (!m_recognizer)
         m_recognizer = std::make_unique<platform::ClickGestureRecognizer>(
             *this, [this] { click(); }, [this](bool isPressed) { setAlphaValue(isPressed ? pressed : 1); });
@@ -44,7 +45,8 @@ void ClickableImageView::paintEvent(QPaintEvent* event) {
     if (!hasFocus() || !isActiveWindow())
         return;
     QPainter painter(this);
-    drawFocusRing(painter, QRectF(rect()), StyleReference().get<ButtonCellStyle>(this).focusRingColor());
+    drawFocusRing(painter, focusRingMaskBounds(),
+                  kitFocusRing(StyleReference().get<ButtonCellStyle>(this).focusRingColor()));
 }
 
 void ClickableImageView::mousePressEvent(QMouseEvent* event) {

@@ -22,8 +22,7 @@ public:
     /// As if the user had clicked.
     void click();
 
-    /// As on every control that says so, the click that activates the window counts.
-    bool acceptsFirstMouse() const { return true; }
+    bool acceptsFirstMouse() const override { return true; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,5 +1,6 @@
 #include "Tidepool/Views/ClickableImageViewAccessibility.h"
 
+#include "Platform/Controls/Accessibility.h"
 #include "Tidepool/Views/ClickableImageView.h"
 
 #include <QAccessibleWidget>
@@ -28,21 +29,10 @@ private:
     ClickableImageView& m_view;
 };
 
-QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
-    auto* const view = className == QLatin1String("tidepool::ClickableImageView")
-                           ? dynamic_cast<ClickableImageView*>(object)
-                           : nullptr;
-    return view != nullptr ? new ClickableImageViewInterface(*view) : nullptr;
-}
-
 } // namespace
 
 void installClickableImageViewAccessibility() {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
-    Q_UNUSED(installed);
+    platform::installAccessibility<ClickableImageView, ClickableImageViewInterface>();
 }
 
 } // namespace tidepool

@@ -28,7 +28,7 @@ HostWatch pages() {
 std::vector<bool> selection(const PluginHeaderView& header) {
     std::vector<bool> selected;
     for (const TabButton* tab : header.findChildren<TabButton*>())
-        selected.push_back(tab->isSelected());
+        selected.push_back(tab->state() == platform::ControlState::on);
     return selected;
 }
 

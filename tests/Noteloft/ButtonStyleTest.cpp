@@ -15,6 +15,7 @@ using noteloft::Assets;
 using noteloft::DefaultVantorButtonStyle;
 using noteloft::QuillfenButtonStyle;
 using platform::ButtonConfiguration;
+using State = platform::StyledControlState;
 using tidepool::TPColorsAK;
 using tidepool::TPImages;
 
@@ -46,11 +47,13 @@ QRgb rgb(const QColor& color) {
 TEST(ButtonStyle, LinkButtonSwapsImageAndColorWhilePressed) {
     const QuillfenButtonStyle style;
     EXPECT_EQ(difference(paint(style, {{}, frame}), Assets::button.image().bitmap(frame.size(), 1)), 0);
-    EXPECT_EQ(difference(paint(style, {{}, frame, true}), Assets::buttonDown.image().bitmap(frame.size(), 1)),
+    EXPECT_EQ(difference(paint(style, {{}, frame, State::highlighted}),
+                         Assets::buttonDown.image().bitmap(frame.size(), 1)),
               0);
-    EXPECT_GT(difference(paint(style, {{}, frame}), paint(style, {{}, frame, true})), 8);
+    EXPECT_GT(difference(paint(style, {{}, frame}), paint(style, {{}, frame, State::highlighted})), 8);
     EXPECT_LE(difference(middle(paint(style, {label, frame})), rgb(Assets::buttonText.color())), 1);
-    EXPECT_LE(difference(middle(paint(style, {label, frame, true})), rgb(Assets::labels.color())), 1);
+    EXPECT_LE(
+        difference(middle(paint(style, {label, frame, State::highlighted})), rgb(Assets::labels.color())), 1);
     EXPECT_EQ(style.size({180, 17}), QSizeF(180, 24));
     EXPECT_EQ(style.overhang(), 2);
     EXPECT_EQ(style.font().pixelSize(), 12);
@@ -60,10 +63,13 @@ TEST(ButtonStyle, LinkButtonSwapsImageAndColorWhilePressed) {
 TEST(ButtonStyle, KitButtonSwapsImageAndColorWhilePressed) {
     const DefaultVantorButtonStyle style;
     EXPECT_EQ(difference(paint(style, {{}, frame}), TPImages::button.image().bitmap(frame.size(), 1)), 0);
-    EXPECT_EQ(
-        difference(paint(style, {{}, frame, true}), TPImages::buttonDown.image().bitmap(frame.size(), 1)), 0);
+    EXPECT_EQ(difference(paint(style, {{}, frame, State::highlighted}),
+                         TPImages::buttonDown.image().bitmap(frame.size(), 1)),
+              0);
     EXPECT_LE(difference(middle(paint(style, {label, frame})), rgb(TPColorsAK::grey85.color())), 1);
-    EXPECT_LE(difference(middle(paint(style, {label, frame, true})), rgb(TPColorsAK::grey50.color())), 1);
+    EXPECT_LE(
+        difference(middle(paint(style, {label, frame, State::highlighted})), rgb(TPColorsAK::grey50.color())),
+        1);
     EXPECT_EQ(style.size({60, 17}), QSizeF(60, 24));
     EXPECT_EQ(style.overhang(), 2);
     EXPECT_EQ(style.font().pixelSize(), 11);
@@ -72,10 +78,10 @@ TEST(ButtonStyle, KitButtonSwapsImageAndColorWhilePressed) {
 
 TEST(ButtonStyle, DisabledKitButtonHasALabelOfHalfOpacity) {
     const DefaultVantorButtonStyle style;
-    for (const bool pressed : {false, true}) {
-        const QRgb bezel = middle(paint(style, {{}, frame, pressed, false}));
-        const QRgb text = middle(paint(style, {label, frame, pressed, true}));
-        const QRgb dimmed = middle(paint(style, {label, frame, pressed, false}));
+    for (const State pressed : {State(), State::highlighted}) {
+        const QRgb bezel = middle(paint(style, {{}, frame, pressed | State::disabled}));
+        const QRgb text = middle(paint(style, {label, frame, pressed}));
+        const QRgb dimmed = middle(paint(style, {label, frame, pressed | State::disabled}));
         for (const int shift : {0, 8, 16})
             EXPECT_NEAR((dimmed >> shift) & 0xff,
                         (((bezel >> shift) & 0xff) + ((text >> shift) & 0xff)) / 2.0, 2);
@@ -87,7 +93,7 @@ TEST(ButtonStyle, BothMarkTheFocus) {
     const DefaultVantorButtonStyle kit;
     for (const platform::ButtonStyle* style :
          {static_cast<const platform::ButtonStyle*>(&link), static_cast<const platform::ButtonStyle*>(&kit)})
-        EXPECT_GT(difference(paint(*style, {label, frame, false, true, true}), paint(*style, {label, frame})),
+        EXPECT_GT(difference(paint(*style, {label, frame, State::focused}), paint(*style, {label, frame})),
                   60);
 }
 

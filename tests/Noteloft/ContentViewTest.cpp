@@ -3,8 +3,8 @@
 #include "Noteloft/ContentViewModel.h"
 #include "Noteloft/ContentViewShader.h"
 #include "Noteloft/ResourceBundle.h"
-#include "Platform/Controls/Button.h"
 #include "Platform/Controls/ImageView.h"
+#include "Platform/Controls/PushButton.h"
 #include "Platform/Controls/ShadowedLabel.h"
 #include "Platform/Core/Bundle.h"
 #include "Platform/Gpu/GpuDevice.h"
@@ -26,7 +26,7 @@ using noteloft::Assets;
 using noteloft::ContentView;
 using noteloft::ContentViewModel;
 using platform::Bundle;
-using platform::Button;
+using Button = platform::PushButton;
 
 namespace {
 

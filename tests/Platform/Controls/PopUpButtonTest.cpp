@@ -1,5 +1,6 @@
 #include "Platform/Controls/PopUpButton.h"
 #include "Platform/Controls/ButtonStyle.h"
+#include "Platform/Controls/FocusRing.h"
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>
@@ -125,7 +126,7 @@ TEST_F(PopUpButtonTest, AFullMenuHasItsFirstItemSelected) {
         button->setMenu(std::move(menu));
     }
     EXPECT_EQ(m_button.title(), QStringLiteral("R & B"));
-    EXPECT_EQ(m_button.cell().plainTitle(), QStringLiteral("R & B"));
+    EXPECT_EQ(m_button.plainTitle(), QStringLiteral("R & B"));
     EXPECT_EQ(m_pullDown.selectedItem(), nullptr);
     QTest::keyClick(&m_pullDown, Qt::Key_End);
     EXPECT_EQ(m_pullDown.selectedItem(), nullptr);
@@ -140,13 +141,13 @@ TEST_F(PopUpButtonTest, PressOpensTheMenuWithTheSelectedItemOverTheButton) {
         m_button.setLayoutDirection(direction);
         QTest::mousePress(&m_button, Qt::LeftButton);
         ASSERT_TRUE(menu.isVisible());
-        EXPECT_TRUE(m_button.cell().isHighlighted());
+        EXPECT_TRUE(m_button.context().state.contains(platform::StyledControlState::highlighted));
         EXPECT_EQ(menu.activeAction(), m_button.selectedItem());
         const QRect row = menu.actionGeometry(m_button.selectedItem()).translated(menu.pos());
         EXPECT_LE(std::abs(row.center().y() - button.center().y()), 1);
         EXPECT_TRUE(menu.geometry().contains(button)) << direction;
         QTest::keyClick(&menu, Qt::Key_Escape);
-        EXPECT_FALSE(m_button.cell().isHighlighted());
+        EXPECT_FALSE(m_button.context().state.contains(platform::StyledControlState::highlighted));
     }
 }
 
@@ -208,7 +209,7 @@ TEST_F(PopUpButtonTest, KeysStepWithoutWrappingAndOpen) {
         EXPECT_TRUE(m_button.menu()->isVisible()) << key;
         QTest::keyClick(m_button.menu(), Qt::Key_Escape);
         EXPECT_FALSE(m_button.menu()->isVisible());
-        EXPECT_FALSE(m_button.cell().isHighlighted());
+        EXPECT_FALSE(m_button.context().state.contains(platform::StyledControlState::highlighted));
     }
     QTest::keyClick(&m_button, Qt::Key_Down, Qt::AltModifier);
     EXPECT_TRUE(m_button.menu()->isVisible());
@@ -295,7 +296,7 @@ TEST_F(PopUpButtonTest, ClosesItsMenuWhenItCanNoLongerBeUsed) {
         ASSERT_TRUE(m_button.menu()->isVisible());
         end(hides);
         EXPECT_FALSE(m_button.menu()->isVisible());
-        EXPECT_FALSE(m_button.cell().isHighlighted());
+        EXPECT_FALSE(m_button.context().state.contains(platform::StyledControlState::highlighted));
         // As the desktop delivers it: an open menu would get it first.
         QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, QPoint(330, 262));
         EXPECT_EQ(clicks.count(), 1);
@@ -337,10 +338,10 @@ TEST_F(PopUpButtonTest, AKeyThatIsHeldOpensTheMenuAndChoosesNothing) {
 
 TEST_F(PopUpButtonTest, ItsTitleKeepsClearOfTheArrowsFromRightToLeft) {
     const QRectF bounds(0, 0, 120, 24);
-    const QRectF leftToRight = m_button.cell().titleRect(bounds);
+    const QRectF leftToRight = m_button.cell().titleRect(bounds, m_button.context());
     EXPECT_LT(leftToRight.left(), 120 - leftToRight.right());
     m_button.setLayoutDirection(Qt::RightToLeft);
-    const QRectF rightToLeft = m_button.cell().titleRect(bounds);
+    const QRectF rightToLeft = m_button.cell().titleRect(bounds, m_button.context());
     EXPECT_EQ(rightToLeft.left(), 120 - leftToRight.right());
     EXPECT_EQ(rightToLeft.right(), 120 - leftToRight.left());
 }
@@ -363,7 +364,7 @@ TEST_F(PopUpButtonTest, MayBeRefilledAndDestroyedByAChoiceInItsMenu) {
     QTest::mousePress(&m_button, Qt::LeftButton);
     chooseInMenu(m_button, *m_button.itemArray()[1]);
     EXPECT_EQ(m_button.title(), QStringLiteral("New"));
-    EXPECT_FALSE(m_button.cell().isHighlighted());
+    EXPECT_FALSE(m_button.context().state.contains(platform::StyledControlState::highlighted));
 
     const QPointer<PopUpButton> doomed(new PopUpButton(false, &m_window));
     doomed->addItem(QStringLiteral("A"));
@@ -407,7 +408,7 @@ TEST_F(PopUpButtonTest, HasOneRingWhileItHasTheKeyboard) {
     m_button.clearFocus();
     QImage expected = picture(m_button);
     QPainter painter(&expected);
-    platform::paintFocusRing(painter, m_button.focusRingMaskBounds(), 4);
+    platform::drawFocusRing(painter, m_button.focusRingMaskBounds(), {.radius = 4});
     painter.end();
     m_button.setFocus(Qt::TabFocusReason);
     EXPECT_EQ(difference(picture(m_button), expected), 0);

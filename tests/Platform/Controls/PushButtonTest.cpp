@@ -38,7 +38,7 @@ TEST(PushButton, StateGoesRoundAsItsTypeSays) {
 TEST(PushButton, MnemonicPressesAndIsNotPartOfTheTitle) {
     QWidget window;
     PushButton button(QStringLiteral("Cut && &Paste"), &window);
-    EXPECT_EQ(button.cell().plainTitle(), QStringLiteral("Cut & Paste"));
+    EXPECT_EQ(button.plainTitle(), QStringLiteral("Cut & Paste"));
     QSignalSpy clicks(&button, &PushButton::clicked);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -122,9 +122,9 @@ TEST(PushButton, MenuKeyOpensItsMenu) {
     QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
     QApplication::sendEvent(&button, &key);
     EXPECT_TRUE(menu.isVisible());
-    EXPECT_TRUE(button.cell().isHighlighted());
+    EXPECT_TRUE(button.context().state.contains(platform::StyledControlState::highlighted));
     menu.close();
-    EXPECT_FALSE(button.cell().isHighlighted());
+    EXPECT_FALSE(button.context().state.contains(platform::StyledControlState::highlighted));
 }
 
 TEST(PushButton, IsNotHighlightedForAMenuThatHasGone) {
@@ -135,9 +135,9 @@ TEST(PushButton, IsNotHighlightedForAMenuThatHasGone) {
     button.resize(40, 24);
     button.show();
     QTest::mousePress(&button, Qt::RightButton);
-    EXPECT_TRUE(button.cell().isHighlighted());
+    EXPECT_TRUE(button.context().state.contains(platform::StyledControlState::highlighted));
     menu.reset();
-    EXPECT_FALSE(button.cell().isHighlighted());
+    EXPECT_FALSE(button.context().state.contains(platform::StyledControlState::highlighted));
 }
 
 TEST(PushButton, HasABezelInTheColorsOfItsOwnPalette) {

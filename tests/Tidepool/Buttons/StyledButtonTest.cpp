@@ -50,12 +50,12 @@ public:
     int area = 0;
 };
 
-/// What would be seen on `background`.
-QImage drawn(const StyledButtonCell& cell, QSize size) {
+/// What would be seen on black.
+QImage drawn(StyledButton& button, QSize size) {
+    button.resize(size);
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::black);
-    QPainter painter(&image);
-    cell.draw(painter, QRectF(QPointF(), size));
+    button.render(&image, {}, {}, QWidget::RenderFlags());
     return image;
 }
 
@@ -73,27 +73,23 @@ QRgb strongest(platform::PushButton& button) {
     return strongest;
 }
 
-StyledButtonCell& cellOf(const StyledButton& button) {
-    return static_cast<StyledButtonCell&>(button.cell());
-}
-
 } // namespace
 
 TEST(StyledButtonCell, StateFollowsTheControl) {
     ValidatedButton button;
     button.setState(ControlState::on);
-    EXPECT_EQ(cellOf(button).controlState(), State::defaultState) << "a push button shows no state";
+    EXPECT_EQ(button.context().state, State::defaultState) << "a push button shows no state";
     button.cell().setButtonType(ButtonCell::ButtonType::pushOnPushOff);
-    EXPECT_EQ(cellOf(button).controlState(), State::defaultState | State::on);
+    EXPECT_EQ(button.context().state, State::defaultState | State::on);
     button.setState(ControlState::mixed);
     button.setDown(true);
     button.setSelected(true);
-    EXPECT_EQ(cellOf(button).controlState(),
+    EXPECT_EQ(button.context().state,
               State::defaultState | State::mixed | State::highlighted | State::selected);
     button.valid = false;
     button.setEnabled(false);
     button.setDown(true);
-    EXPECT_EQ(cellOf(button).controlState(),
+    EXPECT_EQ(button.context().state,
               State::defaultState | State::mixed | State::disabled | State::selected | State::invalid)
         << "a disabled button is never highlighted";
 }
@@ -103,48 +99,48 @@ TEST(StyledButtonCell, GeometryFollowsTheInsetsOfTheStyle) {
     style->setEdgeInsets({3, 1, 2, 4});
     style->setImageEdgeInsets({1, -1, 0, 1});
     style->setTitleEdgeInsets({4, 6, 0, 0});
-    StyledButtonCell cell;
+    StyledButton button;
+    StyledButtonCell& cell = button.cell();
     cell.setStyle(style);
     const QRectF bounds(0, 0, 100.5, 31);
-    EXPECT_EQ(cell.drawingRect(bounds), QRectF(3, 1, 96, 26)) << "integral";
+    EXPECT_EQ(cell.drawingRect(bounds, button.context()), QRectF(3, 1, 96, 26)) << "integral";
     cell.setBordered(false);
-    EXPECT_EQ(cell.drawingRect(bounds), bounds);
-    EXPECT_EQ(cell.focusRingMaskBounds(bounds), bounds);
+    EXPECT_EQ(cell.drawingRect(bounds, button.context()), bounds);
+    EXPECT_EQ(cell.focusRingMaskBounds(bounds, button.context()), bounds);
 
-    cell.setImage(square());
-    cell.setImagePosition(ImagePosition::imageOnly);
-    EXPECT_EQ(cell.imageRect(QRectF(0, 0, 40, 30)), QRectF(1, -1, 39, 30));
-    cell.setImagePosition(ImagePosition::imageLeading);
-    cell.setTitle(QStringLiteral("Title"));
-    const QRectF image = cell.imageRect(QRectF(0, 0, 100, 31));
-    EXPECT_EQ(image.size(), QSizeF(16, 16));
-    EXPECT_EQ(image.top(), 7) << "the middle of the bounds, without its fraction, whatever the insets";
-    const auto titleMiddle = [&] { return cell.titleRect(QRectF(0, 0, 100, 31)).center().y(); };
-    EXPECT_NEAR(titleMiddle(), 15.5, 1);
+    button.setImage(square());
+    button.setImagePosition(ImagePosition::imageOnly);
+    EXPECT_EQ(cell.imageRect(QRectF(0, 0, 40, 30), button.context()), QRectF(1, -1, 39, 30));
+    button.setImagePosition(ImagePosition::imageLeading);
+    button.setText(QStringLiteral("Title"));
+    const auto image = [&] { return cell.imageRect(QRectF(0, 0, 100, 31), button.context()); };
+    const auto title = [&] { return cell.titleRect(QRectF(0, 0, 100, 31), button.context()); };
+    EXPECT_EQ(image().size(), QSizeF(16, 16));
+    EXPECT_EQ(image().top(), 7) << "the middle of the bounds, without its fraction, whatever the insets";
+    EXPECT_NEAR(title().center().y(), 15.5, 1);
     cell.setVerticallyCenterTitle(false);
-    EXPECT_NEAR(titleMiddle(), 18.5, 1) << "the middle of what the insets leave";
-    cell.setLayoutDirection(Qt::RightToLeft);
-    EXPECT_GT(cell.imageRect(QRectF(0, 0, 100, 31)).left(),
-              cell.titleRect(QRectF(0, 0, 100, 31)).right() - 1);
+    EXPECT_NEAR(title().center().y(), 18.5, 1) << "the middle of what the insets leave";
+    button.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_GT(image().left(), title().right() - 1);
 }
 
 TEST(StyledButtonCell, BezelAndImageAreHalfOpaqueWhenDisabled) {
-    StyledButtonCell cell;
-    const QRgb enabled = drawn(cell, {40, 24}).pixel(20, 12);
-    cell.setEnabled(false);
-    const QRgb disabled = drawn(cell, {40, 24}).pixel(20, 12);
+    StyledButton button;
+    const QRgb enabled = drawn(button, {40, 24}).pixel(20, 12);
+    button.setEnabled(false);
+    const QRgb disabled = drawn(button, {40, 24}).pixel(20, 12);
     EXPECT_NEAR(qBlue(disabled), qBlue(enabled) / 2, 2);
-    cell.setBordered(false);
-    EXPECT_EQ(drawn(cell, {40, 24}).pixel(20, 12), qRgb(0, 0, 0));
+    button.setBordered(false);
+    EXPECT_EQ(drawn(button, {40, 24}).pixel(20, 12), qRgb(0, 0, 0));
 
-    cell.setImage(square(TPImages::checkboxOn));
-    cell.setImagePosition(ImagePosition::imageOnly);
-    const QRgb dim = drawn(cell, {16, 16}).pixel(8, 3);
-    cell.setEnabled(true);
-    const QRgb bright = drawn(cell, {16, 16}).pixel(8, 3);
+    button.setImage(square(TPImages::checkboxOn));
+    button.setImagePosition(ImagePosition::imageOnly);
+    const QRgb dim = drawn(button, {16, 16}).pixel(8, 3);
+    button.setEnabled(true);
+    const QRgb bright = drawn(button, {16, 16}).pixel(8, 3);
     EXPECT_NEAR(qBlue(dim), qBlue(bright) / 2, 2);
-    cell.setHighlighted(true);
-    EXPECT_EQ(drawn(cell, {16, 16}).pixel(8, 3), dim);
+    button.setDown(true);
+    EXPECT_EQ(drawn(button, {16, 16}).pixel(8, 3), dim);
 }
 
 TEST(StyledButtonCell, TemplatesHaveTheTextColorOfTheSetInForceAndAreDimmedOnce) {
@@ -182,39 +178,43 @@ TEST(StyledButtonCell, TemplatesHaveTheTextColorOfTheSetInForceAndAreDimmedOnce)
 }
 
 TEST(StyledButtonCell, DrawingAgainAllocatesNothing) {
-    StyledButtonCell cell;
-    cell.setTitle(QStringLiteral("Title"));
-    cell.setImage(square(TPImages::checkboxOn));
+    StyledButton button(QStringLiteral("Title"));
+    button.setImage(square(TPImages::checkboxOn));
     QImage image(90, 24, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
     const QRectF frame(0, 0, 90, 24);
-    cell.draw(painter, frame);
+    const platform::CellContext context = button.context();
+    button.cell().draw(painter, frame, context);
     const AllocationCounter counter;
-    cell.draw(painter, frame);
+    button.cell().draw(painter, frame, context);
     EXPECT_EQ(counter.allocations(), 0);
 }
 
 TEST(StyledButtonCell, ImageScalingPlacesTheImage) {
-    StyledButtonCell cell;
-    cell.setBordered(false);
-    cell.setImage(square(TPImages::checkboxOn));
-    cell.setImagePosition(ImagePosition::imageOnly);
-    const auto isPainted = [&](int x, int y) { return drawn(cell, {40, 40}).pixel(x, y) != qRgb(0, 0, 0); };
+    StyledButton button;
+    button.setBordered(false);
+    button.setImage(square(TPImages::checkboxOn));
+    button.setImagePosition(ImagePosition::imageOnly);
+    const auto isPainted = [&](int x, int y) { return drawn(button, {40, 40}).pixel(x, y) != qRgb(0, 0, 0); };
     for (const ImageScaling scaling :
          {ImageScaling::none, ImageScaling::proportionallyDown, ImageScaling::proportionallyUpOrDown}) {
-        cell.setImageScaling(scaling);
+        button.cell().setImageScaling(scaling);
         EXPECT_TRUE(isPainted(20, 20));
         EXPECT_FALSE(isPainted(8, 8));
     }
-    cell.setImageScaling(ImageScaling::axesIndependently);
+    button.cell().setImageScaling(ImageScaling::axesIndependently);
     EXPECT_TRUE(isPainted(4, 20));
 }
 
-TEST(StyledButtonCellDeathTest, AnotherImageScalingStopsTheProgram) {
-    StyledButtonCell cell;
-    cell.setImage(square());
-    cell.setImageScaling(static_cast<ImageScaling>(4));
-    EXPECT_DEATH(drawn(cell, {40, 24}), "^Unhandled image scaling value\n$");
+TEST(StyledButtonCellDeathTest, ProgrammingErrorsStopTheProgram) {
+    StyledButton button;
+    button.setImage(square());
+    button.cell().setImageScaling(static_cast<ImageScaling>(4));
+    EXPECT_DEATH(drawn(button, {40, 24}), "^Unhandled image scaling value\n$");
+    StyledCheckBox box;
+    StyledButton& base = box;
+    EXPECT_DEATH(base.cell().setStyle(std::make_shared<ButtonCellStyle>()),
+                 "^A cell was given a style of another class\n$");
 }
 
 TEST(StyledButton, SizeIsThatOfTheBezelAndTheTitle) {
@@ -228,8 +228,8 @@ TEST(StyledButton, SizeIsThatOfTheBezelAndTheTitle) {
 
     const auto bare = std::make_shared<ButtonCellStyle>();
     bare->setBezelImages({});
-    button.setButtonStyle(bare);
-    EXPECT_EQ(button.intrinsicContentSize().height(), button.cell().cellSize().height());
+    button.cell().setStyle(bare);
+    EXPECT_EQ(button.intrinsicContentSize().height(), button.cell().cellSize(button.context()).height());
 
     VantorPushButton other(QStringLiteral("Title"));
     other.setFixedHeight(40);
@@ -295,7 +295,7 @@ TEST(StyleSet, HoldsForAWindowAndGivesWayToAnOwnStyle) {
     StyledButton button(QStringLiteral("OK"), &group);
     StyledCheckBox box(QStringLiteral("Box"), &group);
     const auto color = [](const StyledButton& control) {
-        return cellOf(control).style().textColor(State::defaultState);
+        return control.cell().style().textColor(State::defaultState);
     };
     const auto styled = [](QColor text) {
         auto style = std::make_shared<ButtonCellStyle>();
@@ -312,9 +312,9 @@ TEST(StyleSet, HoldsForAWindowAndGivesWayToAnOwnStyle) {
     inner->set<ButtonCellStyle>(styled(Qt::green));
     StyleSet::apply(group, inner);
     EXPECT_EQ(color(button), QColor(Qt::green));
-    button.setButtonStyle(styled(Qt::blue));
+    button.cell().setStyle(styled(Qt::blue));
     EXPECT_EQ(color(button), QColor(Qt::blue));
-    button.setButtonStyle(nullptr);
+    button.cell().setStyle(nullptr);
     StyleSet::apply(group, nullptr);
     EXPECT_EQ(color(button), QColor(Qt::red)) << "what lies around holds again";
     button.setParent(nullptr);
@@ -356,7 +356,7 @@ TEST(StyledButtonStyle, AccessorsThatAMakerOverridesReachTheScreen) {
     };
 
     StyledButton button(QStringLiteral("HHH"));
-    button.setButtonStyle(std::make_shared<WarningStyle>());
+    button.cell().setStyle(std::make_shared<WarningStyle>());
     button.resize(button.sizeHint());
     const QImage image = picture(button);
     bool isRed = false;

@@ -99,21 +99,28 @@ TEST(NSControlPublisher, TheLastTargetWins) {
     EXPECT_EQ(published, 1);
 }
 
-TEST(NSControlPublisher, OfAnotherTypeTakesThePlaceOfTheFormer) {
+TEST(NSControlPublisher, IsOneWhateverTypeItsControlIsKnownBy) {
     StyledCheckBox box;
-    int ends = 0;
-    const auto former = statePublisher(box)->sink([](ControlState) {}, [&](auto&) { ++ends; });
     int published = 0;
+    const auto former = statePublisher(box)->sink([&](ControlState) { published += 1; });
     const auto general =
-        publisher<platform::PushButton>(box)->sink([&](platform::PushButton* const&) { ++published; });
-    EXPECT_EQ(ends, 1) << "a control has one publisher";
+        publisher<platform::PushButton>(box)->sink([&](platform::PushButton* const&) { published += 10; });
     box.click();
-    EXPECT_EQ(published, 1);
-    int again = 0;
-    const auto latter = publisher(box)->sink([&](StyledCheckBox* const&) { ++again; });
+    EXPECT_EQ(published, 11);
+    const auto made = std::make_shared<NSControlPublisher<StyledCheckBox>>(box);
+    const auto latest = made->sink([&](StyledCheckBox* const&) { published += 100; });
     box.click();
-    EXPECT_EQ(again, 1);
-    EXPECT_STREQ(box.action()->name, "controlActionWithSender");
+    EXPECT_EQ(published, 111) << "one that is made directly takes the place of the others";
+}
+
+TEST(NSControlPublisher, ItsSubscriberMayDestroyTheControl) {
+    auto box = std::make_unique<StyledCheckBox>();
+    int ends = 0;
+    const auto token = publisher(*box)->sink([&](StyledCheckBox* const&) { box.reset(); },
+                                             [&](const platform::Completion&) { ++ends; });
+    box->Control::sendAction();
+    EXPECT_EQ(box, nullptr);
+    EXPECT_EQ(ends, 1);
 }
 
 TEST(FocusOnOutput, GivesTheKeyboardToAViewThatIsShown) {

@@ -23,7 +23,7 @@ using platform::PassthroughSubject;
 TEST(ReceiveOnMainThread, DeliversAtOnceThereAndLaterFromElsewhere) {
     const auto subject = std::make_shared<PassthroughSubject<int>>();
     std::vector<int> received;
-    const auto token = receiveOnMainThread<int>(subject)->sink([&](int value) {
+    const auto token = receiveOnMainThread(subject)->sink([&](int value) {
         EXPECT_TRUE(platform::isMainThread());
         received.push_back(value);
     });
@@ -61,7 +61,7 @@ TEST(ReceiveOnMainThread, CancelDropsWhatIsOnItsWay) {
 
     const auto subject = std::make_shared<PassthroughSubject<int>>();
     const auto recorder = std::make_shared<Recorder>();
-    receiveOnMainThread<int>(subject)->receive(recorder);
+    receiveOnMainThread(subject)->receive(recorder);
     subject->send(1);
     std::thread([&] {
         subject->send(2);

@@ -38,7 +38,7 @@ Panel::Panel() {
 
     auto* const reset = new StyledButton(QStringLiteral("Reset"));
     reset->setAction(platform::Selector{"reset"}, this);
-    reset->setButtonStyle(std::make_shared<LoudStyle>());
+    reset->cell().setStyle(std::make_shared<LoudStyle>());
     column->addWidget(reset);
 
     column->addWidget(new PowerButton);

@@ -14,9 +14,10 @@ PowerButtonCell::PowerButtonCell() {
     setButtonType(ButtonType::pushOnPushOff);
 }
 
-void PowerButtonCell::drawBezel(QPainter& painter, const QRectF& frame) const {
+void PowerButtonCell::drawBezel(QPainter& painter, const QRectF& frame,
+                                const platform::CellContext& context) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(style().backgroundColor(controlState()));
+    painter.setBrush(styleOf(context).backgroundColor(context.state));
     painter.drawEllipse(frame.adjusted(4, 4, -4, -4));
 }

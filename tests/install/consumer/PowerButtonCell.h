@@ -9,13 +9,12 @@ public:
 };
 
 /// A disc that is lit while the button is on.
-class PowerButtonCell : public tidepool::StyledButtonCell {
+class PowerButtonCell : public tidepool::RestyledCell<PowerButtonCellStyle, tidepool::StyledButtonCell> {
 public:
     PowerButtonCell();
 
-    const PowerButtonCellStyle& style() const override { return resolvedStyle<PowerButtonCellStyle>(); }
+    QSizeF cellSize(const platform::CellContext&) const override { return {24, 24}; }
 
-    QSizeF cellSize() const override { return {24, 24}; }
-
-    void drawBezel(QPainter& painter, const QRectF& frame) const override;
+    void drawBezel(QPainter& painter, const QRectF& frame,
+                   const platform::CellContext& context) const override;
 };

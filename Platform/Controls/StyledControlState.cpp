@@ -1,8 +1,8 @@
-#include "Tidepool/Styles/StyledControlState.h"
+#include "Platform/Controls/StyledControlState.h"
 
 #include <QStringList>
 
-namespace tidepool {
+namespace platform {
 
 namespace {
 
@@ -27,4 +27,4 @@ std::vector<StyledControlState> StyledControlState::members() const {
     return result;
 }
 
-} // namespace tidepool
+} // namespace platform
