@@ -3,12 +3,11 @@
 #include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
 ButtonCellStyle::ButtonCellStyle() {
-    setBackgroundColor(QColor(Styles::BaseStyles::clear));
+    setBackgroundColor(Styles::BaseStyles::clear);
     setFont(Styles::Control::mediumFont());
     setBezelImages(
         {{normal, TPImages::button}, {on, PushButtonImages::selected}, {highlighted, TPImages::buttonDown}});

@@ -3,7 +3,6 @@
 #include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Styles/ControlStyle.h"
 
 namespace tidepool {
@@ -7,15 +8,13 @@ namespace tidepool {
 /// Sliders.
 class SliderCellStyle : public ControlStyle {
 public:
-    SliderCellStyle();
-
-    virtual const StateImages& barImages() const { return m_barImages; }
-
-    void setBarImages(StateImages value) { m_barImages = std::move(value); }
-
-    virtual const StateImages& knobImages() const { return m_knobImages; }
-
-    void setKnobImages(StateImages value) { m_knobImages = std::move(value); }
+    TP_STYLE_FIELD(StateImages, barImages, setBarImages,
+                   {{StyledControlState::defaultState, SliderImages::alley},
+                    {StyledControlState::highlighted, SliderImages::normal}})
+    TP_STYLE_FIELD(StateImages, knobImages, setKnobImages,
+                   {{StyledControlState::defaultState, SliderImages::handle},
+                    {StyledControlState::highlighted, SliderImages::handleDown},
+                    {StyledControlState::mixed, SliderImages::handleMulti}})
 
     /// Null if there is none.
     virtual const platform::Image* barImage(StyledControlState state) const {
@@ -25,10 +24,6 @@ public:
     virtual const platform::Image* knobImage(StyledControlState state) const {
         return knobImages().image(state);
     }
-
-private:
-    StateImages m_barImages;
-    StateImages m_knobImages;
 };
 
 } // namespace tidepool

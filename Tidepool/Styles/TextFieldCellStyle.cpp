@@ -3,14 +3,10 @@
 #include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
-TextFieldCellStyle::TextFieldCellStyle()
-    : m_placeholderTextColor(Styles::TextInput::placeholder),
-      m_placeholderBackground(QColor(Styles::BaseStyles::clear)),
-      m_padding(insets(2, 6, 2, 6)) {
+TextFieldCellStyle::TextFieldCellStyle() {
     setHighlightedTextColor(Styles::TextInput::highlightedText);
     setInvalidTextColor(Styles::Control::error);
     setAlignmentRectInsets(insets(2, 2, 2, 2));

@@ -2,7 +2,6 @@
 
 #include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
