@@ -4,7 +4,6 @@
 #include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPColors.h"
 #include "Tidepool/Styles/CheckBoxCellStyle.h"
-#include "Tidepool/Styles/KitStyles.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -41,10 +40,9 @@ std::shared_ptr<const tidepool::StyleSet> kitStyles(const GallerySettings& setti
 }
 
 std::shared_ptr<const tidepool::StyleSet> formStyles(const GallerySettings& settings) {
-    const auto box = std::make_shared<tidepool::CheckBoxCellStyle>();
+    const auto box =
+        tidepool::makeStyle<tidepool::CheckBoxCellStyle>({platform::currentAppearance(), accentOf(settings)});
     box->setFont(textFont(TextRole::body));
-    if (const std::optional<QColor> accent = accentOf(settings))
-        tidepool::applyAccent(*box, *accent);
     const auto set = std::make_shared<tidepool::StyleSet>();
     set->set<tidepool::CheckBoxCellStyle>(box);
     return set;

@@ -33,6 +33,13 @@ class BaseStyle : public Style {
                    BackgroundStyle::emphasized)
     TP_STYLE_FIELD(bool, opaque, setOpaque, false)
     TP_STYLE_FIELD(QColor, backgroundColor, setBackgroundColor, Styles::BaseStyles::background)
+
+    /// Takes `accent` in place of the kit's blue; a class overrides this for colours and images of its own.
+    /// The appearance is still the one in which the style was made.
+    virtual void applyAccent(const QColor& /*accent*/) {}
+
+    /// Called once on a style that is made for all controls of its class.
+    virtual void prepareToBeShared() {}
 };
 
 } // namespace tidepool

@@ -21,6 +21,11 @@ CheckBoxCellStyle::CheckBoxCellStyle() {
                      {selected | mixed, CheckBoxImages::mixedDown}});
 }
 
+void CheckBoxCellStyle::applyAccent(const QColor& accent) {
+    ButtonCellStyle::applyAccent(accent);
+    setButtonImages(accented(buttonImages(), accent));
+}
+
 FavouriteCheckBoxCellStyle::FavouriteCheckBoxCellStyle() {
     setButtonImages({{normal, OrganiserImages::iconStarEmpty}, {on, OrganiserImages::iconStar}});
 }

@@ -15,6 +15,8 @@ public:
     virtual const platform::Image* buttonImage(StyledControlState state) const {
         return buttonImages().image(state);
     }
+
+    void applyAccent(const QColor& accent) override;
 };
 
 /// Check boxes in the form of a star.

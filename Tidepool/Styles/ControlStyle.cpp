@@ -36,4 +36,15 @@ const platform::Image* ControlStyle::bezelImage(StyledControlState state) const 
     return bezelImages().image(state);
 }
 
+void ControlStyle::applyAccent(const QColor& accent) {
+    setBezelImages(accented(bezelImages(), accent));
+    setSwiftUIBezelImages(accented(swiftUIBezelImages(), accent));
+    setSelectedBackgroundColor(accent);
+    setFocusRingColor(accent);
+}
+
+StateImages ControlStyle::accented(const StateImages& images, const QColor& accent) {
+    return images.recolored({Styles::Control::selection.color().rgb(), accent.rgb()});
+}
+
 } // namespace tidepool

@@ -46,6 +46,12 @@ public:
 
     /// Null if there is none.
     virtual const platform::Image* bezelImage(StyledControlState state) const;
+
+    void applyAccent(const QColor& accent) override;
+
+protected:
+    /// Copies with the accent in place of the kit's blue.
+    static StateImages accented(const StateImages& images, const QColor& accent);
 };
 
 } // namespace tidepool

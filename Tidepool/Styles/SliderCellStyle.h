@@ -24,6 +24,12 @@ public:
     virtual const platform::Image* knobImage(StyledControlState state) const {
         return knobImages().image(state);
     }
+
+    void applyAccent(const QColor& accent) override {
+        ControlStyle::applyAccent(accent);
+        setBarImages(accented(barImages(), accent));
+        setKnobImages(accented(knobImages(), accent));
+    }
 };
 
 } // namespace tidepool

@@ -9,11 +9,11 @@
 namespace tidepool {
 
 /// The style that all cells of a class share: made on first use, and the one to change for all of them before
-/// they are shown. A class whose shared style differs from a new one specialises this.
+/// they are shown.
 template <typename S>
 S& sharedStyle() {
-    static S style;
-    return style;
+    static const std::shared_ptr<S> style = makeStyle<S>({platform::currentAppearance()});
+    return *style;
 }
 
 /// Where a cell gets its style from. Main thread.

@@ -33,4 +33,9 @@ const StyleSet* StyleSet::of(const QWidget* widget) {
     return set != nullptr ? set->get() : nullptr;
 }
 
+std::shared_ptr<const StyleSet> makeStyleSet(platform::Appearance appearance,
+                                             const std::optional<QColor>& accent) {
+    return std::make_shared<StyleSet>(StyleLook{appearance, accent});
+}
+
 } // namespace tidepool

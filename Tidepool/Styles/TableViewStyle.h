@@ -13,6 +13,11 @@ public:
     TP_STYLE_FIELD(QColor, selectedRowBackgroundColor, setSelectedRowBackgroundColor,
                    Styles::TableRow::selection)
     TP_STYLE_FIELD(QColor, headerBackgroundColor, setHeaderBackgroundColor, Styles::TableHeader::background)
+
+    void applyAccent(const QColor& accent) override {
+        ControlStyle::applyAccent(accent);
+        setSelectedRowBackgroundColor(accent);
+    }
 };
 
 /// Outlines look like tables.

@@ -16,7 +16,7 @@ CornerButtonCellStyle::CornerButtonCellStyle() {
     setEdgeInsets(insets(2, 4, 2, 4));
 }
 
-void BackButtonCellStyle::setArrowBezel() {
+void BackButtonCellStyle::prepareToBeShared() {
     setBezelImages({{normal, OrganiserImages::navbarBack}, {highlighted, OrganiserImages::navbarBackDown}});
 }
 

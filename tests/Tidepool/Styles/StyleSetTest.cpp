@@ -1,7 +1,8 @@
-#include "Tidepool/Styles/KitStyles.h"
+#include "Tidepool/Styles/StyleSet.h"
 #include "Tidepool/Buttons/BackButton.h"
 #include "Tidepool/Buttons/StyledCheckBox.h"
 #include "Tidepool/Palette/TPColors.h"
+#include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/CheckBoxCellStyle.h"
 #include "Tidepool/Styles/TableViewStyle.h"
 #include "tests/support/Pixels.h"
@@ -18,6 +19,14 @@ QImage look(platform::PushButton& button) {
     return picture(button);
 }
 
+class MakerStyle : public ButtonCellStyle {
+public:
+    MakerStyle() {
+        setBackgroundColor(TPColors::Background::normal);
+        setBezelImages({{StyledControlState::defaultState, TPImages::checkboxOn}});
+    }
+};
+
 /// The colour in the middle of the mark-free part of a box that is on.
 QColor boxColor(QWidget& window, platform::PushButton& box) {
     box.setState(platform::ControlState::on);
@@ -28,7 +37,7 @@ QColor boxColor(QWidget& window, platform::PushButton& box) {
 
 } // namespace
 
-TEST(KitStyles, ChangeARunningWindowAndBack) {
+TEST(StyleSet, ChangeARunningWindowAndBack) {
     QWidget window;
     BackButton button(QStringLiteral("Back"), &window);
     const QImage dark = look(button);
@@ -41,7 +50,7 @@ TEST(KitStyles, ChangeARunningWindowAndBack) {
     EXPECT_EQ(difference(look(button), dark), 0);
 }
 
-TEST(KitStyles, AccentReplacesTheBlueAndNothingElse) {
+TEST(StyleSet, AccentReplacesTheBlueAndNothingElse) {
     QWidget window;
     StyledCheckBox box({}, &window);
     const QColor blue = boxColor(window, box);
@@ -57,13 +66,17 @@ TEST(KitStyles, AccentReplacesTheBlueAndNothingElse) {
     EXPECT_LE(difference(off, picture(box)), 1) << "a box that is off has no accent";
 }
 
-TEST(KitStyles, SetHasEveryStyleInItsAppearance) {
-    const auto set = makeStyleSet(Appearance::light, QColor(Qt::red));
-    const auto* style = set->get<CheckBoxCellStyle>();
+TEST(StyleSet, MakesTheStylesOfAllClassesInItsAppearance) {
+    const QColor accent(230, 90, 30);
+    const auto set = makeStyleSet(Appearance::light, accent);
+    const auto* style = set->get<MakerStyle>();
     ASSERT_NE(style, nullptr);
+    EXPECT_EQ(style, set->get<MakerStyle>()) << "made once";
     EXPECT_EQ(style->appearanceName(), Appearance::light);
-    EXPECT_EQ(style->focusRingColor(), QColor(Qt::red));
-    EXPECT_NE(style->textColor(), TPColors::grey85.color());
-    EXPECT_EQ(set->get<TableViewStyle>()->selectedRowBackgroundColor(), QColor(Qt::red));
-    EXPECT_EQ(set->get<OutlineViewStyle>()->selectedRowBackgroundColor(), QColor(Qt::red));
+    EXPECT_GT(style->backgroundColor().lightness(), 128);
+    EXPECT_EQ(style->focusRingColor(), accent);
+    const QColor box = style->bezelImage({})->bitmap({16, 16}, 1).pixelColor(6, 3);
+    EXPECT_NEAR(box.hue(), accent.hue(), 12);
+    EXPECT_EQ(set->get<OutlineViewStyle>()->selectedRowBackgroundColor(), accent);
+    EXPECT_EQ(StyleSet().get<MakerStyle>(), nullptr);
 }
