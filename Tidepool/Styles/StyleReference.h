@@ -3,16 +3,21 @@
 #include "Tidepool/Styles/ControlStyle.h"
 #include "Tidepool/Styles/StyleSet.h"
 
+#include <array>
 #include <memory>
 #include <utility>
 
 namespace tidepool {
 
-/// The style that all cells of a class share: made on first use, and the one to change for all of them before
-/// they are shown.
+/// The style that all cells of a class share in the appearance in force: made on first use, and the one to
+/// change for all of them before they are shown.
 template <typename S>
 S& sharedStyle() {
-    static const std::shared_ptr<S> style = makeStyle<S>({platform::currentAppearance()});
+    static std::array<std::shared_ptr<S>, 2> styles;
+    const platform::Appearance appearance = platform::currentAppearance();
+    std::shared_ptr<S>& style = styles[static_cast<std::size_t>(appearance)];
+    if (!style)
+        style = makeStyle<S>({appearance});
     return *style;
 }
 

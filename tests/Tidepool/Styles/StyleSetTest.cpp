@@ -66,6 +66,18 @@ TEST(StyleSet, AccentReplacesTheBlueAndNothingElse) {
     EXPECT_LE(difference(off, picture(box)), 1) << "a box that is off has no accent";
 }
 
+TEST(SharedStyle, FollowsTheAppearanceInForce) {
+    BackButton early(QStringLiteral("Back"));
+    const QImage dark = look(early);
+    platform::setAppearance(Appearance::light);
+    BackButton late(QStringLiteral("Back"));
+    const QImage light = look(late);
+    EXPECT_GT(difference(light, dark), 60);
+    EXPECT_EQ(difference(look(early), light), 0) << "a window never mixes the two";
+    platform::setAppearance(Appearance::dark);
+    EXPECT_EQ(difference(look(late), dark), 0);
+}
+
 TEST(StyleSet, MakesTheStylesOfAllClassesInItsAppearance) {
     const QColor accent(230, 90, 30);
     const auto set = makeStyleSet(Appearance::light, accent);
