@@ -43,8 +43,7 @@ void StyledButton::setSelected(bool selected) {
 
 void StyledButton::setButtonStyle(std::shared_ptr<const ButtonCellStyle> style) {
     styledCell().setStyle(std::move(style));
-    updateGeometry();
-    update();
+    platform::notifyStyleChange(*this);
 }
 
 QMarginsF StyledButton::alignmentRectInsets() const {

@@ -56,7 +56,8 @@ public:
         return style == m_styles.end() ? nullptr : static_cast<const S*>(style->second.get());
     }
 
-    /// Gives `root` and everything in it this set, and shows it; null takes it away.
+    /// Gives `root` and everything in it this set; null takes it away. Here and whenever a widget moves into
+    /// the reach of a set or out of it, `platform::notifyStyleChange` tells the widgets.
     static void apply(QWidget& root, std::shared_ptr<const StyleSet> set);
 
     /// The set that holds for `widget`, or null.

@@ -7,6 +7,8 @@
 #include "Tidepool/Styles/TableViewStyle.h"
 #include "tests/support/Pixels.h"
 
+#include <QHBoxLayout>
+
 #include <gtest/gtest.h>
 
 using namespace tidepool;
@@ -25,6 +27,24 @@ public:
         setBackgroundColor(TPColors::Background::normal);
         setBezelImages({{StyledControlState::defaultState, TPImages::checkboxOn}});
     }
+};
+
+/// Counts how often what it watches is told of a change of styles.
+class StyleChanges : public QObject {
+public:
+    int during(const std::function<void()>& change) {
+        count = 0;
+        change();
+        return count;
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::StyleChange ? 1 : 0;
+        return false;
+    }
+
+private:
+    int count = 0;
 };
 
 /// The colour in the middle of the mark-free part of a box that is on.
@@ -66,11 +86,39 @@ TEST(StyleSet, AccentReplacesTheBlueAndNothingElse) {
     EXPECT_LE(difference(off, picture(box)), 1) << "a box that is off has no accent";
 }
 
+TEST(StyleSet, IsAnnouncedToWhatComesIntoItsReachAndLeavesIt) {
+    const auto large = makeStyle<ButtonCellStyle>({Appearance::light});
+    large->setFont(QFont(large->font().family(), 60));
+    const auto set = std::make_shared<StyleSet>();
+    set->set<ButtonCellStyle>(large);
+    QWidget window;
+    QWidget group;
+    QHBoxLayout layout(&group);
+    StyledButton button(QStringLiteral("OK"));
+    layout.addWidget(&button);
+    StyleChanges changes;
+    button.installEventFilter(&changes);
+    const QImage before = look(button);
+    const QSize size = group.sizeHint();
+
+    EXPECT_EQ(changes.during([&] { group.setParent(&window); }), 0) << "nobody has a set";
+    EXPECT_EQ(changes.during([&] { StyleSet::apply(window, set); }), 1);
+    EXPECT_EQ(changes.during([&] { group.setParent(nullptr); }), 1);
+    EXPECT_EQ(group.sizeHint(), size);
+    EXPECT_EQ(changes.during([&] { group.setParent(&window); }), 1) << "its parent's parent is new";
+    EXPECT_GT(group.sizeHint().width(), size.width() + 20);
+    EXPECT_GT(difference(look(button), before), 60);
+    EXPECT_EQ(changes.during([&] { StyleSet::apply(window, nullptr); }), 1);
+    EXPECT_EQ(changes.during([&] { button.setButtonStyle(large); }), 1);
+    EXPECT_EQ(changes.during([&] { platform::setAppearance(Appearance::dark); }), 1);
+}
+
 TEST(SharedStyle, FollowsTheAppearanceInForce) {
-    BackButton early(QStringLiteral("Back"));
+    QWidget window;
+    BackButton early(QStringLiteral("Back"), &window);
     const QImage dark = look(early);
     platform::setAppearance(Appearance::light);
-    BackButton late(QStringLiteral("Back"));
+    BackButton late(QStringLiteral("Back"), &window);
     const QImage light = look(late);
     EXPECT_GT(difference(light, dark), 60);
     EXPECT_EQ(difference(look(early), light), 0) << "a window never mixes the two";
