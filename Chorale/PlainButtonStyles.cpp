@@ -1,6 +1,6 @@
 #include "Chorale/PlainButtonStyles.h"
 
-#include "Chorale/AssetResources.h"
+#include "Chorale/Assets.h"
 #include "Chorale/RocketFontModifier.h"
 
 #include <QPainter>
@@ -28,13 +28,13 @@ QFont TabButtonStyle::font() const {
 
 void TabButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     prepare(painter, configuration);
-    painter.setPen(m_isSelected ? EditorAssets::tabSelected.color() : EditorAssets::tabUnselected.color());
+    painter.setPen(m_isSelected ? Colors::tabSelected.color() : Colors::tabUnselected.color());
     painter.drawText(configuration.frame, Qt::AlignCenter, configuration.label);
 }
 
 void LogoButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     prepare(painter, configuration);
-    drawScaled(painter, m_image.image().tinted(EditorAssets::tabSelected), configuration.frame, m_scale);
+    drawScaled(painter, m_image.image().tinted(Colors::tabSelected), configuration.frame, m_scale);
 }
 
 } // namespace chorale

@@ -1,7 +1,7 @@
 #include "Gallery/StyleSet.h"
 
 #include "Gallery/Layout/Text.h"
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPColors.h"
 #include "Tidepool/Styles/CheckBoxCellStyle.h"
 
@@ -28,7 +28,7 @@ QPalette kitPalette() {
     palette.setColor(QPalette::WindowText, TPColorsAK::grey85);
     palette.setColor(QPalette::ButtonText, TPColorsAK::grey85);
     palette.setColor(QPalette::PlaceholderText, TPColorsAK::grey60);
-    palette.setColor(QPalette::Highlight, tidepool::SignalColors::systemHighlight);
+    palette.setColor(QPalette::Highlight, tidepool::Colors::Highlight::system);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, TPColorsAK::grey40);

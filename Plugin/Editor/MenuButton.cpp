@@ -4,7 +4,7 @@
 #include "Chorale/ViewScale.h"
 #include "Platform/Controls/Menu.h"
 #include "Platform/Windows/Browser.h"
-#include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Assets.h"
 
 #include <QPainter>
 #include <QUrl>
@@ -27,7 +27,7 @@ public:
             platform::paintFocusRing(painter, configuration.frame, 4 * m_scale);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(configuration.isPressed ? 0.7 : 1);
-        painter.setPen(QPen(EditorColors::value.color(), 1.5 * m_scale, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(QPen(Colors::value.color(), 1.5 * m_scale, Qt::SolidLine, Qt::RoundCap));
         painter.translate(configuration.frame.center());
         for (const int line : {-1, 0, 1})
             painter.drawLine(QPointF(-width / 2, line * distance) * m_scale,

@@ -1,6 +1,6 @@
 #include "Tidepool/Styles/ButtonCellStyle.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
 
@@ -10,7 +10,7 @@ ButtonCellStyle::ButtonCellStyle() {
     setBackgroundColor(Styles::BaseStyles::clear);
     setFont(Styles::Control::mediumFont());
     setBezelImages(
-        {{normal, TPImages::button}, {on, PushButtonImages::selected}, {highlighted, TPImages::buttonDown}});
+        {{normal, TPImages::button}, {on, Images::tpkButtonSelected}, {highlighted, TPImages::buttonDown}});
 }
 
 } // namespace tidepool

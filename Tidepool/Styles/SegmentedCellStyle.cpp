@@ -1,6 +1,6 @@
 #include "Tidepool/Styles/SegmentedCellStyle.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Styles/StyleValues.h"
 
 namespace tidepool {
@@ -11,9 +11,9 @@ SegmentedCellStyle::SegmentedCellStyle() {
     setSelectedTextColor(Styles::PropertiesTab::selectedText);
     setHighlightedTextColor(Styles::PropertiesTab::highlightedText);
     setBackgroundColor(Styles::BaseStyles::clear);
-    setBezelImages({{normal, WindowTabImages::normal},
-                    {selected, WindowTabImages::selected},
-                    {highlighted, WindowTabImages::down}});
+    setBezelImages({{normal, Images::tpkWindowTab},
+                    {selected, Images::tpkWindowTabSelected},
+                    {highlighted, Images::tpkWindowTabDown}});
 }
 
 } // namespace tidepool

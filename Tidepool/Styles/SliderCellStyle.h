@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Styles/ControlStyle.h"
 
 namespace tidepool {
@@ -9,12 +9,12 @@ namespace tidepool {
 class SliderCellStyle : public ControlStyle {
 public:
     TP_STYLE_FIELD(StateImages, barImages, setBarImages,
-                   {{StyledControlState::defaultState, SliderImages::alley},
-                    {StyledControlState::highlighted, SliderImages::normal}})
+                   {{StyledControlState::defaultState, Images::tpkSliderAlley},
+                    {StyledControlState::highlighted, Images::tpkSlider}})
     TP_STYLE_FIELD(StateImages, knobImages, setKnobImages,
-                   {{StyledControlState::defaultState, SliderImages::handle},
-                    {StyledControlState::highlighted, SliderImages::handleDown},
-                    {StyledControlState::mixed, SliderImages::handleMulti}})
+                   {{StyledControlState::defaultState, Images::tpkSliderHandle},
+                    {StyledControlState::highlighted, Images::tpkSliderHandleDown},
+                    {StyledControlState::mixed, Images::tpkSliderHandleMulti}})
 
     /// Null if there is none.
     virtual const platform::Image* barImage(StyledControlState state) const {

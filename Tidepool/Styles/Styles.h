@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPColors.h"
 
 #include <QFont>
@@ -45,8 +45,8 @@ struct Styles {
         static constexpr auto selectedText = TPColors::grey100;
         static constexpr auto disabledText = TPColors::grey40;
         static constexpr auto highlightedText = TPColors::grey50;
-        static constexpr auto selection = SignalColors::systemHighlight;
-        static constexpr auto error = SignalColors::error;
+        static constexpr auto selection = Colors::Highlight::system;
+        static constexpr auto error = Colors::error;
     };
 
     struct ScrollView {
@@ -76,7 +76,7 @@ struct Styles {
 
     struct TableRow {
         static constexpr auto background = TPColors::Background::darker;
-        static constexpr auto selection = SignalColors::systemHighlight;
+        static constexpr auto selection = Colors::Highlight::system;
         static constexpr auto text = TPColors::grey70;
         static constexpr auto selectedText = TPColors::grey100;
     };

@@ -1,6 +1,6 @@
 #include "Tidepool/Styles/TextFieldCellStyle.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
 
@@ -18,14 +18,14 @@ TextFieldCellStyle::TextFieldCellStyle() {
 }
 
 HeaderTextFieldStyle::HeaderTextFieldStyle() {
-    setBezelImages({{normal, TextFieldImages::tableheader},
+    setBezelImages({{normal, Images::tpkTextfieldTableheader},
                     {focused, TPImages::textFieldFocus},
                     {invalid, TPImages::textFieldError},
                     {focused | invalid, TPImages::textFieldError}});
 }
 
 SearchFieldCellStyle::SearchFieldCellStyle() {
-    setBezelImages({{normal, SearchFieldImages::normal}, {focused, SearchFieldImages::focus}});
+    setBezelImages({{normal, Images::tpkSearchfield}, {focused, Images::tpkSearchfieldFocus}});
 }
 
 TextLabelCellStyle::TextLabelCellStyle() {

@@ -1,15 +1,15 @@
 #include "Tidepool/Styles/ToolButtonCellStyles.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Styles/StyleValues.h"
 
 namespace tidepool {
 
 ToolButtonCellStyle::ToolButtonCellStyle() {
     setImageEdgeInsets(insets(-1, 0, 1, 0));
-    setBezelImages({{normal, CornerToolImages::background},
-                    {on, CornerToolImages::backgroundSelected},
-                    {highlighted, CornerToolImages::backgroundDown}});
+    setBezelImages({{normal, Images::cornerToolBackground},
+                    {on, Images::cornerToolBackgroundSelected},
+                    {highlighted, Images::cornerToolBackgroundDown}});
 }
 
 CornerButtonCellStyle::CornerButtonCellStyle() {
@@ -17,7 +17,7 @@ CornerButtonCellStyle::CornerButtonCellStyle() {
 }
 
 void BackButtonCellStyle::prepareToBeShared() {
-    setBezelImages({{normal, OrganiserImages::navbarBack}, {highlighted, OrganiserImages::navbarBackDown}});
+    setBezelImages({{normal, Images::organiserNavbarBack}, {highlighted, Images::organiserNavbarBackDown}});
 }
 
 } // namespace tidepool
