@@ -8,8 +8,7 @@ namespace tidepool {
 SegmentedCellStyle::SegmentedCellStyle() {
     setFont(Styles::PropertiesTab::font());
     setTextColor(Styles::PropertiesTab::text);
-    setSelectedTextColor(Styles::PropertiesTab::selectedText);
-    setHighlightedTextColor(Styles::PropertiesTab::highlightedText);
+    setSelectedTextColor(Styles::Control::text);
     setBackgroundColor(Styles::BaseStyles::clear);
     setBezelImages({{normal, Images::tpkWindowTab},
                     {selected, Images::tpkWindowTabSelected},

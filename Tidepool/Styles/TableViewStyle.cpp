@@ -5,7 +5,6 @@ namespace tidepool {
 TableViewStyle::TableViewStyle() {
     setBackgroundColor(rowBackgroundColor());
     setTextColor(Styles::TableRow::text);
-    setSelectedTextColor(Styles::TableRow::selectedText);
 }
 
 } // namespace tidepool

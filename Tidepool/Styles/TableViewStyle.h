@@ -11,7 +11,7 @@ public:
 
     TP_STYLE_FIELD(QColor, rowBackgroundColor, setRowBackgroundColor, Styles::TableRow::background)
     TP_STYLE_FIELD(QColor, selectedRowBackgroundColor, setSelectedRowBackgroundColor,
-                   Styles::TableRow::selection)
+                   Styles::Control::selection)
     TP_STYLE_FIELD(QColor, headerBackgroundColor, setHeaderBackgroundColor, Styles::TableHeader::background)
 
     void applyAccent(const QColor& accent) override {

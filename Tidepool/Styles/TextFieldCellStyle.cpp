@@ -7,7 +7,7 @@
 namespace tidepool {
 
 TextFieldCellStyle::TextFieldCellStyle() {
-    setHighlightedTextColor(Styles::TextInput::highlightedText);
+    setHighlightedTextColor(Styles::Control::selectedText);
     setInvalidTextColor(Styles::Control::error);
     setAlignmentRectInsets(insets(2, 2, 2, 2));
     setEdgeInsets(insets(2, 2, 2, 2));
