@@ -2,6 +2,8 @@
 
 #include "Platform/Core/Environment.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QWidget>
 
 #include <utility>

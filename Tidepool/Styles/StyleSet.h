@@ -5,7 +5,9 @@
 #include <concepts>
 #include <map>
 #include <memory>
+#include <optional>
 #include <typeindex>
+#include <utility>
 
 class QWidget;
 
