@@ -1,6 +1,6 @@
 #include "Chorale/PlainButtonStyles.h"
 
-#include "Chorale/AssetResources.h"
+#include "Chorale/Assets.h"
 #include "Chorale/RocketFontModifier.h"
 #include "Platform/Controls/FocusRing.h"
 
@@ -30,13 +30,13 @@ QFont TabButtonStyle::font() const {
 void TabButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     prepare(painter, configuration);
     const bool isSelected = configuration.state.contains(platform::StyledControlState::on);
-    painter.setPen(isSelected ? EditorAssets::tabSelected.color() : EditorAssets::tabUnselected.color());
+    painter.setPen(isSelected ? Colors::tabSelected.color() : Colors::tabUnselected.color());
     painter.drawText(configuration.frame, Qt::AlignCenter, configuration.label);
 }
 
 void LogoButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
     prepare(painter, configuration);
-    drawScaled(painter, m_image.image().tinted(EditorAssets::tabSelected), configuration.frame, m_scale);
+    drawScaled(painter, m_image.image().tinted(Colors::tabSelected), configuration.frame, m_scale);
 }
 
 } // namespace chorale

@@ -1,6 +1,6 @@
 #include "Chorale/PluginHeaderView.h"
 
-#include "Chorale/AssetResources.h"
+#include "Chorale/Assets.h"
 #include "Chorale/AudioParameter.h"
 #include "Chorale/MakerLinks.h"
 #include "Chorale/PlainButtonStyles.h"
@@ -73,8 +73,7 @@ void PluginHeaderView::setUpdateDetails(const std::optional<UpdateAvailableDetai
 }
 
 QWidget* PluginHeaderView::makeLogoRow() {
-    auto* const logo =
-        new platform::PushButton({}, std::make_unique<LogoButtonStyle>(EditorAssets::quillfenLogo));
+    auto* const logo = new platform::PushButton({}, std::make_unique<LogoButtonStyle>(Images::quillfenLogo));
     logo->setAccessibleName(tr("Website of the maker"));
     connect(logo, &QAbstractButton::clicked, this,
             [this] { platform::openInBrowser(MakerLinks::website(), this); });
@@ -107,7 +106,7 @@ QWidget* PluginHeaderView::makeTrailingRow(const QString& version, const std::fu
     label->setTextFormat(Qt::PlainText);
     rocketFont(*label, versionSize * ViewScale::current());
     QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, EditorAssets::versionInfo.color());
+    palette.setColor(QPalette::WindowText, Colors::versionInfo.color());
     label->setPalette(palette);
     layout->addWidget(label);
     if (QWidget* const widget = menu ? menu() : nullptr)
@@ -123,7 +122,7 @@ void PluginHeaderView::showTab() {
 }
 
 void PluginHeaderView::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), EditorAssets::background.color());
+    QPainter(this).fillRect(rect(), Colors::background.color());
 }
 
 } // namespace chorale

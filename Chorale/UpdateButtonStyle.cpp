@@ -1,6 +1,6 @@
 #include "Chorale/UpdateButtonStyle.h"
 
-#include "Chorale/AssetResources.h"
+#include "Chorale/Assets.h"
 #include "Chorale/RocketFontModifier.h"
 #include "Platform/Controls/FocusRing.h"
 
@@ -30,9 +30,9 @@ void UpdateButtonStyle::paint(QPainter& painter, const platform::ButtonConfigura
     painter.setOpacity(configuration.isPressed() ? pressedOpacity : 1);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(EditorAssets::updateBackground.color());
+    painter.setBrush(Colors::updateBackground.color());
     painter.drawRoundedRect(configuration.frame, radius * m_scale, radius * m_scale);
-    painter.setPen(EditorAssets::background.color());
+    painter.setPen(Colors::background.color());
     painter.drawText(
         configuration.frame.adjusted(sidePadding * m_scale, topPadding * m_scale, -sidePadding * m_scale, 0),
         Qt::AlignCenter, configuration.label);

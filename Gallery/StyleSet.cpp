@@ -1,10 +1,9 @@
 #include "Gallery/StyleSet.h"
 
 #include "Gallery/Layout/Text.h"
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPColors.h"
 #include "Tidepool/Styles/CheckBoxCellStyle.h"
-#include "Tidepool/Styles/KitStyles.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -29,7 +28,7 @@ QPalette kitPalette() {
     palette.setColor(QPalette::WindowText, TPColorsAK::grey85);
     palette.setColor(QPalette::ButtonText, TPColorsAK::grey85);
     palette.setColor(QPalette::PlaceholderText, TPColorsAK::grey60);
-    palette.setColor(QPalette::Highlight, tidepool::SignalColors::systemHighlight);
+    palette.setColor(QPalette::Highlight, tidepool::Colors::Highlight::system);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, TPColorsAK::grey40);
@@ -41,10 +40,9 @@ std::shared_ptr<const tidepool::StyleSet> kitStyles(const GallerySettings& setti
 }
 
 std::shared_ptr<const tidepool::StyleSet> formStyles(const GallerySettings& settings) {
-    const auto box = std::make_shared<tidepool::CheckBoxCellStyle>();
+    const auto box =
+        tidepool::makeStyle<tidepool::CheckBoxCellStyle>({platform::currentAppearance(), accentOf(settings)});
     box->setFont(textFont(TextRole::body));
-    if (const std::optional<QColor> accent = accentOf(settings))
-        tidepool::applyAccent(*box, *accent);
     const auto set = std::make_shared<tidepool::StyleSet>();
     set->set<tidepool::CheckBoxCellStyle>(box);
     return set;

@@ -2,13 +2,14 @@
 
 #include "Chorale/MakerLinks.h"
 #include "Chorale/RocketFontModifier.h"
+#include "Noteloft/Assets.h"
 #include "Noteloft/ContentViewModel.h"
 #include "Noteloft/ContentViewShader.h"
 #include "Noteloft/QuillfenButtonStyle.h"
-#include "Noteloft/ResourceBundle.h"
 #include "Platform/Controls/ImageView.h"
 #include "Platform/Controls/PushButton.h"
 #include "Platform/Controls/ShadowedLabel.h"
+#include "Platform/Core/Bundle.h"
 #include "Platform/Core/ConstantUrl.h"
 #include "Platform/Graphics/DisplayP3.h"
 #include "Platform/Graphics/SystemFont.h"
@@ -38,7 +39,7 @@ QLabel* makeText(const QString& text, qreal size, QFont::Weight weight) {
     label->setAlignment(Qt::AlignCenter);
     label->setTextFormat(Qt::PlainText);
     QPalette palette;
-    palette.setColor(QPalette::WindowText, Assets::buttonText);
+    palette.setColor(QPalette::WindowText, Colors::buttonText);
     label->setPalette(palette);
     return label;
 }
@@ -79,7 +80,7 @@ ContentView::ContentView(ContentViewModel* model, bool debugMode, qreal buttonWi
     stack->addWidget(makeHeader());
     stack->addStretch();
     stack->addLayout(makeInstructions());
-    auto* const logo = new platform::ImageView(Assets::windowQuillfen.image().tinted(Assets::buttonText),
+    auto* const logo = new platform::ImageView(Images::windowQuillfen.image().tinted(Colors::buttonText),
                                                QStringLiteral("Quillfen"));
     stack->addWidget(logo, 0, Qt::AlignHCenter);
     stack->addStretch();
@@ -157,7 +158,7 @@ void ContentView::openWebsite() {
 }
 
 void ContentView::paintEvent(QPaintEvent* event) {
-    QPainter(this).fillRect(event->rect(), Assets::background.color());
+    QPainter(this).fillRect(event->rect(), Colors::background.color());
 }
 
 void ContentView::showEvent(QShowEvent* event) {

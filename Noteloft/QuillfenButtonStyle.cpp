@@ -1,6 +1,6 @@
 #include "Noteloft/QuillfenButtonStyle.h"
 
-#include "Noteloft/ResourceBundle.h"
+#include "Noteloft/Assets.h"
 #include "Platform/Graphics/SystemFont.h"
 
 namespace noteloft {
@@ -10,11 +10,11 @@ QFont QuillfenButtonStyle::font() const {
 }
 
 const platform::Image& QuillfenButtonStyle::bezel(bool isPressed) const {
-    return isPressed ? Assets::buttonDown : Assets::button;
+    return isPressed ? Images::tpkButtonDown : Images::tpkButton;
 }
 
 QColor QuillfenButtonStyle::labelColor(const platform::ButtonConfiguration& configuration) const {
-    return configuration.isPressed() ? Assets::labels : Assets::buttonText;
+    return configuration.isPressed() ? Colors::labels : Colors::buttonText;
 }
 
 } // namespace noteloft

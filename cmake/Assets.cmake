@@ -7,16 +7,29 @@ find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 find_program(GLSLANG glslangValidator REQUIRED)
 
 set(NOTELOFT_RESOURCES "${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_DATADIR}/noteloft/Resources")
+set(NOTELOFT_GENERATED "${CMAKE_BINARY_DIR}/generated")
 add_custom_target(Resources ALL)
 
-# noteloft_assets(<module> <directory below Resources>): fails the build on an asset that the module's code does not
-# name, and on a name that has no asset.
-function(noteloft_assets module directory)
+# noteloft_assets(<target> <module> <directory below Resources> <namespace>): the module's bundle, and for the target a
+# header <module>/Assets.h with a name for each asset. Fails the build on an asset that the module's code does not read.
+function(noteloft_assets target module directory namespace)
+  set(tools "${PROJECT_SOURCE_DIR}/tools/assets")
+  set(compiler Python3::Interpreter "${tools}/compile.py" --source "${PROJECT_SOURCE_DIR}/Resources/${module}")
+  set(header "${NOTELOFT_GENERATED}/${module}/Assets.h")
+  add_custom_command(
+    OUTPUT "${header}"
+    COMMAND ${compiler} --header "${header}" --namespace ${namespace}
+    DEPENDS "${PROJECT_SOURCE_DIR}/Resources/${module}/Assets.json" "${tools}/compile.py" "${tools}/names.py"
+    COMMENT "Naming the assets of ${module}"
+    VERBATIM)
+  target_sources(${target} PRIVATE "${header}")
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${NOTELOFT_GENERATED}>)
+  set_source_files_properties("${header}" PROPERTIES SKIP_AUTOMOC ON)
+
   set(bundle "${NOTELOFT_RESOURCES}/${directory}")
   add_custom_command(
     OUTPUT "${bundle}/Assets.json"
-    COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/tools/assets/compile.py"
-      --source "${PROJECT_SOURCE_DIR}/Resources/${module}" --output "${bundle}"
+    COMMAND ${compiler} --output "${bundle}"
       --code "${PROJECT_SOURCE_DIR}/${module}" --depfile "${CMAKE_BINARY_DIR}/${module}.assets.d"
     DEPFILE "${CMAKE_BINARY_DIR}/${module}.assets.d"
     COMMENT "Compiling the assets of ${module}"

@@ -15,7 +15,8 @@ endfunction()
 function(noteloft_module name)
   noteloft_library(${name} ${ARGN})
   install(TARGETS ${name} EXPORT NoteloftTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-  install(DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/noteloft/${name}
+  install(DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/" "${NOTELOFT_GENERATED}/${name}/" OPTIONAL
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/noteloft/${name}
     FILES_MATCHING PATTERN "*.h")
 endfunction()
 

@@ -5,9 +5,9 @@
 #include "Gallery/Layout/PageBody.h"
 #include "Gallery/Layout/Section.h"
 #include "Platform/Controls/PopUpButton.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Buttons/DarkHighlightButton.h"
 #include "Tidepool/Buttons/PopUpCyclingButton.h"
-#include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Views/ClickableImageView.h"
 
@@ -20,13 +20,13 @@ using tidepool::CursorButton;
 using tidepool::DarkHighlightButton;
 using tidepool::PopUpCyclingButton;
 
-const tidepool::OrganiserImages images;
+using tidepool::Images;
 
 QWidget* makeLiveRow(const GallerySettings& settings) {
     auto* const row = new LiveRow(
         QStringLiteral("Move over the star, step through the pop-up with the arrow (back with Shift)."));
     CursorButton& cursor = row->add(new CursorButton);
-    cursor.setImage(images.iconStar);
+    cursor.setImage(Images::organiserIconStar);
     cursor.setAccessibleName(QStringLiteral("Star"));
     cursor.setCursorImage(tidepool::TPImagesAK::cursorTrackingSlider);
     cursor.setCursorHotSpot({3, 4});
@@ -37,11 +37,12 @@ QWidget* makeLiveRow(const GallerySettings& settings) {
     for (const char16_t* const title : {u"Up", u"Down", u"Random"})
         popUp.addItem(QString::fromUtf16(title));
     PopUpCyclingButton& cycle = row->add(new PopUpCyclingButton);
-    cycle.setImage(images.iconDisclose);
+    cycle.setImage(Images::organiserIconDisclose);
     cycle.setAccessibleName(QStringLiteral("Next"));
     cycle.setTarget(&popUp);
 
-    auto& picture = row->add(new ClickableImageView(images.iconStarEmpty, QStringLiteral("Picture")));
+    auto& picture =
+        row->add(new ClickableImageView(Images::organiserIconStarEmpty, QStringLiteral("Picture")));
     static_cast<void>(picture);
     for (platform::PushButton* const button : row->findChildren<platform::PushButton*>())
         button->setEnabled(settings.isEnabled);
@@ -59,9 +60,9 @@ void addStates(PageBody& page, const char16_t* title, const platform::Image& ima
 QWidget* makePage(const GallerySettings& settings) {
     auto* const page = new PageBody;
     page->addSection(QStringLiteral("Live")).add(makeLiveRow(settings));
-    addStates<CursorButton>(*page, u"CursorButton", images.iconStar, settings);
-    addStates<DarkHighlightButton>(*page, u"DarkHighlightButton", images.iconDisclose, settings);
-    addStates<PopUpCyclingButton>(*page, u"PopUpCyclingButton", images.iconDiscloseOpen, settings);
+    addStates<CursorButton>(*page, u"CursorButton", Images::organiserIconStar, settings);
+    addStates<DarkHighlightButton>(*page, u"DarkHighlightButton", Images::organiserIconDisclose, settings);
+    addStates<PopUpCyclingButton>(*page, u"PopUpCyclingButton", Images::organiserIconDiscloseOpen, settings);
     return page;
 }
 

@@ -4,9 +4,9 @@
 #include "Gallery/Pages/MenuPicture.h"
 #include "Gallery/Pages/NoteLength.h"
 #include "Platform/Controls/ImageIcon.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Menus/PresentableMenu.h"
 #include "Tidepool/Menus/TPMenuItem.h"
-#include "Tidepool/Palette/ControlAssets.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -77,8 +77,8 @@ std::unique_ptr<PicturedMenu> trackMenu() {
     itemTitled(*menu, QStringLiteral("Mute")).setState(MenuItem::State::on);
     itemTitled(*menu, QStringLiteral("Solo")).setState(MenuItem::State::mixed);
     itemTitled(*menu, QStringLiteral("Freeze")).setEnabled(false);
-    setIcon(*menu, QStringLiteral("Favourite"), tidepool::OrganiserImages::iconStar);
-    setIcon(*menu, QStringLiteral("Add to Set"), tidepool::PropertiesTableImages::tableAdd);
+    setIcon(*menu, QStringLiteral("Favourite"), tidepool::Images::organiserIconStar);
+    setIcon(*menu, QStringLiteral("Add to Set"), tidepool::Images::propertiesTableAdd);
     menu->highlight(itemTitled(*menu, QStringLiteral("Monitor")));
     return menu;
 }

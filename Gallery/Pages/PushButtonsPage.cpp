@@ -4,8 +4,8 @@
 #include "Gallery/Layout/LiveRow.h"
 #include "Gallery/Layout/PageBody.h"
 #include "Gallery/Layout/Section.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Buttons/VantorPushButton.h"
-#include "Tidepool/Palette/ControlAssets.h"
 
 namespace gallery {
 
@@ -53,8 +53,8 @@ void addVariants(Section& section, const GallerySettings& settings) {
             prepare(button);
         });
     };
-    const platform::Image& star = tidepool::OrganiserImages::iconStar;
-    const platform::Image& plus = tidepool::PropertiesTableImages::tableAdd;
+    const platform::Image& star = tidepool::Images::organiserIconStar;
+    const platform::Image& plus = tidepool::Images::propertiesTableAdd;
     add(QStringLiteral("Title"), QStringLiteral("Apply"), [](StyledButton&) {});
     add(QStringLiteral("Fixed width"), QStringLiteral("A longer title"),
         [](StyledButton& button) { button.setFixedWidth(72); });

@@ -2,7 +2,7 @@
 
 #include "Gallery/Layout/Text.h"
 #include "Gallery/Pages/Specimens.h"
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPColors.h"
 
 #include <QGridLayout>

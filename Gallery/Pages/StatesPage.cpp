@@ -8,7 +8,6 @@
 #include "Gallery/StyleSet.h"
 #include "Platform/Controls/PopUpButton.h"
 #include "Tidepool/Buttons/StyledCheckBox.h"
-#include "Tidepool/Styles/KitStyles.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -120,9 +119,8 @@ void StatesPage::setFlags(StyledControlState flags, bool isSet) {
 }
 
 void StatesPage::makeStyle() {
-    m_style = styleClasses()[static_cast<std::size_t>(m_selection->styleClass)].make();
-    if (const std::optional<QColor> accent = accentOf(m_settings))
-        tidepool::applyAccent(*m_style, *accent);
+    m_style = styleClasses()[static_cast<std::size_t>(m_selection->styleClass)].make(
+        {platform::currentAppearance(), accentOf(m_settings)});
     show();
 }
 

@@ -42,7 +42,7 @@ private:
 
     GallerySettings m_settings;
     std::shared_ptr<Selection> m_selection;
-    std::unique_ptr<tidepool::ControlStyle> m_style;
+    std::shared_ptr<const tidepool::ControlStyle> m_style;
     QVBoxLayout* m_result;
     QVBoxLayout* m_images;
 };

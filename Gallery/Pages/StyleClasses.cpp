@@ -17,36 +17,36 @@ using namespace tidepool;
 
 namespace {
 
-template <class Style>
-std::unique_ptr<ControlStyle> makeStyle() {
-    return std::make_unique<Style>();
+template <class S>
+std::shared_ptr<ControlStyle> make(const StyleLook& look) {
+    return makeStyle<S>(look);
 }
 
 } // namespace
 
 const std::vector<StyleClass>& styleClasses() {
     static const std::vector<StyleClass> classes{
-        {"ControlStyle", makeStyle<ControlStyle>},
-        {"ButtonCellStyle", makeStyle<ButtonCellStyle>},
-        {"BackButtonCellStyle", makeStyle<BackButtonCellStyle>},
-        {"CornerButtonCellStyle", makeStyle<CornerButtonCellStyle>},
-        {"ToolButtonCellStyle", makeStyle<ToolButtonCellStyle>},
-        {"CheckBoxCellStyle", makeStyle<CheckBoxCellStyle>},
-        {"FavouriteCheckBoxCellStyle", makeStyle<FavouriteCheckBoxCellStyle>},
-        {"PopUpButtonCellStyle", makeStyle<PopUpButtonCellStyle>},
-        {"StyledPopDownButtonCellStyle", makeStyle<StyledPopDownButtonCellStyle>},
-        {"ToolPopUpButtonCellStyle", makeStyle<ToolPopUpButtonCellStyle>},
-        {"ComboBoxStyle", makeStyle<ComboBoxStyle>},
-        {"SegmentedCellStyle", makeStyle<SegmentedCellStyle>},
-        {"SliderCellStyle", makeStyle<SliderCellStyle>},
-        {"TextFieldCellStyle", makeStyle<TextFieldCellStyle>},
-        {"HeaderTextFieldStyle", makeStyle<HeaderTextFieldStyle>},
-        {"SearchFieldCellStyle", makeStyle<SearchFieldCellStyle>},
-        {"TextLabelCellStyle", makeStyle<TextLabelCellStyle>},
-        {"TableRowLabelCellStyle", makeStyle<TableRowLabelCellStyle>},
-        {"TableGroupLabelCellStyle", makeStyle<TableGroupLabelCellStyle>},
-        {"TableViewStyle", makeStyle<TableViewStyle>},
-        {"OutlineViewStyle", makeStyle<OutlineViewStyle>},
+        {"ControlStyle", make<ControlStyle>},
+        {"ButtonCellStyle", make<ButtonCellStyle>},
+        {"BackButtonCellStyle", make<BackButtonCellStyle>},
+        {"CornerButtonCellStyle", make<CornerButtonCellStyle>},
+        {"ToolButtonCellStyle", make<ToolButtonCellStyle>},
+        {"CheckBoxCellStyle", make<CheckBoxCellStyle>},
+        {"FavouriteCheckBoxCellStyle", make<FavouriteCheckBoxCellStyle>},
+        {"PopUpButtonCellStyle", make<PopUpButtonCellStyle>},
+        {"StyledPopDownButtonCellStyle", make<StyledPopDownButtonCellStyle>},
+        {"ToolPopUpButtonCellStyle", make<ToolPopUpButtonCellStyle>},
+        {"ComboBoxStyle", make<ComboBoxStyle>},
+        {"SegmentedCellStyle", make<SegmentedCellStyle>},
+        {"SliderCellStyle", make<SliderCellStyle>},
+        {"TextFieldCellStyle", make<TextFieldCellStyle>},
+        {"HeaderTextFieldStyle", make<HeaderTextFieldStyle>},
+        {"SearchFieldCellStyle", make<SearchFieldCellStyle>},
+        {"TextLabelCellStyle", make<TextLabelCellStyle>},
+        {"TableRowLabelCellStyle", make<TableRowLabelCellStyle>},
+        {"TableGroupLabelCellStyle", make<TableGroupLabelCellStyle>},
+        {"TableViewStyle", make<TableViewStyle>},
+        {"OutlineViewStyle", make<OutlineViewStyle>},
     };
     return classes;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tidepool/Styles/ControlStyle.h"
+#include "Tidepool/Styles/StyleSet.h"
 
 #include <QString>
 
@@ -12,7 +13,7 @@ namespace gallery {
 
 struct StyleClass {
     const char* name;
-    std::unique_ptr<tidepool::ControlStyle> (*make)();
+    std::shared_ptr<tidepool::ControlStyle> (*make)(const tidepool::StyleLook& look);
 };
 
 /// Every style class of a control.

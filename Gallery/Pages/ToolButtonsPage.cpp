@@ -6,10 +6,10 @@
 #include "Gallery/Layout/Section.h"
 #include "Gallery/Pages/HeldTarget.h"
 #include "Platform/Controls/Menu.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Buttons/BackButton.h"
 #include "Tidepool/Buttons/CornerButton.h"
 #include "Tidepool/Buttons/ToolButton.h"
-#include "Tidepool/Palette/ControlAssets.h"
 
 namespace gallery {
 
@@ -31,7 +31,7 @@ QWidget* makeLiveRow(const GallerySettings& settings) {
     auto* const row =
         new LiveRow(QStringLiteral("Click, press and hold the tool, or open the plus sign's menu."));
     ToolButton& tool = row->add(new ToolButton);
-    showImage(tool, tidepool::OrganiserImages::iconDiscloseOpen);
+    showImage(tool, tidepool::Images::organiserIconDiscloseOpen);
     tool.cell().setButtonType(ButtonCell::ButtonType::momentaryPushIn);
     tool.setAccessibleName(QStringLiteral("Tool"));
     tool.setShowMoreIcon(true);
@@ -41,7 +41,7 @@ QWidget* makeLiveRow(const GallerySettings& settings) {
     QObject::connect(&tool, &ToolButton::clicked, row, [row] { row->say(QStringLiteral("Clicked")); });
 
     CornerButton& corner = row->add(new CornerButton);
-    showImage(corner, tidepool::PropertiesTableImages::tableAdd);
+    showImage(corner, tidepool::Images::propertiesTableAdd);
     corner.setAccessibleName(QStringLiteral("Add"));
     auto* const menu = new platform::Menu;
     QObject::connect(&corner, &QObject::destroyed, menu, &QObject::deleteLater);
@@ -64,7 +64,7 @@ void addTools(Section& section, const GallerySettings& settings) {
     StateGrid& grid = section.addGrid(states.titles());
     const auto add = [&](const QString& variant, auto prepare) {
         states.addRow<ToolButton>(grid, variant, settings, [&](ToolButton& button) {
-            showImage(button, tidepool::OrganiserImages::iconDisclose);
+            showImage(button, tidepool::Images::organiserIconDisclose);
             button.setSelected(settings.isSelected);
             prepare(button);
         });
@@ -85,7 +85,7 @@ QWidget* makePage(const GallerySettings& settings) {
     withState.addRow<CornerButton>(
         page->addSection(QStringLiteral("CornerButton")).addGrid(withState.titles()), QStringLiteral("Image"),
         settings, [&](CornerButton& button) {
-            showImage(button, tidepool::PropertiesTableImages::tableAdd);
+            showImage(button, tidepool::Images::propertiesTableAdd);
             button.setSelected(settings.isSelected);
         });
     const ButtonStates plain{.hasState = false};

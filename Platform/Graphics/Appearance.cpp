@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QPointer>
 #include <QStyle>
+#include <QWidget>
 
 namespace platform {
 
@@ -31,6 +33,16 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// Whoever hears of it may destroy others.
+void notify(const QWidgetList& widgets) {
+    const QList<QPointer<QWidget>> living(widgets.begin(), widgets.end());
+    for (const QPointer<QWidget>& widget : living) {
+        QEvent event(QEvent::StyleChange);
+        if (widget != nullptr)
+            QCoreApplication::sendEvent(widget, &event);
+    }
+}
+
 } // namespace
 
 Appearance currentAppearance() {
@@ -49,6 +61,11 @@ void setAppearance(Appearance value) {
     appearance() = value;
     QApplication::setPalette(value == Appearance::dark ? darkPalette()
                                                        : QApplication::style()->standardPalette());
+    notify(QApplication::allWidgets());
+}
+
+void notifyStyleChange(QWidget& root) {
+    notify(QWidgetList{&root} + root.findChildren<QWidget*>());
 }
 
 } // namespace platform

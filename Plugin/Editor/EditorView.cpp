@@ -10,8 +10,8 @@
 #include "Chorale/RocketFontModifier.h"
 #include "Chorale/ViewScale.h"
 #include "Platform/Windows/WindowAccessibility.h"
+#include "Plugin/Assets.h"
 #include "Plugin/Editor/EditorParameters.h"
-#include "Plugin/Editor/EditorResources.h"
 #include "Plugin/Editor/MenuButton.h"
 #include "Plugin/Editor/ScaleView.h"
 
@@ -56,14 +56,14 @@ QLabel* makeName(const QString& text) {
     auto* const name = new QLabel(text.toUpper());
     chorale::rocketFont(*name, nameSize * chorale::ViewScale::current());
     QPalette palette = name->palette();
-    palette.setColor(QPalette::WindowText, EditorColors::label.color());
+    palette.setColor(QPalette::WindowText, Colors::label.color());
     name->setPalette(palette);
     return name;
 }
 
 QWidget* makeLabel(const Parameter& parameter) {
-    const QColor label = EditorColors::label.color();
-    const QColor value = EditorColors::value.color();
+    const QColor label = Colors::label.color();
+    const QColor value = Colors::value.color();
     if (parameter->valueStrings())
         return new chorale::ChoiceLabel(parameter, label, value, nameSize, valueSize);
     return new chorale::DialLabel(parameter, label, value, nameSize, valueSize, valueSize, fieldWidth, true,
@@ -71,7 +71,7 @@ QWidget* makeLabel(const Parameter& parameter) {
 }
 
 QVBoxLayout* makeDial(const Parameter& parameter) {
-    auto* const dial = new chorale::ParameterDial(parameter, dialDiameter, EditorColors::accent.color());
+    auto* const dial = new chorale::ParameterDial(parameter, dialDiameter, Colors::accent.color());
     dial->setDecimalPlaces(0);
     return makeColumn(dial, makeLabel(parameter));
 }
@@ -144,10 +144,9 @@ QWidget* EditorView::makeContent() {
     body->setContentsMargins(0, scaled(28), 0, scaled(20));
     body->setSpacing(0);
     body->addWidget(m_pages, 4);
-    body->addLayout(
-        makeColumn(new chorale::ParameterHoldButton(hold, EditorImages::hold, EditorImages::holdDown),
-                   makeName(hold->name())),
-        1);
+    body->addLayout(makeColumn(new chorale::ParameterHoldButton(hold, Images::hold, Images::holdDown),
+                               makeName(hold->name())),
+                    1);
     stack->addLayout(body);
     return content;
 }
@@ -171,7 +170,7 @@ bool EditorView::event(QEvent* event) {
 }
 
 void EditorView::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), EditorColors::ground.color());
+    QPainter(this).fillRect(rect(), Colors::ground.color());
 }
 
 } // namespace noteloft::plugin

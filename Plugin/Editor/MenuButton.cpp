@@ -7,7 +7,7 @@
 #include "Platform/Controls/Menu.h"
 #include "Platform/Graphics/Pens.h"
 #include "Platform/Windows/Browser.h"
-#include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Assets.h"
 
 #include <QPainter>
 #include <QUrl>
@@ -30,7 +30,7 @@ public:
             platform::drawFocusRing(painter, configuration.frame, {.radius = 4 * m_scale});
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(configuration.isPressed() ? 0.7 : 1);
-        painter.setPen(platform::roundPen(EditorColors::value, 1.5 * m_scale));
+        painter.setPen(platform::roundPen(Colors::value, 1.5 * m_scale));
         painter.translate(configuration.frame.center());
         for (const int line : {-1, 0, 1})
             painter.drawLine(QPointF(-width / 2, line * distance) * m_scale,

@@ -2,7 +2,7 @@
 
 #include "Chorale/AudioParameter.h"
 #include "Platform/Display/DisplayPump.h"
-#include "Plugin/Editor/EditorResources.h"
+#include "Plugin/Assets.h"
 #include "Plugin/Scale.h"
 
 #include <QPainter>
@@ -80,14 +80,14 @@ void ScaleView::paintEvent(QPaintEvent*) {
                 continue;
             const QRectF frame = keyFrame(keys[pitch]);
             if (black) { // parts it from its neighbours
-                painter.setBrush(EditorColors::ground.color());
+                painter.setBrush(Colors::ground.color());
                 painter.drawRoundedRect(frame.adjusted(-gap, -radius, gap, gap), radius, radius);
             }
-            const auto unlit = black ? EditorColors::blackKey : EditorColors::whiteKey;
-            painter.setBrush((isLit(pitch) ? EditorColors::accent : unlit).color());
+            const auto unlit = black ? Colors::blackKey : Colors::whiteKey;
+            painter.setBrush((isLit(pitch) ? Colors::accent : unlit).color());
             painter.drawRoundedRect(frame, radius, radius);
             if (pitch == whole(*m_root) % keyCount) {
-                painter.setBrush(EditorColors::rootDot.color());
+                painter.setBrush(Colors::rootDot.color());
                 painter.drawEllipse(QPointF(frame.center().x(), frame.bottom() - 7), 2.5, 2.5);
             }
         }

@@ -17,16 +17,6 @@ constexpr qreal topMargin = 6;
 
 } // namespace
 
-template <>
-BackButtonCellStyle& sharedStyle<BackButtonCellStyle>() {
-    static BackButtonCellStyle style = [] {
-        BackButtonCellStyle made;
-        made.setArrowBezel();
-        return made;
-    }();
-    return style;
-}
-
 BackButtonCell::BackButtonCell() {
     setBezelStyle(BezelStyle::shadowlessSquare);
     setButtonType(ButtonType::toggle);

@@ -5,10 +5,6 @@
 
 namespace tidepool {
 
-/// The style that all back buttons share has the images with the arrow.
-template <>
-BackButtonCellStyle& sharedStyle<BackButtonCellStyle>();
-
 /// An arrow-shaped bezel that points to where lines begin.
 class BackButtonCell : public RestyledCell<BackButtonCellStyle, StyledButtonCell> {
 public:

@@ -1,7 +1,7 @@
 #include "Tidepool/Buttons/ToolButtonCell.h"
 
+#include "Tidepool/Assets.h"
 #include "Tidepool/Buttons/CellDrawing.h"
-#include "Tidepool/Palette/ControlAssets.h"
 
 #include <QPainter>
 
@@ -19,7 +19,7 @@ void ToolButtonCell::drawInterior(QPainter& painter, const QRectF& frame, const 
 void ToolButtonCell::drawMore(QPainter& painter, const QRectF& frame, const CellContext& context) const {
     // Inside the bezel's edge.
     constexpr qreal margin = 4;
-    const platform::Image& more = CornerToolImages::more;
+    const platform::Image& more = Images::cornerToolMore;
     QRectF mark(QPointF(), more.size());
     mark.moveBottomRight(frame.bottomRight() - QPointF(margin, margin));
     painter.save();

@@ -1,27 +1,27 @@
 #pragma once
 
-#include "Tidepool/Palette/AssetResources.h"
+#include "Tidepool/Assets.h"
 
 namespace tidepool {
 
 /// Images that declarative views draw with.
 struct TPImages {
-    static constexpr auto button = imageAsset("tpk-button");
-    static constexpr auto buttonDown = imageAsset("tpk-button-down");
-    static constexpr auto checkerboard = imageAsset("tpk-checkerboard");
-    static constexpr auto checkerboardSmall = imageAsset("tpk-checkerboard-small");
-    static constexpr auto textField = imageAsset("tpk-textfield");
-    static constexpr auto textFieldError = imageAsset("tpk-textfield-error");
-    static constexpr auto textFieldFocus = imageAsset("tpk-textfield-focus");
-    static constexpr auto checkbox = imageAsset("tpk-checkbox");
-    static constexpr auto checkboxOn = imageAsset("tpk-checkbox-on");
-    static constexpr auto checkboxDown = imageAsset("tpk-checkbox-down");
-    static constexpr auto checkboxOnDown = imageAsset("tpk-checkbox-on-down");
+    static constexpr auto button = Images::tpkButton;
+    static constexpr auto buttonDown = Images::tpkButtonDown;
+    static constexpr auto checkerboard = Images::tpkCheckerboard;
+    static constexpr auto checkerboardSmall = Images::tpkCheckerboardSmall;
+    static constexpr auto textField = Images::tpkTextfield;
+    static constexpr auto textFieldError = Images::tpkTextfieldError;
+    static constexpr auto textFieldFocus = Images::tpkTextfieldFocus;
+    static constexpr auto checkbox = Images::tpkCheckbox;
+    static constexpr auto checkboxOn = Images::tpkCheckboxOn;
+    static constexpr auto checkboxDown = Images::tpkCheckboxDown;
+    static constexpr auto checkboxOnDown = Images::tpkCheckboxOnDown;
 };
 
 /// The same for desktop views and cells, and the cursor that only they can set.
 struct TPImagesAK : TPImages {
-    static constexpr auto cursorTrackingSlider = imageAsset("cursor-trackingslider");
+    static constexpr auto cursorTrackingSlider = Images::cursorTrackingslider;
 };
 
 } // namespace tidepool

@@ -2,6 +2,8 @@
 
 #include "Platform/Controls/CellStyle.h"
 #include "Platform/Graphics/Appearance.h"
+#include "Tidepool/Styles/StyleField.h"
+#include "Tidepool/Styles/Styles.h"
 
 #include <QColor>
 
@@ -24,35 +26,20 @@ public:
 /// The root of the styles: values that controls read on each draw and that are changed only while they are
 /// set up. Every accessor can be overridden, and the look-ups go through the accessors. Main thread.
 class BaseStyle : public Style {
-public:
-    BaseStyle();
+    TP_STYLE_FIELD(std::optional<platform::Appearance>, appearanceName, setAppearanceName,
+                   platform::Appearance::dark)
+    TP_STYLE_FIELD(BackgroundStyle, backgroundStyle, setBackgroundStyle, BackgroundStyle::emphasized)
+    TP_STYLE_FIELD(BackgroundStyle, interiorBackgroundStyle, setInteriorBackgroundStyle,
+                   BackgroundStyle::emphasized)
+    TP_STYLE_FIELD(bool, opaque, setOpaque, false)
+    TP_STYLE_FIELD(QColor, backgroundColor, setBackgroundColor, Styles::BaseStyles::background)
 
-    const std::optional<platform::Appearance>& appearanceName() const override { return m_appearanceName; }
+    /// Takes `accent` in place of the kit's blue; a class overrides this for colours and images of its own.
+    /// The appearance is still the one in which the style was made.
+    virtual void applyAccent(const QColor& /*accent*/) {}
 
-    void setAppearanceName(std::optional<platform::Appearance> value) { m_appearanceName = value; }
-
-    BackgroundStyle backgroundStyle() const override { return m_backgroundStyle; }
-
-    void setBackgroundStyle(BackgroundStyle value) { m_backgroundStyle = value; }
-
-    BackgroundStyle interiorBackgroundStyle() const override { return m_interiorBackgroundStyle; }
-
-    void setInteriorBackgroundStyle(BackgroundStyle value) { m_interiorBackgroundStyle = value; }
-
-    virtual bool opaque() const { return m_opaque; }
-
-    void setOpaque(bool value) { m_opaque = value; }
-
-    const QColor& backgroundColor() const override { return m_backgroundColor; }
-
-    void setBackgroundColor(QColor value) { m_backgroundColor = value; }
-
-private:
-    std::optional<platform::Appearance> m_appearanceName = platform::Appearance::dark;
-    BackgroundStyle m_backgroundStyle = BackgroundStyle::emphasized;
-    BackgroundStyle m_interiorBackgroundStyle = BackgroundStyle::emphasized;
-    bool m_opaque = false;
-    QColor m_backgroundColor;
+    /// Called once on a style that is made for all controls of its class.
+    virtual void prepareToBeShared() {}
 };
 
 } // namespace tidepool

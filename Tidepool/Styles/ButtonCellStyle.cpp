@@ -1,17 +1,16 @@
 #include "Tidepool/Styles/ButtonCellStyle.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
 ButtonCellStyle::ButtonCellStyle() {
-    setBackgroundColor(QColor(Styles::BaseStyles::clear));
+    setBackgroundColor(Styles::BaseStyles::clear);
     setFont(Styles::Control::mediumFont());
     setBezelImages(
-        {{normal, TPImages::button}, {on, PushButtonImages::selected}, {highlighted, TPImages::buttonDown}});
+        {{normal, TPImages::button}, {on, Images::tpkButtonSelected}, {highlighted, TPImages::buttonDown}});
 }
 
 } // namespace tidepool

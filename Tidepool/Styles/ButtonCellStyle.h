@@ -9,17 +9,8 @@ class ButtonCellStyle : public ControlStyle {
 public:
     ButtonCellStyle();
 
-    virtual const QMarginsF& imageEdgeInsets() const { return m_imageEdgeInsets; }
-
-    void setImageEdgeInsets(QMarginsF value) { m_imageEdgeInsets = value; }
-
-    virtual const QMarginsF& titleEdgeInsets() const { return m_titleEdgeInsets; }
-
-    void setTitleEdgeInsets(QMarginsF value) { m_titleEdgeInsets = value; }
-
-private:
-    QMarginsF m_imageEdgeInsets;
-    QMarginsF m_titleEdgeInsets;
+    TP_STYLE_FIELD(QMarginsF, imageEdgeInsets, setImageEdgeInsets)
+    TP_STYLE_FIELD(QMarginsF, titleEdgeInsets, setTitleEdgeInsets)
 };
 
 } // namespace tidepool

@@ -1,9 +1,8 @@
 #include "Tidepool/Styles/CheckBoxCellStyle.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
@@ -13,17 +12,22 @@ CheckBoxCellStyle::CheckBoxCellStyle() {
     setSelectedBackgroundColor(textBackgroundColor());
     setButtonImages({{normal, TPImages::checkbox},
                      {on, TPImages::checkboxOn},
-                     {mixed, CheckBoxImages::mixed},
+                     {mixed, Images::tpkCheckboxMixed},
                      {highlighted, TPImages::checkboxDown},
                      {on | highlighted, TPImages::checkboxOnDown},
-                     {mixed | highlighted, CheckBoxImages::mixedDown},
+                     {mixed | highlighted, Images::tpkCheckboxMixedDown},
                      {selected, TPImages::checkboxDown},
                      {selected | on, TPImages::checkboxOnDown},
-                     {selected | mixed, CheckBoxImages::mixedDown}});
+                     {selected | mixed, Images::tpkCheckboxMixedDown}});
+}
+
+void CheckBoxCellStyle::applyAccent(const QColor& accent) {
+    ButtonCellStyle::applyAccent(accent);
+    setButtonImages(accented(buttonImages(), accent));
 }
 
 FavouriteCheckBoxCellStyle::FavouriteCheckBoxCellStyle() {
-    setButtonImages({{normal, OrganiserImages::iconStarEmpty}, {on, OrganiserImages::iconStar}});
+    setButtonImages({{normal, Images::organiserIconStarEmpty}, {on, Images::organiserIconStar}});
 }
 
 } // namespace tidepool

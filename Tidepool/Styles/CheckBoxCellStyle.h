@@ -9,17 +9,14 @@ class CheckBoxCellStyle : public ButtonCellStyle {
 public:
     CheckBoxCellStyle();
 
-    virtual const StateImages& buttonImages() const { return m_buttonImages; }
-
-    void setButtonImages(StateImages value) { m_buttonImages = std::move(value); }
+    TP_STYLE_FIELD(StateImages, buttonImages, setButtonImages)
 
     /// Null if there is none.
     virtual const platform::Image* buttonImage(StyledControlState state) const {
         return buttonImages().image(state);
     }
 
-private:
-    StateImages m_buttonImages;
+    void applyAccent(const QColor& accent) override;
 };
 
 /// Check boxes in the form of a star.

@@ -1,7 +1,5 @@
 #include "Tidepool/Styles/ControlStyle.h"
 
-#include "Tidepool/Styles/Styles.h"
-
 namespace tidepool {
 
 namespace {
@@ -9,22 +7,6 @@ namespace {
 constexpr auto active = StyledControlState::highlighted | StyledControlState::on | StyledControlState::mixed;
 
 } // namespace
-
-ControlStyle::ControlStyle()
-    : m_font(Styles::Control::font()),
-      m_textColor(Styles::Control::text),
-      m_textBackgroundColor(QColor(Styles::BaseStyles::clear)),
-      m_selectedFont(m_font),
-      m_selectedTextColor(Styles::Control::selectedText),
-      m_selectedBackgroundColor(Styles::Control::selection),
-      m_disabledTextColor(Styles::Control::disabledText),
-      m_disabledBackgroundColor(QColor(Styles::BaseStyles::clear)),
-      m_highlightedTextColor(Styles::Control::highlightedText),
-      m_highlightedBackgroundColor(QColor(Styles::BaseStyles::clear)),
-      m_invalidTextColor(Styles::Control::selectedText),
-      m_invalidBackgroundColor(Styles::Control::error),
-      m_focusRingColor(Styles::Control::selection),
-      m_invalidFocusRingColor(Styles::Control::error) {}
 
 const QColor& ControlStyle::focusRingColor(StyledControlState state) const {
     return state.contains(StyledControlState::invalid) ? invalidFocusRingColor() : focusRingColor();
@@ -52,6 +34,17 @@ const QColor& ControlStyle::backgroundColor(StyledControlState state) const {
 
 const platform::Image* ControlStyle::bezelImage(StyledControlState state) const {
     return bezelImages().image(state);
+}
+
+void ControlStyle::applyAccent(const QColor& accent) {
+    setBezelImages(accented(bezelImages(), accent));
+    setSwiftUIBezelImages(accented(swiftUIBezelImages(), accent));
+    setSelectedBackgroundColor(accent);
+    setFocusRingColor(accent);
+}
+
+StateImages ControlStyle::accented(const StateImages& images, const QColor& accent) {
+    return images.recolored({Styles::Control::selection.color().rgb(), accent.rgb()});
 }
 
 } // namespace tidepool

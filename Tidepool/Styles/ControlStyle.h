@@ -6,8 +6,6 @@
 #include <QFont>
 #include <QMarginsF>
 
-#include <utility>
-
 namespace tidepool {
 
 /// The look of a control, for every state that it can have. Lengths are points.
@@ -16,95 +14,30 @@ public:
     using ResizingMode = platform::Image::ResizingMode;
     using BaseStyle::backgroundColor;
 
-    ControlStyle();
-
-    virtual const QFont& font() const { return m_font; }
-
-    void setFont(QFont value) { m_font = std::move(value); }
-
-    virtual const QColor& textColor() const { return m_textColor; }
-
-    void setTextColor(QColor value) { m_textColor = value; }
-
-    virtual const QColor& textBackgroundColor() const { return m_textBackgroundColor; }
-
-    void setTextBackgroundColor(QColor value) { m_textBackgroundColor = value; }
-
-    virtual const QFont& selectedFont() const { return m_selectedFont; }
-
-    void setSelectedFont(QFont value) { m_selectedFont = std::move(value); }
-
-    virtual const QColor& selectedTextColor() const { return m_selectedTextColor; }
-
-    void setSelectedTextColor(QColor value) { m_selectedTextColor = value; }
-
-    virtual const QColor& selectedBackgroundColor() const { return m_selectedBackgroundColor; }
-
-    void setSelectedBackgroundColor(QColor value) { m_selectedBackgroundColor = value; }
-
-    virtual const QColor& disabledTextColor() const { return m_disabledTextColor; }
-
-    void setDisabledTextColor(QColor value) { m_disabledTextColor = value; }
-
-    virtual const QColor& disabledBackgroundColor() const { return m_disabledBackgroundColor; }
-
-    void setDisabledBackgroundColor(QColor value) { m_disabledBackgroundColor = value; }
-
-    virtual const QColor& highlightedTextColor() const { return m_highlightedTextColor; }
-
-    void setHighlightedTextColor(QColor value) { m_highlightedTextColor = value; }
-
-    virtual const QColor& highlightedBackgroundColor() const { return m_highlightedBackgroundColor; }
-
-    void setHighlightedBackgroundColor(QColor value) { m_highlightedBackgroundColor = value; }
-
-    virtual const QColor& invalidTextColor() const { return m_invalidTextColor; }
-
-    void setInvalidTextColor(QColor value) { m_invalidTextColor = value; }
-
-    virtual const QColor& invalidBackgroundColor() const { return m_invalidBackgroundColor; }
-
-    void setInvalidBackgroundColor(QColor value) { m_invalidBackgroundColor = value; }
-
-    virtual const StateImages& bezelImages() const { return m_bezelImages; }
-
-    void setBezelImages(StateImages value) { m_bezelImages = std::move(value); }
-
-    virtual const QMarginsF& bezelImageCapInsets() const { return m_bezelImageCapInsets; }
-
-    void setBezelImageCapInsets(QMarginsF value) { m_bezelImageCapInsets = value; }
-
-    virtual ResizingMode bezelImageResizingMode() const { return m_bezelImageResizingMode; }
-
-    void setBezelImageResizingMode(ResizingMode value) { m_bezelImageResizingMode = value; }
-
-    virtual const StateImages& swiftUIBezelImages() const { return m_swiftUIBezelImages; }
-
-    void setSwiftUIBezelImages(StateImages value) { m_swiftUIBezelImages = std::move(value); }
-
-    virtual const QMarginsF& swiftUIBezelImageCapInsets() const { return m_swiftUIBezelImageCapInsets; }
-
-    void setSwiftUIBezelImageCapInsets(QMarginsF value) { m_swiftUIBezelImageCapInsets = value; }
-
-    virtual ResizingMode swiftUIBezelImageResizingMode() const { return m_swiftUIBezelImageResizingMode; }
-
-    void setSwiftUIBezelImageResizingMode(ResizingMode value) { m_swiftUIBezelImageResizingMode = value; }
-
-    virtual const QMarginsF& alignmentRectInsets() const { return m_alignmentRectInsets; }
-
-    void setAlignmentRectInsets(QMarginsF value) { m_alignmentRectInsets = value; }
-
-    virtual const QMarginsF& edgeInsets() const { return m_edgeInsets; }
-
-    void setEdgeInsets(QMarginsF value) { m_edgeInsets = value; }
-
-    virtual const QColor& focusRingColor() const { return m_focusRingColor; }
-
-    void setFocusRingColor(QColor value) { m_focusRingColor = value; }
-
-    virtual const QColor& invalidFocusRingColor() const { return m_invalidFocusRingColor; }
-
-    void setInvalidFocusRingColor(QColor value) { m_invalidFocusRingColor = value; }
+    TP_STYLE_FIELD(QFont, font, setFont, Styles::Control::font())
+    TP_STYLE_FIELD(QColor, textColor, setTextColor, Styles::Control::text)
+    TP_STYLE_FIELD(QColor, textBackgroundColor, setTextBackgroundColor, Styles::BaseStyles::clear)
+    TP_STYLE_FIELD(QFont, selectedFont, setSelectedFont, Styles::Control::font())
+    TP_STYLE_FIELD(QColor, selectedTextColor, setSelectedTextColor, Styles::Control::selectedText)
+    TP_STYLE_FIELD(QColor, selectedBackgroundColor, setSelectedBackgroundColor, Styles::Control::selection)
+    TP_STYLE_FIELD(QColor, disabledTextColor, setDisabledTextColor, Styles::Control::disabledText)
+    TP_STYLE_FIELD(QColor, disabledBackgroundColor, setDisabledBackgroundColor, Styles::BaseStyles::clear)
+    TP_STYLE_FIELD(QColor, highlightedTextColor, setHighlightedTextColor, Styles::Control::highlightedText)
+    TP_STYLE_FIELD(QColor, highlightedBackgroundColor, setHighlightedBackgroundColor,
+                   Styles::BaseStyles::clear)
+    TP_STYLE_FIELD(QColor, invalidTextColor, setInvalidTextColor, Styles::Control::selectedText)
+    TP_STYLE_FIELD(QColor, invalidBackgroundColor, setInvalidBackgroundColor, Styles::Control::error)
+    TP_STYLE_FIELD(StateImages, bezelImages, setBezelImages)
+    TP_STYLE_FIELD(QMarginsF, bezelImageCapInsets, setBezelImageCapInsets)
+    TP_STYLE_FIELD(ResizingMode, bezelImageResizingMode, setBezelImageResizingMode, ResizingMode::tile)
+    TP_STYLE_FIELD(StateImages, swiftUIBezelImages, setSwiftUIBezelImages)
+    TP_STYLE_FIELD(QMarginsF, swiftUIBezelImageCapInsets, setSwiftUIBezelImageCapInsets)
+    TP_STYLE_FIELD(ResizingMode, swiftUIBezelImageResizingMode, setSwiftUIBezelImageResizingMode,
+                   ResizingMode::stretch)
+    TP_STYLE_FIELD(QMarginsF, alignmentRectInsets, setAlignmentRectInsets)
+    TP_STYLE_FIELD(QMarginsF, edgeInsets, setEdgeInsets)
+    TP_STYLE_FIELD(QColor, focusRingColor, setFocusRingColor, Styles::Control::selection)
+    TP_STYLE_FIELD(QColor, invalidFocusRingColor, setInvalidFocusRingColor, Styles::Control::error)
 
     /// The colours and the bezel of a state. Text and background weigh the flags differently.
     virtual const QColor& focusRingColor(StyledControlState state) const;
@@ -114,29 +47,11 @@ public:
     /// Null if there is none.
     virtual const platform::Image* bezelImage(StyledControlState state) const;
 
-private:
-    QFont m_font;
-    QColor m_textColor;
-    QColor m_textBackgroundColor;
-    QFont m_selectedFont;
-    QColor m_selectedTextColor;
-    QColor m_selectedBackgroundColor;
-    QColor m_disabledTextColor;
-    QColor m_disabledBackgroundColor;
-    QColor m_highlightedTextColor;
-    QColor m_highlightedBackgroundColor;
-    QColor m_invalidTextColor;
-    QColor m_invalidBackgroundColor;
-    StateImages m_bezelImages;
-    QMarginsF m_bezelImageCapInsets;
-    ResizingMode m_bezelImageResizingMode = ResizingMode::tile;
-    StateImages m_swiftUIBezelImages;
-    QMarginsF m_swiftUIBezelImageCapInsets;
-    ResizingMode m_swiftUIBezelImageResizingMode = ResizingMode::stretch;
-    QMarginsF m_alignmentRectInsets;
-    QMarginsF m_edgeInsets;
-    QColor m_focusRingColor;
-    QColor m_invalidFocusRingColor;
+    void applyAccent(const QColor& accent) override;
+
+protected:
+    /// Copies with the accent in place of the kit's blue.
+    static StateImages accented(const StateImages& images, const QColor& accent);
 };
 
 } // namespace tidepool

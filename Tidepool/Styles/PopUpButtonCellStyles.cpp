@@ -1,8 +1,7 @@
 #include "Tidepool/Styles/PopUpButtonCellStyles.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
@@ -24,19 +23,19 @@ ComboBoxStyle::ComboBoxStyle() {
 
 PopUpButtonCellStyle::PopUpButtonCellStyle() {
     setPopUpMetrics(*this);
-    setBezelImages({{normal, PopUpImages::normal}, {highlighted, PopUpImages::down}});
+    setBezelImages({{normal, Images::tpkPopup}, {highlighted, Images::tpkPopupDown}});
 }
 
 StyledPopDownButtonCellStyle::StyledPopDownButtonCellStyle() {
     setPopUpMetrics(*this);
-    setBezelImages({{normal, PopDownImages::normal}, {highlighted, PopDownImages::down}});
+    setBezelImages({{normal, Images::tpkPopdown}, {highlighted, Images::tpkPopdownDown}});
 }
 
 ToolPopUpButtonCellStyle::ToolPopUpButtonCellStyle() {
     setAlignmentRectInsets({});
     setEdgeInsets(insets(1, 1, 1, 1));
     setTitleEdgeInsets(insets(0, 4, 0, 14));
-    setBezelImages({{normal, PopUpImages::tool}, {highlighted, PopUpImages::toolDown}});
+    setBezelImages({{normal, Images::tpkPopupTool}, {highlighted, Images::tpkPopupToolDown}});
 }
 
 } // namespace tidepool

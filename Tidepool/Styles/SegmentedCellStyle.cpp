@@ -1,20 +1,18 @@
 #include "Tidepool/Styles/SegmentedCellStyle.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
-SegmentedCellStyle::SegmentedCellStyle() : m_segmentPadding(insets(0, 21, 0, 21)) {
+SegmentedCellStyle::SegmentedCellStyle() {
     setFont(Styles::PropertiesTab::font());
     setTextColor(Styles::PropertiesTab::text);
-    setSelectedTextColor(Styles::PropertiesTab::selectedText);
-    setHighlightedTextColor(Styles::PropertiesTab::highlightedText);
-    setBackgroundColor(QColor(Styles::BaseStyles::clear));
-    setBezelImages({{normal, WindowTabImages::normal},
-                    {selected, WindowTabImages::selected},
-                    {highlighted, WindowTabImages::down}});
+    setSelectedTextColor(Styles::Control::text);
+    setBackgroundColor(Styles::BaseStyles::clear);
+    setBezelImages({{normal, Images::tpkWindowTab},
+                    {selected, Images::tpkWindowTabSelected},
+                    {highlighted, Images::tpkWindowTabDown}});
 }
 
 } // namespace tidepool

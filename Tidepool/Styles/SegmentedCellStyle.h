@@ -9,17 +9,8 @@ class SegmentedCellStyle : public ControlStyle {
 public:
     SegmentedCellStyle();
 
-    virtual const QMarginsF& segmentPadding() const { return m_segmentPadding; }
-
-    void setSegmentPadding(QMarginsF value) { m_segmentPadding = value; }
-
-    virtual const QMarginsF& segmentMargin() const { return m_segmentMargin; }
-
-    void setSegmentMargin(QMarginsF value) { m_segmentMargin = value; }
-
-private:
-    QMarginsF m_segmentPadding;
-    QMarginsF m_segmentMargin;
+    TP_STYLE_FIELD(QMarginsF, segmentPadding, setSegmentPadding, 21, 0, 21, 0)
+    TP_STYLE_FIELD(QMarginsF, segmentMargin, setSegmentMargin)
 };
 
 } // namespace tidepool

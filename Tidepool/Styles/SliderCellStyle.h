@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Tidepool/Assets.h"
 #include "Tidepool/Styles/ControlStyle.h"
 
 namespace tidepool {
@@ -7,15 +8,13 @@ namespace tidepool {
 /// Sliders.
 class SliderCellStyle : public ControlStyle {
 public:
-    SliderCellStyle();
-
-    virtual const StateImages& barImages() const { return m_barImages; }
-
-    void setBarImages(StateImages value) { m_barImages = std::move(value); }
-
-    virtual const StateImages& knobImages() const { return m_knobImages; }
-
-    void setKnobImages(StateImages value) { m_knobImages = std::move(value); }
+    TP_STYLE_FIELD(StateImages, barImages, setBarImages,
+                   {{StyledControlState::defaultState, Images::tpkSliderAlley},
+                    {StyledControlState::highlighted, Images::tpkSlider}})
+    TP_STYLE_FIELD(StateImages, knobImages, setKnobImages,
+                   {{StyledControlState::defaultState, Images::tpkSliderHandle},
+                    {StyledControlState::highlighted, Images::tpkSliderHandleDown},
+                    {StyledControlState::mixed, Images::tpkSliderHandleMulti}})
 
     /// Null if there is none.
     virtual const platform::Image* barImage(StyledControlState state) const {
@@ -26,9 +25,11 @@ public:
         return knobImages().image(state);
     }
 
-private:
-    StateImages m_barImages;
-    StateImages m_knobImages;
+    void applyAccent(const QColor& accent) override {
+        ControlStyle::applyAccent(accent);
+        setBarImages(accented(barImages(), accent));
+        setKnobImages(accented(knobImages(), accent));
+    }
 };
 
 } // namespace tidepool

@@ -37,6 +37,13 @@ void StateImages::set(StyledControlState state, platform::Image image) {
         known->second = std::move(image);
 }
 
+StateImages StateImages::recolored(const platform::Recoloring& recoloring) const {
+    StateImages result;
+    for (const auto& [state, image] : m_entries)
+        result.set(state, image.recolored(recoloring));
+    return result;
+}
+
 const platform::Image* StateImages::exact(StyledControlState state) const {
     const auto found = std::ranges::find(m_entries, state, &Entry::first);
     return found == m_entries.end() ? nullptr : &found->second;

@@ -30,6 +30,9 @@ public:
 
     const std::vector<Entry>& entries() const { return m_entries; }
 
+    /// Copies of all images with other colours.
+    StateImages recolored(const platform::Recoloring& recoloring) const;
+
     /// The image of `state` itself; else of the subset of it with the most flags, where `default` does not
     /// count and the earlier one wins among equals; else of `default`; else null. Valid until the map is
     /// changed. The first call fills a table of all 256 states, so that the others only look into it, and

@@ -3,17 +3,22 @@
 #include "Tidepool/Styles/ControlStyle.h"
 #include "Tidepool/Styles/StyleSet.h"
 
+#include <array>
 #include <memory>
 #include <utility>
 
 namespace tidepool {
 
-/// The style that all cells of a class share: made on first use, and the one to change for all of them before
-/// they are shown. A class whose shared style differs from a new one specialises this.
+/// The style that all cells of a class share in the appearance in force: made on first use, and the one to
+/// change for all of them before they are shown.
 template <typename S>
 S& sharedStyle() {
-    static S style;
-    return style;
+    static std::array<std::shared_ptr<S>, 2> styles;
+    const platform::Appearance appearance = platform::currentAppearance();
+    std::shared_ptr<S>& style = styles[static_cast<std::size_t>(appearance)];
+    if (!style)
+        style = makeStyle<S>({appearance});
+    return *style;
 }
 
 /// Where a cell gets its style from. Main thread.

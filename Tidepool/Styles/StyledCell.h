@@ -2,6 +2,7 @@
 
 #include "Platform/Controls/Cell.h"
 #include "Platform/Core/FatalError.h"
+#include "Platform/Graphics/Appearance.h"
 #include "Tidepool/Styles/StyleReference.h"
 #include "Tidepool/Styles/Validating.h"
 
@@ -26,7 +27,8 @@ public:
         if (style && !takes(*style))
             platform::fatalError("A cell was given a style of another class");
         m_style.set(std::move(style));
-        this->changed();
+        if (QWidget* const view = this->controlView())
+            platform::notifyStyleChange(*view);
     }
 
     bool isSelected() const { return m_selected; }

@@ -6,77 +6,50 @@ namespace tidepool {
 
 namespace {
 
-const QFont& regular10() {
-    static const QFont font = platform::systemFont(10);
-    return font;
-}
-
-const QFont& medium10() {
-    static const QFont font = platform::systemFont(10, QFont::Medium);
-    return font;
-}
-
-const QFont& regular12() {
-    static const QFont font = platform::systemFont(12);
-    return font;
-}
-
-const QFont& medium12() {
-    static const QFont font = platform::systemFont(12, QFont::Medium);
-    return font;
-}
-
-const QFont& medium14() {
-    static const QFont font = platform::systemFont(14, QFont::Medium);
+/// One object for all tokens of the same font.
+template <int size, QFont::Weight weight>
+const QFont& shared() {
+    static const QFont font = platform::systemFont(size, weight);
     return font;
 }
 
 } // namespace
 
 const QFont& Styles::WelcomeHeadings::font() {
-    static const QFont font = platform::systemFont(20, QFont::Medium);
-    return font;
+    return shared<20, QFont::Medium>();
 }
 
 const QFont& Styles::WelcomeHeadings::subtitleFont() {
-    return medium14();
-}
-
-const QFont& Styles::CustomTags::font() {
-    return medium10();
+    return shared<14, QFont::Medium>();
 }
 
 const QFont& Styles::Control::font() {
-    return regular10();
+    return shared<10, QFont::Normal>();
 }
 
 const QFont& Styles::Control::mediumFont() {
-    return medium10();
+    return shared<10, QFont::Medium>();
 }
 
 const QFont& Styles::OutlineHeader::font() {
-    return medium12();
+    return shared<12, QFont::Medium>();
 }
 
 const QFont& Styles::OutlineRow::font() {
-    return regular12();
+    return shared<12, QFont::Normal>();
 }
 
 const QFont& Styles::TableGroupRow::font() {
-    return medium12();
+    return shared<12, QFont::Medium>();
 }
 
 const QFont& Styles::PropertiesTab::font() {
-    return medium12();
+    return shared<12, QFont::Medium>();
 }
 
 const QFont& Styles::CanvasInfo::font() {
     static const QFont font = platform::monospacedDigitSystemFont(10);
     return font;
-}
-
-const QFont& Styles::Window::font() {
-    return regular10();
 }
 
 } // namespace tidepool

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPColors.h"
 
 #include <QFont>
@@ -14,13 +13,10 @@ struct Styles {
     struct WelcomeHeadings {
         static const QFont& font();
         static const QFont& subtitleFont();
-        static constexpr auto text = TPColors::grey100;
         static constexpr auto subtitleText = TPColors::grey60;
     };
 
     struct CustomTags {
-        static const QFont& font();
-        static constexpr auto text = TPColors::grey100;
         static constexpr auto background = TPColors::Vantor::darkPurple;
         static constexpr auto selection = TPColors::Vantor::blue;
         static constexpr qreal cornerRadius = 3;
@@ -30,7 +26,6 @@ struct Styles {
         static constexpr qreal margin = 24;
         static constexpr qreal sectionSpacing = 32;
         static constexpr qreal spacing = 12;
-        static constexpr auto divider = TPColors::grey20;
     };
 
     struct BaseStyles {
@@ -38,6 +33,7 @@ struct Styles {
         static constexpr auto clear = Qt::transparent;
     };
 
+    /// Of every control, also in windows and lists, unless another token says otherwise.
     struct Control {
         static const QFont& font();
         static const QFont& mediumFont();
@@ -45,8 +41,8 @@ struct Styles {
         static constexpr auto selectedText = TPColors::grey100;
         static constexpr auto disabledText = TPColors::grey40;
         static constexpr auto highlightedText = TPColors::grey50;
-        static constexpr auto selection = SignalColors::systemHighlight;
-        static constexpr auto error = SignalColors::error;
+        static constexpr auto selection = TPColors::Highlight::system;
+        static constexpr auto error = TPColors::error;
     };
 
     struct ScrollView {
@@ -55,15 +51,11 @@ struct Styles {
 
     struct OutlineHeader {
         static const QFont& font();
-        static constexpr auto background = TPColors::Background::darkest;
         static constexpr auto text = TPColors::grey60;
     };
 
     struct OutlineRow {
         static const QFont& font();
-        static constexpr auto background = TPColors::Background::darker;
-        static constexpr auto text = TPColors::grey70;
-        static constexpr auto selectedText = TPColors::grey100;
     };
 
     struct TableView {
@@ -76,15 +68,12 @@ struct Styles {
 
     struct TableRow {
         static constexpr auto background = TPColors::Background::darker;
-        static constexpr auto selection = SignalColors::systemHighlight;
         static constexpr auto text = TPColors::grey70;
-        static constexpr auto selectedText = TPColors::grey100;
     };
 
     struct TableGroupRow {
         static const QFont& font();
         static constexpr auto background = TPColors::grey20;
-        static constexpr auto text = TPColors::grey85;
     };
 
     struct Label {
@@ -94,27 +83,21 @@ struct Styles {
 
     struct TextInput {
         static constexpr auto placeholder = TPColors::grey50;
-        static constexpr auto highlightedText = TPColors::grey100;
     };
 
     struct PropertiesTab {
         static const QFont& font();
         static constexpr auto text = TPColors::grey70;
-        static constexpr auto selectedText = TPColors::grey85;
-        static constexpr auto highlightedText = TPColors::grey50;
     };
 
     struct CanvasInfo {
         /// Its digits are all equally wide, so that numbers that change stand still.
         static const QFont& font();
-        static constexpr auto text = TPColors::grey60;
         static constexpr QSizeF thumbnail{76, 83};
     };
 
     struct Window {
-        static const QFont& font();
         static constexpr QSizeF padding{10, 6};
-        static constexpr auto text = TPColors::grey85;
     };
 };
 

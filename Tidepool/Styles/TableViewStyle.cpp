@@ -1,16 +1,10 @@
 #include "Tidepool/Styles/TableViewStyle.h"
 
-#include "Tidepool/Styles/Styles.h"
-
 namespace tidepool {
 
-TableViewStyle::TableViewStyle()
-    : m_rowBackgroundColor(Styles::TableRow::background),
-      m_selectedRowBackgroundColor(Styles::TableRow::selection),
-      m_headerBackgroundColor(Styles::TableHeader::background) {
-    setBackgroundColor(m_rowBackgroundColor);
+TableViewStyle::TableViewStyle() {
+    setBackgroundColor(rowBackgroundColor());
     setTextColor(Styles::TableRow::text);
-    setSelectedTextColor(Styles::TableRow::selectedText);
 }
 
 } // namespace tidepool

@@ -9,22 +9,15 @@ class TableViewStyle : public ControlStyle {
 public:
     TableViewStyle();
 
-    virtual const QColor& rowBackgroundColor() const { return m_rowBackgroundColor; }
+    TP_STYLE_FIELD(QColor, rowBackgroundColor, setRowBackgroundColor, Styles::TableRow::background)
+    TP_STYLE_FIELD(QColor, selectedRowBackgroundColor, setSelectedRowBackgroundColor,
+                   Styles::Control::selection)
+    TP_STYLE_FIELD(QColor, headerBackgroundColor, setHeaderBackgroundColor, Styles::TableHeader::background)
 
-    void setRowBackgroundColor(QColor value) { m_rowBackgroundColor = value; }
-
-    virtual const QColor& selectedRowBackgroundColor() const { return m_selectedRowBackgroundColor; }
-
-    void setSelectedRowBackgroundColor(QColor value) { m_selectedRowBackgroundColor = value; }
-
-    virtual const QColor& headerBackgroundColor() const { return m_headerBackgroundColor; }
-
-    void setHeaderBackgroundColor(QColor value) { m_headerBackgroundColor = value; }
-
-private:
-    QColor m_rowBackgroundColor;
-    QColor m_selectedRowBackgroundColor;
-    QColor m_headerBackgroundColor;
+    void applyAccent(const QColor& accent) override {
+        ControlStyle::applyAccent(accent);
+        setSelectedRowBackgroundColor(accent);
+    }
 };
 
 /// Outlines look like tables.

@@ -1,17 +1,13 @@
 #include "Tidepool/Styles/TextFieldCellStyle.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
-TextFieldCellStyle::TextFieldCellStyle()
-    : m_placeholderTextColor(Styles::TextInput::placeholder),
-      m_placeholderBackground(QColor(Styles::BaseStyles::clear)),
-      m_padding(insets(2, 6, 2, 6)) {
-    setHighlightedTextColor(Styles::TextInput::highlightedText);
+TextFieldCellStyle::TextFieldCellStyle() {
+    setHighlightedTextColor(Styles::Control::selectedText);
     setInvalidTextColor(Styles::Control::error);
     setAlignmentRectInsets(insets(2, 2, 2, 2));
     setEdgeInsets(insets(2, 2, 2, 2));
@@ -22,14 +18,14 @@ TextFieldCellStyle::TextFieldCellStyle()
 }
 
 HeaderTextFieldStyle::HeaderTextFieldStyle() {
-    setBezelImages({{normal, TextFieldImages::tableheader},
+    setBezelImages({{normal, Images::tpkTextfieldTableheader},
                     {focused, TPImages::textFieldFocus},
                     {invalid, TPImages::textFieldError},
                     {focused | invalid, TPImages::textFieldError}});
 }
 
 SearchFieldCellStyle::SearchFieldCellStyle() {
-    setBezelImages({{normal, SearchFieldImages::normal}, {focused, SearchFieldImages::focus}});
+    setBezelImages({{normal, Images::tpkSearchfield}, {focused, Images::tpkSearchfieldFocus}});
 }
 
 TextLabelCellStyle::TextLabelCellStyle() {

@@ -9,22 +9,9 @@ class TextFieldCellStyle : public ControlStyle {
 public:
     TextFieldCellStyle();
 
-    virtual const QColor& placeholderTextColor() const { return m_placeholderTextColor; }
-
-    void setPlaceholderTextColor(QColor value) { m_placeholderTextColor = value; }
-
-    virtual const QColor& placeholderBackground() const { return m_placeholderBackground; }
-
-    void setPlaceholderBackground(QColor value) { m_placeholderBackground = value; }
-
-    virtual const QMarginsF& padding() const { return m_padding; }
-
-    void setPadding(QMarginsF value) { m_padding = value; }
-
-private:
-    QColor m_placeholderTextColor;
-    QColor m_placeholderBackground;
-    QMarginsF m_padding;
+    TP_STYLE_FIELD(QColor, placeholderTextColor, setPlaceholderTextColor, Styles::TextInput::placeholder)
+    TP_STYLE_FIELD(QColor, placeholderBackground, setPlaceholderBackground, Styles::BaseStyles::clear)
+    TP_STYLE_FIELD(QMarginsF, padding, setPadding, 6, 2, 6, 2)
 };
 
 /// Text fields in the header of a table.

@@ -1,24 +1,23 @@
 #include "Tidepool/Styles/ToolButtonCellStyles.h"
 
-#include "Tidepool/Palette/ControlAssets.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Styles/StyleValues.h"
-#include "Tidepool/Styles/Styles.h"
 
 namespace tidepool {
 
 ToolButtonCellStyle::ToolButtonCellStyle() {
     setImageEdgeInsets(insets(-1, 0, 1, 0));
-    setBezelImages({{normal, CornerToolImages::background},
-                    {on, CornerToolImages::backgroundSelected},
-                    {highlighted, CornerToolImages::backgroundDown}});
+    setBezelImages({{normal, Images::cornerToolBackground},
+                    {on, Images::cornerToolBackgroundSelected},
+                    {highlighted, Images::cornerToolBackgroundDown}});
 }
 
 CornerButtonCellStyle::CornerButtonCellStyle() {
     setEdgeInsets(insets(2, 4, 2, 4));
 }
 
-void BackButtonCellStyle::setArrowBezel() {
-    setBezelImages({{normal, OrganiserImages::navbarBack}, {highlighted, OrganiserImages::navbarBackDown}});
+void BackButtonCellStyle::prepareToBeShared() {
+    setBezelImages({{normal, Images::organiserNavbarBack}, {highlighted, Images::organiserNavbarBackDown}});
 }
 
 } // namespace tidepool

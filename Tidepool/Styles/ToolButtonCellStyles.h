@@ -19,7 +19,7 @@ public:
 /// Buttons that lead back. A new one has a push button's bezel; the one that their cells share has the arrow.
 class BackButtonCellStyle : public ButtonCellStyle {
 public:
-    void setArrowBezel();
+    void prepareToBeShared() override;
 };
 
 } // namespace tidepool

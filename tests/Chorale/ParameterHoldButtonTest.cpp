@@ -1,6 +1,6 @@
 #include "Chorale/ParameterHoldButton.h"
 
-#include "Chorale/AssetResources.h"
+#include "Chorale/Assets.h"
 #include "tests/Chorale/HostWatch.h"
 
 #include <QAccessible>
@@ -26,8 +26,8 @@ protected:
     }
 
     HostWatch m_host{platform::AudioUnitParameterUnit::boolean, 1, 0};
-    ParameterHoldButton m_button{m_host.parameter, chorale::EditorAssets::quillfenLogo,
-                                 chorale::EditorAssets::quillfenLogo};
+    ParameterHoldButton m_button{m_host.parameter, chorale::Images::quillfenLogo,
+                                 chorale::Images::quillfenLogo};
 };
 
 } // namespace
@@ -56,8 +56,8 @@ TEST_F(ParameterHoldButtonTest, LetsGoHoweverThePressEnds) {
     m_button.setEnabled(true);
     EXPECT_EQ(lastAfter([&] { QTest::keyClick(&m_button, Qt::Key_Escape); }), "value 0");
     EXPECT_EQ(lastAfter([&] { m_button.hide(); }), "value 0");
-    auto* const other = new ParameterHoldButton(m_host.parameter, chorale::EditorAssets::quillfenLogo,
-                                                chorale::EditorAssets::quillfenLogo);
+    auto* const other = new ParameterHoldButton(m_host.parameter, chorale::Images::quillfenLogo,
+                                                chorale::Images::quillfenLogo);
     QTest::mousePress(other, Qt::LeftButton);
     HostWatch::turn();
     delete other;
@@ -123,8 +123,8 @@ TEST_F(ParameterHoldButtonTest, FollowsTheHostExactly) {
     m_host.send(0.5);
     EXPECT_FALSE(m_button.isPressed());
     m_host.send(1);
-    const ParameterHoldButton late(m_host.parameter, chorale::EditorAssets::quillfenLogo,
-                                   chorale::EditorAssets::quillfenLogo);
+    const ParameterHoldButton late(m_host.parameter, chorale::Images::quillfenLogo,
+                                   chorale::Images::quillfenLogo);
     EXPECT_TRUE(late.isPressed());
 }
 
@@ -140,8 +140,7 @@ TEST_F(ParameterHoldButtonTest, ReturnHoldsAndSpaceIsLeftToTheHost) {
 
 TEST(ParameterHoldButton, ARangeWithoutOneIsClamped) {
     HostWatch host(platform::AudioUnitParameterUnit::generic, 0.5, 0);
-    ParameterHoldButton button(host.parameter, chorale::EditorAssets::quillfenLogo,
-                               chorale::EditorAssets::quillfenLogo);
+    ParameterHoldButton button(host.parameter, chorale::Images::quillfenLogo, chorale::Images::quillfenLogo);
     QTest::mousePress(&button, Qt::LeftButton);
     EXPECT_THAT(host.take(), ElementsAre("value 0.5"));
     EXPECT_FALSE(button.isPressed()) << "once the value has arrived";

@@ -1,6 +1,7 @@
 #include "Chorale/RocketFontModifier.h"
 
-#include "Chorale/AssetResources.h"
+#include "Chorale/Assets.h"
+#include "Platform/Core/Bundle.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -56,13 +57,12 @@ TEST_F(RocketFontModifierTest, WithoutTheFaceTheDesktopsFontStandsIn) {
 }
 
 TEST(ChoraleBundle, HasTheEditorsAssets) {
-    using chorale::EditorAssets;
-    for (const auto& color :
-         {EditorAssets::background, EditorAssets::tabSelected, EditorAssets::tabUnselected,
-          EditorAssets::updateBackground, EditorAssets::versionInfo})
+    using chorale::Colors;
+    for (const auto& color : {Colors::background, Colors::tabSelected, Colors::tabUnselected,
+                              Colors::updateBackground, Colors::versionInfo})
         EXPECT_TRUE(color.color().isValid()) << color.name;
-    EXPECT_TRUE(EditorAssets::quillfenLogo.image().isTemplate());
-    EXPECT_EQ(EditorAssets::quillfenLogo.image().size(), QSizeF(92, 24));
+    EXPECT_TRUE(chorale::Images::quillfenLogo.image().isTemplate());
+    EXPECT_EQ(chorale::Images::quillfenLogo.image().size(), QSizeF(92, 24));
 }
 
 TEST(ChoraleBundle, IsRequired) {

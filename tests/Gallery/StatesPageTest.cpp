@@ -65,7 +65,8 @@ TEST(StatesPage, AccentReachesTheStyle) {
 
 TEST(StyleClasses, NameTheirMaps) {
     const auto make = [](const char* name) {
-        return gallery::styleClasses()[static_cast<std::size_t>(styleClassIndex(name))].make();
+        return gallery::styleClasses()[static_cast<std::size_t>(styleClassIndex(name))].make(
+            {platform::currentAppearance()});
     };
     const auto slider = make("SliderCellStyle");
     const auto maps = gallery::imageMaps(*slider);

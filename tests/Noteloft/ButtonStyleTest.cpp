@@ -1,7 +1,7 @@
+#include "Noteloft/Assets.h"
 #include "Noteloft/DefaultVantorButtonStyle.h"
 #include "Noteloft/InterFontModifier.h"
 #include "Noteloft/QuillfenButtonStyle.h"
-#include "Noteloft/ResourceBundle.h"
 #include "Tidepool/Palette/TPColors.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "tests/support/Pixels.h"
@@ -11,8 +11,9 @@
 
 #include <gtest/gtest.h>
 
-using noteloft::Assets;
+using noteloft::Colors;
 using noteloft::DefaultVantorButtonStyle;
+using noteloft::Images;
 using noteloft::QuillfenButtonStyle;
 using platform::ButtonConfiguration;
 using State = platform::StyledControlState;
@@ -46,14 +47,14 @@ QRgb rgb(const QColor& color) {
 
 TEST(ButtonStyle, LinkButtonSwapsImageAndColorWhilePressed) {
     const QuillfenButtonStyle style;
-    EXPECT_EQ(difference(paint(style, {{}, frame}), Assets::button.image().bitmap(frame.size(), 1)), 0);
+    EXPECT_EQ(difference(paint(style, {{}, frame}), Images::tpkButton.image().bitmap(frame.size(), 1)), 0);
     EXPECT_EQ(difference(paint(style, {{}, frame, State::highlighted}),
-                         Assets::buttonDown.image().bitmap(frame.size(), 1)),
+                         Images::tpkButtonDown.image().bitmap(frame.size(), 1)),
               0);
     EXPECT_GT(difference(paint(style, {{}, frame}), paint(style, {{}, frame, State::highlighted})), 8);
-    EXPECT_LE(difference(middle(paint(style, {label, frame})), rgb(Assets::buttonText.color())), 1);
+    EXPECT_LE(difference(middle(paint(style, {label, frame})), rgb(Colors::buttonText.color())), 1);
     EXPECT_LE(
-        difference(middle(paint(style, {label, frame, State::highlighted})), rgb(Assets::labels.color())), 1);
+        difference(middle(paint(style, {label, frame, State::highlighted})), rgb(Colors::labels.color())), 1);
     EXPECT_EQ(style.size({180, 17}), QSizeF(180, 24));
     EXPECT_EQ(style.overhang(), 2);
     EXPECT_EQ(style.font().pixelSize(), 12);

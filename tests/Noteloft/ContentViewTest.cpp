@@ -1,5 +1,6 @@
 #include "Noteloft/ContentView.h"
 
+#include "Noteloft/Assets.h"
 #include "Noteloft/ContentViewModel.h"
 #include "Noteloft/ContentViewShader.h"
 #include "Noteloft/ResourceBundle.h"
@@ -22,9 +23,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using noteloft::Assets;
+using noteloft::Colors;
 using noteloft::ContentView;
 using noteloft::ContentViewModel;
+using noteloft::Images;
 using platform::Bundle;
 using Button = platform::PushButton;
 
@@ -146,7 +148,7 @@ TEST_F(ContentViewTest, FontsAndColorsAreThoseOfEachGroup) {
         ASSERT_NE(each, nullptr);
         EXPECT_EQ(each->font().pixelSize(), size);
         EXPECT_EQ(each->font().weight(), weight);
-        EXPECT_EQ(each->palette().color(QPalette::WindowText), Assets::buttonText.color());
+        EXPECT_EQ(each->palette().color(QPalette::WindowText), Colors::buttonText.color());
         EXPECT_LE(each->sizeHint().width(), 400) << "fits in the window";
     }
     EXPECT_EQ(label(QStringLiteral("Noteloft"))->font().families().constFirst(), QStringLiteral("Rocket"));
@@ -200,13 +202,13 @@ TEST_F(ContentViewTest, DrawsItsBackgroundAndItsLogo) {
     const auto at = [&](QPoint point) { return image.pixel((QPointF(point) * scale).toPoint()); };
     for (const QPoint point :
          {QPoint(2, 302), QPoint(397, 320), QPoint(2, 569), QPoint(397, 569), QPoint(200, 546)})
-        EXPECT_LE(difference(at(point), Assets::background.color().rgba()), 1)
+        EXPECT_LE(difference(at(point), Colors::background.color().rgba()), 1)
             << point.x() << ", " << point.y();
     const QRect logo = place(view.findChild<platform::ImageView*>());
     int ink = 0;
     for (int y = logo.top(); y <= logo.bottom(); ++y)
         for (int x = logo.left(); x <= logo.right(); ++x)
-            ink += difference(at({x, y}), Assets::buttonText.color().rgba()) < 8 ? 1 : 0;
+            ink += difference(at({x, y}), Colors::buttonText.color().rgba()) < 8 ? 1 : 0;
     EXPECT_GT(ink, 50) << "the logo has the colour of the text";
 }
 

@@ -133,7 +133,7 @@ class BundleTest(CompileTest):
         self.assertNotIn("lightFiles", (self.bundle / "Assets.json").read_text(encoding="utf-8"))
 
     def test_depfile_lists_what_was_read(self):
-        code = self.write("code dir/a.cpp", 'colorAsset("Grey 20%"); imageAsset("knob");')
+        code = self.write("code dir/a.cpp", "Colors::grey20; Images::knob;")
         depfile = self.root / "kit.d"
         self.compile("--depfile", depfile, "--code", code.parent)
         text = depfile.read_text(encoding="utf-8")
@@ -183,13 +183,9 @@ class ManifestErrorTest(CompileTest):
             self.manifest([entry], [image()])
             self.fails_with('color "Grey 20%"')
         for entry in (image(size=[20, 10.5]), image(size=[0, 0]), image(resizing="fit"), image(template=1),
-                      image(capInsets=[1, 2]), image(source="../knob.svg")):
+                      image(capInsets=[1, 2]), image(source="../knob.svg"), image(unread="")):
             self.manifest([], [entry])
             self.fails_with('image "knob"')
-
-    def test_all_errors_are_told_at_once(self):
-        self.manifest([color(dark="no")], [image(size=[1])])
-        self.fails_with('color "Grey 20%"', 'image "knob"')
 
     def test_manifest_that_cannot_be_read(self):
         self.write("Kit/Assets.json", "{")
@@ -248,32 +244,34 @@ class NoiseTest(CompileTest):
 
 class UsageTest(CompileTest):
     def check(self, code):
-        self.write("code/a.cpp", code)
+        self.write("code/a.cpp", f"auto a = Colors::grey20.color();\n{code}")
         return ("--code", self.root / "code")
 
-    def test_all_named_and_all_there(self):
-        self.compile(*self.check('auto a = colorAsset("Grey 20%");\nauto b = imageAsset(\n  "knob");\n'))
+    def test_what_reads_something(self):
+        kit = "struct Kit : Base { struct Dial { static constexpr auto knob = Images::knob; }; };\n"
+        for code in ("Images::knob;", "Kit::Dial::knob;", "using Own = Kit::Dial; Own::knob;",
+                     "struct Own : public Kit::Dial {}; Own::knob;"):
+            self.compile(*self.check(kit + code))
 
-    def test_an_asset_that_no_code_names(self):
-        self.fails_with('image "knob": no code names it', options=self.check('colorAsset("Grey 20%");'))
+    def test_what_reads_nothing(self):
+        for code in ("// Images::knob\n", "/* Images::knob\n */", r'"\"" "Images::knob"', "Colors::knob;",
+                     "struct Kit { static constexpr auto handle = Images::knob; };"):
+            self.fails_with('image "knob": nothing reads Images::knob', options=self.check(code))
+            self.assertFalse((self.bundle / "Assets.json").exists())
 
-    def test_a_name_without_an_asset(self):
-        options = self.check('colorAsset("Grey 20%"); imageAsset("knob");\nimageAsset("knbo");')
-        self.fails_with("a.cpp:2", 'image "knbo"', options=options)
+    def test_what_nothing_reads_needs_a_reason_and_nothing_else_has_one(self):
+        self.manifest([color()], [image(unread="for makers")])
+        self.compile(*self.check(""))
+        self.fails_with('"unread" must go', options=self.check("Images::knob;"))
 
-    def test_a_color_is_no_image(self):
-        options = self.check('colorAsset("knob"); colorAsset("Grey 20%");')
-        self.fails_with('color "knob"', 'image "knob": no code names it', options=options)
-
-    def test_comments_and_literals_name_nothing(self):
-        for hidden in ('// imageAsset("knob")\n', '/* imageAsset("knob")\n */',
-                       r'"\"" "imageAsset(\"knob\")"'):
-            options = self.check(f'colorAsset("Grey 20%"); {hidden}')
-            self.fails_with('image "knob": no code names it', options=options)
-
-    def test_a_failed_check_leaves_no_index(self):
-        self.fails_with(options=self.check(""))
-        self.assertFalse((self.bundle / "Assets.json").exists())
+    def test_a_header_is_written_anew_only_when_a_name_changes(self):
+        header, seen = self.root / "Assets.h", []
+        for entry in (color("Signal/Red"), color("Signal/Red", dark="#112233"), color("Signal/Error")):
+            self.manifest([entry], [image()])
+            self.compile("--header", header, "--namespace", "kit")
+            seen.append(header.stat().st_mtime_ns)
+        self.assertEqual(seen[0], seen[1])
+        self.assertIn('ColorResource error{"Signal/Error", resourceBundle}', header.read_text(encoding="utf-8"))
 
 
 class ShaderTest(CompileTest):

@@ -3,7 +3,8 @@
 
 Checks the manifest, renders each drawing and noise recipe at 1x, 2x and 3x, and so the drawing in
 Images/light that an image may have for the light appearance. Checks and copies the shaders. Where code
-folders are given, fails on each asset that no code names and each name that has no asset.
+folders are given, fails on each asset that nothing in them reads. With --header, only writes the C++ names
+of the assets.
 """
 
 import argparse
@@ -16,7 +17,8 @@ import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
-from manifest import LIGHT, MANIFEST, AssetError, read_manifest  # noqa: E402
+from manifest import LIGHT, MANIFEST, UNREAD, AssetError, read_manifest  # noqa: E402
+from names import write_header  # noqa: E402
 from noise import read_recipe, write_noise  # noqa: E402
 from usage import source_files, usage_errors  # noqa: E402
 
@@ -29,7 +31,10 @@ WORKERS = 2
 def main():
     options = parse_options()
     try:
-        compile_bundle(options)
+        if options.header:
+            write_header(options.header, read_manifest(options.source), options.namespace)
+        else:
+            compile_bundle(options)
     except AssetError as error:
         print("\n".join(error.messages), file=sys.stderr)
         return 1
@@ -39,9 +44,11 @@ def main():
 def parse_options():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--source", type=Path, required=True, help="resource folder with Assets.json")
-    parser.add_argument("--output", type=Path, required=True, help="bundle directory to bring up to date")
+    parser.add_argument("--output", type=Path, help="bundle directory to bring up to date")
     parser.add_argument("--code", type=Path, action="append", default=[],
                         help="folder whose code is checked against the manifest (repeatable)")
+    parser.add_argument("--header", type=Path, help="header to write in place of a bundle")
+    parser.add_argument("--namespace", help="namespace of that header")
     parser.add_argument("--depfile", type=Path, help="file to write with all that was read")
     return parser.parse_args()
 
@@ -49,7 +56,7 @@ def parse_options():
 def compile_bundle(options):
     manifest = read_manifest(options.source)
     code = source_files(options.code)
-    errors = usage_errors(manifest, code) if options.code else []
+    errors = list(usage_errors(manifest, code)) if options.code else []
     if errors:
         raise AssetError(errors)
     bitmaps = render_images(manifest.images, options.output)
@@ -65,12 +72,13 @@ def compiled(manifest):
     """The manifest as the application reads it: files by scale in place of the drawing."""
     images = []
     for image in manifest.images:
-        entry = {key: value for key, value in image.entry.items() if key != "source"}
+        entry = {key: value for key, value in image.entry.items() if key not in ("source", UNREAD)}
         entry["files"] = {str(scale): file for scale, file in image.files().items()}
         if image.light:
             entry["lightFiles"] = {str(scale): file for scale, file in image.light_files().items()}
         images.append(entry)
-    return {"colors": manifest.colors, "images": images}
+    colors = [{key: value for key, value in entry.items() if key != UNREAD} for entry in manifest.colors]
+    return {"colors": colors, "images": images}
 
 
 def render_images(images, bundle):

@@ -16,6 +16,7 @@ COLOR_SPACES = ("srgb", "display-p3")
 RESIZING_MODES = ("stretch", "tile")
 COLOR_KEYS = {"name", "light", "dark", "space", "comment"}
 IMAGE_KEYS = {"name", "source", "size", "capInsets", "resizing", "template", "comment"}
+UNREAD = "unread"  # the reason of an asset that the module's own code does not read
 SVG_NAMESPACE = "{http://www.w3.org/2000/svg}"
 
 
@@ -111,7 +112,9 @@ def _check_names(kind, entries):
 
 def _key_errors(entry, keys):
     yield from (f"has no \"{key}\"" for key in sorted(keys - set(entry)))
-    yield from (f"unknown key \"{key}\"" for key in sorted(set(entry) - keys))
+    yield from (f"unknown key \"{key}\"" for key in sorted(set(entry) - keys - {UNREAD}))
+    if not isinstance(entry.get(UNREAD, "-"), str) or not entry.get(UNREAD, "-"):
+        yield f"{UNREAD} must give a reason"
 
 
 def _color_errors(entry):

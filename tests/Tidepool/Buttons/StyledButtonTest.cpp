@@ -1,8 +1,8 @@
 #include "Tidepool/Buttons/StyledButton.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Buttons/DarkHighlightButton.h"
 #include "Tidepool/Buttons/StyledCheckBox.h"
 #include "Tidepool/Buttons/VantorPushButton.h"
-#include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPImages.h"
 #include "Tidepool/Styles/Validating.h"
 #include "tests/support/AllocationCounter.h"
@@ -156,7 +156,7 @@ TEST(StyledButtonCell, TemplatesHaveTheTextColorOfTheSetInForceAndAreDimmedOnce)
     for (platform::PushButton* const button : std::initializer_list<platform::PushButton*>{&styled, &plain}) {
         SCOPED_TRACE(button->metaObject()->className());
         button->setBordered(false);
-        button->setImage(OrganiserImages::iconDisclose);
+        button->setImage(Images::organiserIconDisclose);
         button->setImagePosition(ImagePosition::imageOnly);
         button->resize(30, 30);
         const QRgb usual = strongest(*button);

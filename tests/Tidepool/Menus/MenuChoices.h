@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Tidepool/Assets.h"
 #include "Tidepool/Menus/EnumPresentation.h"
 #include "Tidepool/Menus/MenuStructure.h"
-#include "Tidepool/Palette/AssetResources.h"
 
 #include <QStringList>
 
@@ -23,8 +23,7 @@ struct tidepool::Presentation<Waveform> : tidepool::EnumPresentation<Waveform> {
     }
 
     static platform::Image image(Waveform value) {
-        return value == Waveform::noise ? tidepool::imageAsset("organiser-icon-star").image()
-                                        : platform::Image();
+        return value == Waveform::noise ? tidepool::Images::organiserIconStar.image() : platform::Image();
     }
 };
 

@@ -1,8 +1,8 @@
 #include "Tidepool/Palette/ColorDescription.h"
-#include "Tidepool/Palette/ControlAssets.h"
 #include "Tidepool/Palette/TPColors.h"
 #include "Tidepool/Palette/TPImages.h"
 
+#include "Platform/Core/Bundle.h"
 #include "Platform/Graphics/Appearance.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ TEST(Palette, ColorsAreThoseOfTheirAssets) {
           Member{TPColors::grey20, 0xff30323b}, Member{TPColorsAK::grey50, 0xff7d808c},
           Member{TPColorsAK::grey85, 0xffd7d9e1}, Member{TPColors::grey100, 0xffffffff},
           Member{TPColors::Vantor::lightBlue, 0xff86b6ff}, Member{TPColors::Vantor::darkPurple, 0xff4f35b5},
-          Member{tidepool::SignalColors::error, 0xffff5a4d}}) {
+          Member{TPColors::error, 0xffff5a4d}}) {
         EXPECT_EQ(color.color().rgba(), dark) << color.name;
         EXPECT_EQ(&color.color(), &color.color()) << "reads give one object";
     }
@@ -50,8 +50,8 @@ TEST(Palette, EveryColorFollowsTheAppearance) {
                               TPColors::Vantor::purple,
                               TPColors::Vantor::red,
                               TPColors::Vantor::yellow,
-                              tidepool::SignalColors::error,
-                              tidepool::SignalColors::systemHighlight}) {
+                              TPColors::error,
+                              TPColors::Highlight::system}) {
         const QColor dark = color.color();
         platform::setAppearance(platform::Appearance::light);
         const QColor light = color.color();

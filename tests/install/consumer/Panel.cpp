@@ -6,7 +6,7 @@
 #include <Tidepool/Buttons/StyledCheckBox.h>
 #include <Tidepool/Events/ControlPublishers.h>
 #include <Tidepool/Palette/TPColors.h>
-#include <Tidepool/Styles/KitStyles.h>
+#include <Tidepool/Styles/StyleSet.h>
 
 #include <QVBoxLayout>
 

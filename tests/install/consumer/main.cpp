@@ -1,7 +1,7 @@
 // Uses one thing of each installed module, as a plug-in maker's program would.
 #include "Panel.h"
 
-#include <Chorale/AssetResources.h>
+#include <Chorale/Assets.h>
 #include <Chorale/RocketFontModifier.h>
 #include <Tidepool/Palette/TPColors.h>
 #include <Tidepool/Palette/TPImages.h>
@@ -38,7 +38,6 @@ int main(int argc, char** argv) {
     label.show();
     const bool complete = tidepool::TPColors::grey85.color().isValid() &&
                           !tidepool::TPImages::button.image().bitmap({60, 24}, 2).isNull() &&
-                          chorale::EditorAssets::background.color().isValid() &&
-                          effect.metalKitView() != nullptr;
+                          chorale::Colors::background.color().isValid() && effect.metalKitView() != nullptr;
     return complete && panelWorks() ? 0 : 1;
 }
