@@ -3,7 +3,7 @@
 namespace tidepool {
 
 TableViewStyle::TableViewStyle() {
-    setBackgroundColor(rowBackgroundColor());
+    setBackgroundColor(Styles::TableRow::background);
     setTextColor(Styles::TableRow::text);
 }
 

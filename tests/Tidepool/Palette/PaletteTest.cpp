@@ -3,63 +3,13 @@
 #include "Tidepool/Palette/TPImages.h"
 
 #include "Platform/Core/Bundle.h"
-#include "Platform/Graphics/Appearance.h"
 
 #include <gtest/gtest.h>
 
 using tidepool::colorDescription;
 using tidepool::TPColors;
-using tidepool::TPColorsAK;
 using tidepool::TPImages;
 using tidepool::TPImagesAK;
-
-TEST(Palette, ColorsAreThoseOfTheirAssets) {
-    struct Member {
-        const platform::ColorResource& color;
-        QRgb dark;
-    };
-
-    for (const auto& [color, dark] :
-         {Member{TPColors::Background::normal, 0xff1d1d2c}, Member{TPColors::Background::darkest, 0xff0f0f18},
-          Member{TPColors::grey20, 0xff30323b}, Member{TPColorsAK::grey50, 0xff7d808c},
-          Member{TPColorsAK::grey85, 0xffd7d9e1}, Member{TPColors::grey100, 0xffffffff},
-          Member{TPColors::Vantor::lightBlue, 0xff86b6ff}, Member{TPColors::Vantor::darkPurple, 0xff4f35b5},
-          Member{TPColors::error, 0xffff5a4d}}) {
-        EXPECT_EQ(color.color().rgba(), dark) << color.name;
-        EXPECT_EQ(&color.color(), &color.color()) << "reads give one object";
-    }
-}
-
-TEST(Palette, EveryColorFollowsTheAppearance) {
-    for (const auto& color : {TPColors::Background::normal,
-                              TPColors::Background::darker,
-                              TPColors::Background::darkest,
-                              TPColors::grey20,
-                              TPColors::grey30,
-                              TPColors::grey40,
-                              TPColors::grey50,
-                              TPColors::grey60,
-                              TPColors::grey70,
-                              TPColors::grey85,
-                              TPColors::grey100,
-                              TPColors::Vantor::aqua,
-                              TPColors::Vantor::blue,
-                              TPColors::Vantor::darkPurple,
-                              TPColors::Vantor::lightBlue,
-                              TPColors::Vantor::orange,
-                              TPColors::Vantor::purple,
-                              TPColors::Vantor::red,
-                              TPColors::Vantor::yellow,
-                              TPColors::error,
-                              TPColors::Highlight::system}) {
-        const QColor dark = color.color();
-        platform::setAppearance(platform::Appearance::light);
-        const QColor light = color.color();
-        platform::setAppearance(platform::Appearance::dark);
-        EXPECT_TRUE(dark.isValid() && light.isValid()) << color.name;
-        EXPECT_NE(dark, light) << color.name;
-    }
-}
 
 TEST(Palette, ImagesAreThoseOfTheirAssets) {
     struct Member {

@@ -1,11 +1,7 @@
 #include "Tidepool/Styles/ButtonCellStyle.h"
-#include "Tidepool/Styles/CheckBoxCellStyle.h"
 #include "Tidepool/Styles/PopUpButtonCellStyles.h"
-#include "Tidepool/Styles/SegmentedCellStyle.h"
-#include "Tidepool/Styles/SliderCellStyle.h"
 #include "Tidepool/Styles/TableViewStyle.h"
 #include "Tidepool/Styles/TextFieldCellStyle.h"
-#include "Tidepool/Styles/ToolButtonCellStyles.h"
 #include "Tidepool/Styles/WindowStyle.h"
 
 #include <gtest/gtest.h>
@@ -29,13 +25,6 @@ ControlStyle colorful() {
     style.setHighlightedBackgroundColor(QColor(0, 4, 0));
     style.setInvalidBackgroundColor(QColor(0, 5, 0));
     return style;
-}
-
-bool areComplete(const StateImages& images) {
-    for (const auto& [state, image] : images.entries())
-        if (image.isNull() || image.bitmap(image.size(), 2).isNull())
-            return false;
-    return true;
 }
 
 class AccentStyle : public ButtonCellStyle {
@@ -85,18 +74,4 @@ TEST(ControlStyle, SubclassesStartFromTheirParents) {
     const OutlineViewStyle outline;
     EXPECT_EQ(outline.backgroundColor(), outline.rowBackgroundColor());
     EXPECT_EQ(PopoverStyle().padding(), QSizeF(10, 6));
-}
-
-TEST(ControlStyle, EveryImageOfEveryStyleExists) {
-    for (const auto& images :
-         {ButtonCellStyle().bezelImages(), PopUpButtonCellStyle().bezelImages(),
-          ComboBoxStyle().bezelImages(), StyledPopDownButtonCellStyle().bezelImages(),
-          ToolPopUpButtonCellStyle().bezelImages(), ToolButtonCellStyle().bezelImages(),
-          CheckBoxCellStyle().buttonImages(), FavouriteCheckBoxCellStyle().buttonImages(),
-          SegmentedCellStyle().bezelImages(), SliderCellStyle().barImages(), SliderCellStyle().knobImages(),
-          TextFieldCellStyle().bezelImages(), HeaderTextFieldStyle().bezelImages(),
-          SearchFieldCellStyle().bezelImages()}) {
-        EXPECT_FALSE(images.entries().empty());
-        EXPECT_TRUE(areComplete(images));
-    }
 }
