@@ -4,7 +4,9 @@ import re
 import unittest
 
 ROOT = pathlib.Path(__file__).parents[2]
-BUILT = [ROOT / "tests/install/consumer", ROOT / "Plugin/Editor"]
+BUILT = [ROOT / folder for folder in (
+    "tests/install/consumer", "tests/Tidepool/Buttons", "Plugin/Editor", "Gallery/Pages",
+    "Tidepool/Buttons", "Tidepool/Styles")]
 
 
 def without_space(text):
@@ -14,7 +16,7 @@ def without_space(text):
 class DocumentedCode(unittest.TestCase):
     def test_is_built(self):
         built = [without_space(path.read_text()) for folder in BUILT for path in sorted(folder.iterdir())]
-        for document in ("tidepool.md", "chorale.md"):
+        for document in ("adding-a-control.md", "tidepool.md", "chorale.md"):
             text = (ROOT / "docs" / document).read_text()
             blocks = re.findall(r"^```(?:cpp|cmake)\n(.*?)^```$", text, re.M | re.S)
             self.assertGreater(len(blocks), 3)
