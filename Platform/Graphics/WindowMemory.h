@@ -16,6 +16,10 @@ class QRectF;
 /// painter would do no more than put pixels there, they are written without it. Where it would do more, clip,
 /// turn, mix or scale, these functions refuse, and their callers use a painter. Both roads give the same
 /// pixels, which `WindowMemoryTest` holds. Main thread.
+///
+/// What it gains (`benchmarks/run memory`): pictures of a button's size are drawn 1.2 to 1.3 times as fast at
+/// one pixel a point and 1.4 to 1.5 times at two, and frames of 400 by 300 points 1.03 to 1.06 times, with
+/// all that a processor does to draw them.
 namespace platform {
 
 /// While one lives the door is closed, and all is drawn by painters: the road to compare with.
