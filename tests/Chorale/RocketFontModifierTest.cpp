@@ -55,16 +55,6 @@ TEST_F(RocketFontModifierTest, WithoutTheFaceTheDesktopsFontStandsIn) {
     EXPECT_EQ(QFontInfo(font).pixelSize(), 20);
 }
 
-TEST(ChoraleBundle, HasTheEditorsAssets) {
-    using chorale::EditorAssets;
-    for (const auto& color :
-         {EditorAssets::background, EditorAssets::tabSelected, EditorAssets::tabUnselected,
-          EditorAssets::updateBackground, EditorAssets::versionInfo})
-        EXPECT_TRUE(color.color().isValid()) << color.name;
-    EXPECT_TRUE(EditorAssets::quillfenLogo.image().isTemplate());
-    EXPECT_EQ(EditorAssets::quillfenLogo.image().size(), QSizeF(92, 24));
-}
-
 TEST(ChoraleBundle, IsRequired) {
     EXPECT_DEATH(
         {

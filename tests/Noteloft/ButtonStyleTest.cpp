@@ -1,22 +1,15 @@
 #include "Noteloft/DefaultVantorButtonStyle.h"
-#include "Noteloft/InterFontModifier.h"
 #include "Noteloft/QuillfenButtonStyle.h"
 #include "Noteloft/ResourceBundle.h"
-#include "Tidepool/Palette/TPColors.h"
-#include "Tidepool/Palette/TPImages.h"
 #include "tests/support/Pixels.h"
 
-#include <QFontInfo>
 #include <QPainter>
 
 #include <gtest/gtest.h>
 
-using noteloft::Assets;
 using noteloft::DefaultVantorButtonStyle;
 using noteloft::QuillfenButtonStyle;
 using platform::ButtonConfiguration;
-using tidepool::TPColorsAK;
-using tidepool::TPImages;
 
 namespace {
 
@@ -37,38 +30,7 @@ QRgb middle(const QImage& image) {
     return image.pixel(image.width() / 2, image.height() / 2);
 }
 
-QRgb rgb(const QColor& color) {
-    return color.rgb();
-}
-
 } // namespace
-
-TEST(ButtonStyle, LinkButtonSwapsImageAndColorWhilePressed) {
-    const QuillfenButtonStyle style;
-    EXPECT_EQ(difference(paint(style, {{}, frame}), Assets::button.image().bitmap(frame.size(), 1)), 0);
-    EXPECT_EQ(difference(paint(style, {{}, frame, true}), Assets::buttonDown.image().bitmap(frame.size(), 1)),
-              0);
-    EXPECT_GT(difference(paint(style, {{}, frame}), paint(style, {{}, frame, true})), 8);
-    EXPECT_LE(difference(middle(paint(style, {label, frame})), rgb(Assets::buttonText.color())), 1);
-    EXPECT_LE(difference(middle(paint(style, {label, frame, true})), rgb(Assets::labels.color())), 1);
-    EXPECT_EQ(style.size({180, 17}), QSizeF(180, 24));
-    EXPECT_EQ(style.overhang(), 2);
-    EXPECT_EQ(style.font().pixelSize(), 12);
-    EXPECT_EQ(style.font().weight(), QFont::Bold);
-}
-
-TEST(ButtonStyle, KitButtonSwapsImageAndColorWhilePressed) {
-    const DefaultVantorButtonStyle style;
-    EXPECT_EQ(difference(paint(style, {{}, frame}), TPImages::button.image().bitmap(frame.size(), 1)), 0);
-    EXPECT_EQ(
-        difference(paint(style, {{}, frame, true}), TPImages::buttonDown.image().bitmap(frame.size(), 1)), 0);
-    EXPECT_LE(difference(middle(paint(style, {label, frame})), rgb(TPColorsAK::grey85.color())), 1);
-    EXPECT_LE(difference(middle(paint(style, {label, frame, true})), rgb(TPColorsAK::grey50.color())), 1);
-    EXPECT_EQ(style.size({60, 17}), QSizeF(60, 24));
-    EXPECT_EQ(style.overhang(), 2);
-    EXPECT_EQ(style.font().pixelSize(), 11);
-    EXPECT_EQ(style.font().weight(), QFont::Normal);
-}
 
 TEST(ButtonStyle, DisabledKitButtonHasALabelOfHalfOpacity) {
     const DefaultVantorButtonStyle style;
@@ -89,12 +51,4 @@ TEST(ButtonStyle, BothMarkTheFocus) {
          {static_cast<const platform::ButtonStyle*>(&link), static_cast<const platform::ButtonStyle*>(&kit)})
         EXPECT_GT(difference(paint(*style, {label, frame, false, true, true}), paint(*style, {label, frame})),
                   60);
-}
-
-TEST(InterFontModifier, SetsSizeAndWeight) {
-    QWidget widget;
-    noteloft::interFont(widget, 17, QFont::DemiBold);
-    EXPECT_EQ(widget.font().families().constFirst(), QStringLiteral("Inter"));
-    EXPECT_EQ(widget.font().weight(), QFont::DemiBold);
-    EXPECT_EQ(QFontInfo(widget.font()).pixelSize(), 17);
 }
