@@ -50,8 +50,8 @@ void GpuDrawable::present() {
         glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
     }
     ++m_frames;
-    m_isImageOld = m_destination != nullptr;
-    if (m_destination != nullptr)
+    m_isImageOld = m_destination.has_value();
+    if (m_destination)
         read(*m_destination);
     else
         readImage();
@@ -70,26 +70,27 @@ void GpuDrawable::readImage() {
         m_image = QImage(m_size, QImage::Format_RGB32);
         m_image.fill(Qt::black);
     }
-    read(m_image);
+    read({reinterpret_cast<QRgb*>(m_image.bits()), m_image.bytesPerLine() / bytesPerPixel, m_size});
 }
 
-void GpuDrawable::read(QImage& pixels) {
+void GpuDrawable::read(const PixelRows& pixels) {
     if (m_late) {
         readLate(pixels);
         return;
     }
     glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
-    glPixelStorei(GL_PACK_ROW_LENGTH, static_cast<int>(pixels.bytesPerLine() / bytesPerPixel));
-    glReadPixels(0, 0, m_size.width(), m_size.height(), GL_RGBA, GL_UNSIGNED_BYTE, pixels.bits());
+    glPixelStorei(GL_PACK_ROW_LENGTH, static_cast<int>(pixels.stride));
+    glReadPixels(0, 0, m_size.width(), m_size.height(), GL_RGBA, GL_UNSIGNED_BYTE, pixels.first);
 }
 
-void GpuDrawable::readLate(QImage& pixels) {
+void GpuDrawable::readLate(const PixelRows& pixels) {
     // The first frame is waited for, so that a view never shows an empty picture.
     glBindBuffer(GL_PIXEL_PACK_BUFFER, m_pixelBuffers[m_frames == 1 ? 0 : m_frames % 2]);
     if (const void* frame = glMapBuffer(GL_PIXEL_PACK_BUFFER, GL_READ_ONLY); frame != nullptr) {
         const auto rowLength = static_cast<std::size_t>(m_size.width()) * bytesPerPixel;
         for (int row = 0; row < m_size.height(); ++row)
-            std::memcpy(pixels.scanLine(row), static_cast<const char*>(frame) + row * rowLength, rowLength);
+            std::memcpy(pixels.first + row * pixels.stride, static_cast<const char*>(frame) + row * rowLength,
+                        rowLength);
         glUnmapBuffer(GL_PIXEL_PACK_BUFFER);
     }
     glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);

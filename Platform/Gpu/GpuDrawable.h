@@ -1,12 +1,14 @@
 #pragma once
 
 #include "Platform/Gpu/ScreenEncoding.h"
+#include "Platform/Graphics/WindowMemory.h"
 
 #include <QImage>
 #include <QSize>
 
 #include <array>
 #include <memory>
+#include <optional>
 
 namespace platform {
 
@@ -37,9 +39,8 @@ public:
     /// How many have been presented.
     std::size_t frames() const { return m_frames; }
 
-    /// Where `present` writes the frame: 32-bit pixels of the drawable's size, which are made opaque. Null
-    /// for the drawable's own image.
-    void setDestination(QImage* pixels) { m_destination = pixels; }
+    /// Where `present` writes the frame, in place of the drawable's own image: pixels of its size.
+    void setDestination(const std::optional<PixelRows>& pixels) { m_destination = pixels; }
 
     /// Reads the frame back. Inside a scope of the context.
     void present();
@@ -49,8 +50,8 @@ public:
     QImage image();
 
 private:
-    void read(QImage& pixels);
-    void readLate(QImage& pixels);
+    void read(const PixelRows& pixels);
+    void readLate(const PixelRows& pixels);
     void readImage();
 
     std::shared_ptr<GpuDevice> m_device;
@@ -61,7 +62,7 @@ private:
     std::array<unsigned, 2> m_pixelBuffers{};
     std::size_t m_frames = 0;
     bool m_late;
-    QImage* m_destination = nullptr;
+    std::optional<PixelRows> m_destination;
     QImage m_image;
     bool m_isImageOld = false; // the frame went to the destination
 };

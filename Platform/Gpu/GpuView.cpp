@@ -2,7 +2,6 @@
 
 #include "Platform/Core/MainThread.h"
 #include "Platform/Gpu/GpuDevice.h"
-#include "Platform/Graphics/DevicePixels.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -99,36 +98,28 @@ void GpuView::paintEvent(QPaintEvent* event) {
     setAttribute(Qt::WA_OpaquePaintEvent, isShown || !picture.isNull());
 }
 
-// The window's memory behind the view, found without beginning a painter for each frame; null unless all of
-// the view may be painted, and pixel for pixel.
-QImage GpuView::pixelsBehind(const QPaintEvent& event) const {
+// Found without beginning a painter for each frame; none unless all of the view may be painted.
+std::optional<PixelRows> GpuView::pixelsBehind(const QPaintEvent& event) const {
     QPoint origin;
     const auto* const device = redirected(&origin);
     if (sharedPainter() != nullptr || device == nullptr || event.rect() != rect() ||
         event.region().rectCount() != 1)
-        return {};
-    const auto memory = pictureMemory(*device);
-    const qreal scale = device->devicePixelRatioF();
-    const QRectF place(-QPointF(origin) * scale, QSizeF(size()) * scale);
-    const QRect pixels = place.toRect();
-    if (!memory || QRectF(pixels) != place || !memory->bounds.contains(pixels))
-        return {};
-    QRgb* const first = memory->pixels + pixels.y() * memory->stride + pixels.x();
-    return {reinterpret_cast<uchar*>(first), pixels.width(), pixels.height(),
-            memory->stride * static_cast<qsizetype>(sizeof(QRgb)), QImage::Format_RGB32};
+        return std::nullopt;
+    return windowPixels(*device, QRectF(-QPointF(origin), QSizeF(size())));
 }
 
 // True if the frame is where the painter would put it already.
 bool GpuView::drawFrame(const QPaintEvent& event) {
-    QImage pixels = m_drawable ? pixelsBehind(event) : QImage();
+    auto pixels = m_drawable ? pixelsBehind(event) : std::nullopt;
+    if (pixels && pixels->size != m_drawable->size())
+        pixels.reset();
     const std::size_t before = m_drawable ? m_drawable->frames() : 0;
-    const bool isDirect = !pixels.isNull() && pixels.size() == m_drawable->size();
-    if (isDirect)
-        m_drawable->setDestination(&pixels);
+    if (pixels)
+        m_drawable->setDestination(pixels);
     m_delegate->draw(*this);
-    if (!isDirect || !m_drawable)
+    if (!pixels || !m_drawable)
         return false;
-    m_drawable->setDestination(nullptr);
+    m_drawable->setDestination(std::nullopt);
     return m_drawable->frames() != before;
 }
 

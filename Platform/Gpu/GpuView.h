@@ -77,7 +77,7 @@ protected:
 
 private:
     void updateDrawable();
-    QImage pixelsBehind(const QPaintEvent& event) const;
+    std::optional<PixelRows> pixelsBehind(const QPaintEvent& event) const;
     bool drawFrame(const QPaintEvent& event);
     void updateTimer();
     void waitForNextFrame();

@@ -2,97 +2,17 @@
 
 #include "Platform/Graphics/DevicePixels.h"
 
-#include <QPainter>
-
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <utility>
-
-// Sanitizers are not ready when the loader chooses among clones.
-#if defined(__x86_64__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-#define NOTELOFT_VECTOR_CLONES [[gnu::target_clones("avx2", "default")]]
-#else
-#define NOTELOFT_VECTOR_CLONES
-#endif
 
 namespace platform {
 
 namespace {
 
-/// So many pixels are blended at once, in vectors that the compiler knows for any processor.
-constexpr int group = 8;
-using Pixels [[gnu::vector_size(4 * group)]] = std::uint32_t;
-using Channels [[gnu::vector_size(4 * group)]] = std::uint16_t;
+constexpr int group = blendedTogether;
 
 constexpr int wholeGroups(int pixels) {
     return (pixels + group - 1) / group * group;
-}
-
-/// A constant count makes each copy a single instruction.
-template <std::size_t count>
-[[gnu::always_inline]] inline void blendSome(const QRgb* source, QRgb* target) {
-    Pixels from{};
-    Pixels to{};
-    std::memcpy(&from, source, count * sizeof(QRgb));
-    std::memcpy(&to, target, count * sizeof(QRgb));
-    const Pixels transparency = ~from >> 24;
-    const auto factors = reinterpret_cast<Channels>(transparency | transparency << 16);
-    Channels redBlue = reinterpret_cast<Channels>(to & 0xff00ff) * factors;
-    Channels alphaGreen = (reinterpret_cast<Channels>(to) >> 8) * factors;
-    // Divided by 255, rounded as Qt does it.
-    redBlue = (redBlue + (redBlue >> 8) + 128) >> 8;
-    alphaGreen = (alphaGreen + (alphaGreen >> 8) + 128) & 0xff00;
-    to = from + reinterpret_cast<Pixels>(redBlue | alphaGreen);
-    std::memcpy(target, &to, count * sizeof(QRgb));
-}
-
-[[gnu::always_inline]] inline void blend(const QRgb* source, QRgb* target, int count) {
-    for (; count >= group; count -= group, source += group, target += group)
-        blendSome<group>(source, target);
-    for (; count > 0; --count, ++source, ++target)
-        blendSome<1>(source, target);
-}
-
-void copy(const QRgb* source, QRgb* target, int count) {
-    if (count > 0)
-        std::memcpy(target, source, static_cast<std::size_t>(count) * sizeof(QRgb));
-}
-
-/// Asks for memory that is written soon.
-void fetch(const QRgb* pixels, int count) {
-    constexpr int inLine = 16;
-    for (int x = 0; x < count; x += inLine)
-        __builtin_prefetch(pixels + x, 1);
-}
-
-struct Source {
-    const PictureRow* rows;
-    const QRgb* pixels;
-    qsizetype stride;
-};
-
-/// Draws `part` of the source over a target whose first pixel is `to`, both with strides in pixels.
-NOTELOFT_VECTOR_CLONES void drawRows(const Source& source, const QRect& part, QRgb* to, qsizetype stride) {
-    // The rows of a wide target lie so far apart that no processor fetches the next one by itself.
-    constexpr int ahead = 3;
-    const int left = part.left();
-    const int right = left + part.width();
-    const int bottom = part.top() + part.height();
-    for (int y = part.top(); y < bottom; ++y) {
-        const PictureRow& row = source.rows[y];
-        const QRgb* const from = source.pixels + y * source.stride;
-        QRgb* const target = to + y * stride;
-        const int begin = std::clamp(row.begin, left, right);
-        const int opaqueBegin = std::clamp(row.opaqueBegin, left, right);
-        const int opaqueEnd = std::clamp(row.opaqueEnd, left, right);
-        const int end = std::clamp(row.end, left, right);
-        if (y + ahead < bottom)
-            fetch(target + ahead * stride + begin, end - begin);
-        blend(from + begin, target + begin, opaqueBegin - begin);
-        copy(from + opaqueBegin, target + opaqueBegin, opaqueEnd - opaqueBegin);
-        blend(from + opaqueEnd, target + opaqueEnd, end - opaqueEnd);
-    }
 }
 
 PictureRow partsOf(const QRgb* row, int width) {
@@ -130,17 +50,8 @@ PreparedPicture::PreparedPicture(QImage image)
 }
 
 void PreparedPicture::draw(QPainter& painter, QPointF origin) const {
-    const auto memory = paintedMemory(painter, m_image.devicePixelRatio());
-    if (!memory) {
+    if (!drawIntoWindow(painter, origin, m_image, m_rows))
         drawPixels(painter, origin, m_image);
-        return;
-    }
-    const QPoint position = painter.deviceTransform().map(origin).toPoint();
-    const QRect part = QRect(position, m_image.size()) & memory->bounds;
-    const auto* const own = reinterpret_cast<const QRgb*>(m_image.constBits());
-    drawRows({m_rows.data(), own, m_image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))},
-             part.translated(-position), memory->pixels + position.y() * memory->stride + position.x(),
-             memory->stride);
 }
 
 } // namespace platform

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Graphics/WindowMemory.h"
+
 #include <QImage>
 #include <QPointF>
 
@@ -8,11 +10,6 @@
 class QPainter;
 
 namespace platform {
-
-/// Where the parts of a picture's row begin and end, in pixels. There is nothing outside.
-struct PictureRow {
-    int begin, opaqueBegin, opaqueEnd, end;
-};
 
 /// A picture that is drawn often, pixel for pixel. Where its rows are opaque it is only copied. Main thread.
 class PreparedPicture {

@@ -12,7 +12,7 @@ namespace platform {
 /// `http://www.andymatuschak.org/xml-namespaces/sparkle`.
 struct Appcast {
     /// In bytes. A longer feed is refused.
-    static constexpr qsizetype maximumSize = 1024 * 1024;
+    static constexpr qsizetype maximumSize = qsizetype{1024} * 1024;
 
     /// Items without a version are left out.
     QList<AppcastItem> items;

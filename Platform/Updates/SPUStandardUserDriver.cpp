@@ -6,6 +6,7 @@
 #include "Platform/Windows/Browser.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QPushButton>
 
 namespace platform {
@@ -61,18 +62,18 @@ void SPUStandardUserDriver::showUpdateFound(const AppcastItem& update) {
             .arg(productName(), update.displayVersion, productVersion());
     replaceDialog(QStringLiteral("A new version of %1 is available!").arg(productName()), information);
     if (!update.isInformational)
-        addLink(QStringLiteral("Download…"), QMessageBox::AcceptRole, update.downloadUrl);
-    addLink(QStringLiteral("Learn More…"), QMessageBox::AcceptRole,
+        addLink(QStringLiteral("Download…"), update.downloadUrl);
+    addLink(QStringLiteral("Learn More…"),
             update.releaseNotesUrl.isEmpty() ? update.link : update.releaseNotesUrl);
     m_dialog->setEscapeButton(
         m_dialog->addButton(QStringLiteral("Remind Me Later"), QMessageBox::RejectRole));
     m_dialog->show();
 }
 
-void SPUStandardUserDriver::addLink(const QString& title, QMessageBox::ButtonRole role, const QUrl& url) {
+void SPUStandardUserDriver::addLink(const QString& title, const QUrl& url) {
     if (url.isEmpty())
         return;
-    const QPushButton* button = m_dialog->addButton(title, role);
+    const QPushButton* button = m_dialog->addButton(title, QMessageBox::AcceptRole);
     connect(button, &QPushButton::clicked, this, [url] { openInBrowser(url); });
 }
 
@@ -84,6 +85,10 @@ void SPUStandardUserDriver::showUpdateNotFound() {
 
 void SPUStandardUserDriver::showUpdaterError(const UpdateError& error) {
     showMessage(error.message, error.advice);
+}
+
+bool SPUStandardUserDriver::isChecking() const {
+    return m_isChecking && m_dialog && m_dialog->isVisible();
 }
 
 void SPUStandardUserDriver::showInFront() {

@@ -3,11 +3,12 @@
 #include "Platform/Updates/AppcastItem.h"
 #include "Platform/Updates/UpdateError.h"
 
-#include <QMessageBox>
 #include <QObject>
 #include <QPointer>
 
 #include <functional>
+
+class QMessageBox;
 
 namespace platform {
 
@@ -29,7 +30,7 @@ public:
     void showUpdaterError(const UpdateError& error);
 
     /// True while the dialog of a check that runs is shown.
-    bool isChecking() const { return m_isChecking && m_dialog && m_dialog->isVisible(); }
+    bool isChecking() const;
 
     /// Brings the dialog that is shown before the other windows.
     void showInFront();
@@ -37,7 +38,7 @@ public:
 private:
     QMessageBox& replaceDialog(const QString& text, const QString& information);
     void showMessage(const QString& text, const QString& information);
-    void addLink(const QString& title, QMessageBox::ButtonRole role, const QUrl& url);
+    void addLink(const QString& title, const QUrl& url);
 
     SPUStandardUserDriverDelegate* m_delegate;
     QPointer<QMessageBox> m_dialog;

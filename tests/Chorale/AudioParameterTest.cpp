@@ -1,6 +1,5 @@
 #include "Chorale/AudioParameter.h"
 
-#include "Chorale/SafeElement.h"
 #include "Platform/AudioUnits/HostTime.h"
 #include "Platform/Display/DisplayQueue.h"
 
@@ -199,64 +198,4 @@ TEST_F(AudioParameterTest, ModelMayGoAwayWhileItsValueIsOnTheWay) {
     turn();
     EXPECT_TRUE(watched.expired());
     EXPECT_EQ(m_changes.count(), 1);
-}
-
-TEST(AudioParameterFlags, FollowFromWhatTheParameterHas) {
-    const QStringList names{QStringLiteral("a"), QStringLiteral("b")};
-    const auto flags = [](const std::shared_ptr<AudioParameter>& made) {
-        return made->auParameter()->flags();
-    };
-    EXPECT_EQ(flags(parameter(AudioUnitParameterUnit::decibels, names, QList<std::uint64_t>{3})),
-              0xD230'0000);
-    EXPECT_EQ(flags(parameter()), 0xC000'0000);
-    EXPECT_EQ(flags(parameter(AudioUnitParameterUnit::generic, QStringList(), QList<std::uint64_t>())),
-              0xC000'0000);
-    for (std::uint32_t unit = 0; unit <= 64; ++unit) {
-        const bool canRamp = unit == 13 || unit == 14 || unit == 20;
-        EXPECT_EQ(flags(parameter(static_cast<AudioUnitParameterUnit>(unit))),
-                  canRamp ? 0xC200'0000 : 0xC000'0000)
-            << unit;
-    }
-}
-
-TEST(AudioParameterHostParameter, HasWhatTheModelHas) {
-    const auto plain = parameter(AudioUnitParameterUnit::seconds)->auParameter();
-    EXPECT_EQ(plain->identifier(), QStringLiteral("level"));
-    EXPECT_EQ(plain->displayName(), QStringLiteral("Level"));
-    EXPECT_EQ(plain->minValue(), -10);
-    EXPECT_EQ(plain->maxValue(), 100);
-    EXPECT_EQ(plain->value(), 5);
-    EXPECT_EQ(plain->unitName(), QString()) << "seconds have no suffix, which is an empty name";
-    EXPECT_FALSE(plain->valueStrings());
-    EXPECT_FALSE(plain->dependentParameters());
-    const auto empty = parameter(AudioUnitParameterUnit::milliseconds, QStringList(), QList<std::uint64_t>());
-    EXPECT_EQ(empty->auParameter()->unitName(), QStringLiteral("MS"));
-    EXPECT_TRUE(empty->auParameter()->valueStrings());
-    EXPECT_TRUE(empty->auParameter()->dependentParameters()) << "an empty list stays one";
-}
-
-TEST(AudioParameterUnits, HaveTheirSuffixesAndScales) {
-    EXPECT_EQ(parameter(AudioUnitParameterUnit::percent)->displayableSuffix(), QStringLiteral("%"));
-    EXPECT_EQ(parameter(AudioUnitParameterUnit::hertz)->displayableSuffix(), QStringLiteral("Hz"));
-    EXPECT_EQ(parameter(AudioUnitParameterUnit::decibels)->displayableSuffix(), QStringLiteral("dB"));
-    AudioParameter pitch(1, {}, {}, AudioUnitParameterUnit::absoluteCents, {0, 12'700}, 6900);
-    EXPECT_EQ(pitch.displayableValue(), 69);
-    EXPECT_EQ(69 * pitch.saveScaleFactor(), 6900);
-    EXPECT_EQ(pitch.displayScaleFactor(), 0.01F);
-}
-
-TEST(AudioParameterDummy, IsInert) {
-    const auto dummy = AudioParameter::dummyParam();
-    EXPECT_TRUE(std::isnan(dummy->percent()));
-    EXPECT_EQ(dummy->auParameter()->flags(), 0xC000'0000);
-    EXPECT_EQ(dummy->auParameter()->unit(), AudioUnitParameterUnit::customUnit);
-    dummy->setValue(1, ui, change);
-    EXPECT_TRUE(platform::DisplayQueue::shared().isEmpty());
-}
-
-TEST(SafeElement, IsAbsentOutside) {
-    const std::vector<int> numbers{4, 5};
-    EXPECT_EQ(*chorale::safeElement(numbers, 1), 5);
-    EXPECT_EQ(chorale::safeElement(numbers, 2), nullptr);
-    EXPECT_EQ(chorale::safeElement(numbers, -1), nullptr);
 }

@@ -102,26 +102,6 @@ TEST_F(DialLabelTest, EscapeRestoresAndLosingTheKeyboardIsSilent) {
     EXPECT_THAT(host.take(), IsEmpty());
 }
 
-TEST_F(DialLabelTest, CentsAreTypedAsTheyAreShown) {
-    HostWatch host(AudioUnitParameterUnit::absoluteCents, 12700, 6900);
-    EXPECT_EQ(show(host, 1).valueText(), QStringLiteral("69.0"));
-    EXPECT_EQ(m_label->valueString(), QStringLiteral("69.0"));
-    type("70");
-    EXPECT_THAT(host.take(), ElementsAre("value 7000"));
-}
-
-TEST_F(DialLabelTest, ShownInTheUsersLocaleButEditedWithAPoint) {
-    HostWatch host(AudioUnitParameterUnit::milliseconds, 100, 12.6F);
-    DialLabel& label = show(host, 2);
-    label.setLocale(QLocale(QLocale::English));
-    EXPECT_EQ(label.valueText(), QStringLiteral("12.60 MS"));
-    label.setLocale(QLocale(QLocale::German));
-    EXPECT_EQ(label.valueText(), QStringLiteral("12,60 MS"));
-    EXPECT_EQ(label.valueString(), QStringLiteral("12.60"));
-    HostWatch plain;
-    EXPECT_EQ(show(plain, 0).valueText(), QStringLiteral("5")) << "no unit, no suffix";
-}
-
 TEST_F(DialLabelTest, TheHostsChangeOverwritesWhatIsTyped) {
     HostWatch host;
     show(host, 0);

@@ -92,18 +92,6 @@ TEST_F(ParameterDialTest, EscapeTakesTheDragBackAndDestructionLetsGo) {
     EXPECT_FALSE(host.parameter->isBeingInteractivelyEdited());
 }
 
-TEST_F(ParameterDialTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
-    HostWatch host;
-    show(host);
-    press();
-    move({30, 10});
-    host.send(77);
-    EXPECT_EQ(host.parameter->value(), 15);
-    release();
-    host.send(77);
-    EXPECT_EQ(host.parameter->value(), 77);
-}
-
 TEST_F(ParameterDialTest, DragsInACircle) {
     HostWatch host;
     show(host).setDragMode(ParameterDial::DragMode::circular);

@@ -5,9 +5,6 @@
 #include "Platform/Display/RealtimeScope.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -147,12 +144,6 @@ TEST_F(ParameterSettingsTest, UnknownAddressReachesTheUnitOnly) {
     EXPECT_TRUE(m_settings->updated.empty());
 }
 
-TEST_F(ParameterSettingsTest, EmptyListOfDependentsIsNone) {
-    configure({parameter(3, {}, QList<std::uint64_t>())});
-    m_settings->setValue(8, 3, ParameterEditor::parameterObserver);
-    EXPECT_TRUE(m_settings->updated.empty());
-}
-
 TEST_F(ParameterSettingsTest, UnitMayGoAway) {
     m_settings->setupParameterTreeListeners();
     const auto level = parameter(3);
@@ -246,21 +237,4 @@ TEST_F(ParameterSettingsTest, HostGivesTexts) {
     EXPECT_EQ(value("-1e2"), -100);
     for (const char* text : {" 2.5", "2.5 ", "2.5 Hz", "", "2,5", "1,000", "0x10", "inf", "nan", "-", "+-1"})
         EXPECT_EQ(value(text), 0) << text;
-}
-
-TEST_F(ParameterSettingsTest, VersionIsTheMainBundles) {
-    const QString before = platform::Bundle::main().directory();
-    const QTemporaryDir root;
-    const auto version = [&](const char* information) {
-        QFile file(root.filePath(QStringLiteral("Info.json")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(information);
-        file.close();
-        platform::Bundle::setMainDirectory(root.path());
-        return m_settings->pluginVersion();
-    };
-    EXPECT_EQ(version(R"({"version": "1.2"})"), QStringLiteral("1.2"));
-    EXPECT_EQ(version(R"({"version": 12})"), QStringLiteral("Unknown"));
-    EXPECT_EQ(version("{}"), QStringLiteral("Unknown"));
-    platform::Bundle::setMainDirectory(before);
 }

@@ -1,19 +1,15 @@
 #include "Chorale/PluginHeaderView.h"
 
-#include "Chorale/MakerLinks.h"
 #include "Chorale/TabButton.h"
 #include "tests/Chorale/HostWatch.h"
-#include "tests/support/Browser.h"
 
 #include <QLabel>
-#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using chorale::PluginHeaderView;
 using chorale::TabButton;
-using chorale::UpdateAvailableDetails;
 using testing::ElementsAre;
 
 namespace {
@@ -63,29 +59,4 @@ TEST(PluginHeaderView, WithoutNamesUpdateOrMenuThereIsOnlyTheVersion) {
     EXPECT_EQ(header.findChildren<QAbstractButton*>().size(), 1) << "the logo";
     ASSERT_EQ(header.findChildren<QLabel*>().size(), 1);
     EXPECT_EQ(header.findChild<QLabel*>()->text(), QStringLiteral("1.0"));
-}
-
-TEST(PluginHeaderView, LinksOpenInTheBrowserAndTheMenuIsMadeOnce) {
-    const Browser browser;
-    HostWatch host;
-    int made = 0;
-    PluginHeaderView header(updatePage, QStringLiteral("1.0"), host.parameter,
-                            UpdateAvailableDetails{QStringLiteral("2.1")}, [&]() -> QWidget* {
-                                ++made;
-                                auto* const menu = new QWidget;
-                                menu->setObjectName(QStringLiteral("menu"));
-                                return menu;
-                            });
-    const auto buttons = header.findChildren<QAbstractButton*>();
-    ASSERT_EQ(buttons.size(), 2);
-    EXPECT_EQ(buttons[1]->text(), QStringLiteral("2.1 AVAILABLE"));
-    buttons[0]->click();
-    buttons[1]->click();
-    EXPECT_EQ(browser.opened, (QList<QUrl>{chorale::MakerLinks::website(), updatePage}));
-    EXPECT_EQ(made, 1);
-    header.setUpdateDetails(UpdateAvailableDetails{QStringLiteral("2.2")});
-    EXPECT_EQ(titles(header).mid(1), QStringList{QStringLiteral("2.2 AVAILABLE")}) << "found later";
-    header.setUpdateDetails(std::nullopt);
-    EXPECT_EQ(titles(header).size(), 1);
-    EXPECT_NE(header.findChild<QWidget*>(QStringLiteral("menu")), nullptr);
 }

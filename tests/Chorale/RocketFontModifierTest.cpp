@@ -56,15 +56,6 @@ TEST_F(RocketFontModifierTest, WithoutTheFaceTheDesktopsFontStandsIn) {
     EXPECT_EQ(QFontInfo(font).pixelSize(), 20);
 }
 
-TEST(ChoraleBundle, HasTheEditorsAssets) {
-    using chorale::Colors;
-    for (const auto& color : {Colors::background, Colors::tabSelected, Colors::tabUnselected,
-                              Colors::updateBackground, Colors::versionInfo})
-        EXPECT_TRUE(color.color().isValid()) << color.name;
-    EXPECT_TRUE(chorale::Images::quillfenLogo.image().isTemplate());
-    EXPECT_EQ(chorale::Images::quillfenLogo.image().size(), QSizeF(92, 24));
-}
-
 TEST(ChoraleBundle, IsRequired) {
     EXPECT_DEATH(
         {

@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QScrollArea>
@@ -93,10 +92,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(GalleryWindowTest, OpensInsideTheScreen) {
-    EXPECT_LT(m_window.height(), m_window.screen()->availableGeometry().height());
-}
 
 TEST_F(GalleryWindowTest, SearchesTitlesControlsAndKeywordsInAnyCase) {
     QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);

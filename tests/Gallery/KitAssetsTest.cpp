@@ -42,12 +42,6 @@ TEST(KitAssets, LightDrawingsHaveTheShapeOfTheDarkOnes) {
     }
 }
 
-TEST(KitAssets, ColorsAreFoundByTheirValue) {
-    EXPECT_EQ(gallery::colorName(gallery::darkColor(QStringLiteral("Grey 40%"))), QStringLiteral("Grey 40%"));
-    EXPECT_EQ(gallery::colorName(Qt::transparent), QStringLiteral("clear"));
-    EXPECT_EQ(gallery::colorName(QColor(1, 2, 3)), QStringLiteral("#010203"));
-}
-
 TEST(KitAssets, LightColorsAreLegible) {
     const QColor window = lightColor(QStringLiteral("Background/Normal"));
     const QStringList legible{QStringLiteral("Grey 50%"),  QStringLiteral("Grey 60%"),

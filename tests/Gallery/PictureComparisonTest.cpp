@@ -75,15 +75,3 @@ TEST(PictureComparison, AnotherSizeFails) {
     EXPECT_FALSE(isSame(drawing(), QImage()));
     EXPECT_EQ(PictureComparison(taller, drawing()).differing(), 120);
 }
-
-TEST(PictureComparison, TheSheetMarksWhatDiffers) {
-    QImage changed = drawing();
-    changed.setPixelColor(100, 50, Qt::green);
-    const QImage sheet = PictureComparison(changed, drawing()).sideBySide();
-    const int third = 120 + 16;
-    EXPECT_EQ(sheet.size(), QSize(3 * 120 + 32, 60));
-    EXPECT_EQ(sheet.pixelColor(100, 50), QColor(Qt::green));
-    EXPECT_EQ(sheet.pixelColor(third + 100, 50), drawing().pixelColor(100, 50));
-    EXPECT_EQ(sheet.pixelColor(2 * third + 100, 50), QColor(Qt::magenta));
-    EXPECT_LT(qGray(sheet.pixel(2 * third + 28, 28)), qGray(changed.pixel(28, 28))) << "dimmed";
-}

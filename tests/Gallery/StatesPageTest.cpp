@@ -56,23 +56,3 @@ TEST(StatesPage, ThePageGrowsAndShrinksWithIt) {
     QApplication::processEvents();
     EXPECT_EQ(view.height(), usual);
 }
-
-TEST(StatesPage, AccentReachesTheStyle) {
-    const auto selection = std::make_shared<StatesPage::Selection>();
-    const StatesPage page({.styleSet = gallery::GallerySettings::StyleSet::accent}, selection);
-    EXPECT_TRUE(texts(page).contains(QStringLiteral("Vantor/Purple"))) << "the focus ring";
-}
-
-TEST(StyleClasses, NameTheirMaps) {
-    const auto make = [](const char* name) {
-        return gallery::styleClasses()[static_cast<std::size_t>(styleClassIndex(name))].make(
-            {platform::currentAppearance()});
-    };
-    const auto slider = make("SliderCellStyle");
-    const auto maps = gallery::imageMaps(*slider);
-    ASSERT_EQ(maps.size(), 2U);
-    EXPECT_EQ(maps[0].second->image(State::defaultState)->name(), QStringLiteral("tpk-slider-alley"));
-    EXPECT_EQ(maps[1].second->image(State::mixed)->name(), QStringLiteral("tpk-slider-handle-multi"));
-    EXPECT_EQ(gallery::imageMaps(*make("CheckBoxCellStyle")).size(), 2U);
-    EXPECT_TRUE(gallery::imageMaps(*make("TextLabelCellStyle")).empty());
-}

@@ -1,7 +1,6 @@
 #include "Noteloft/AppDelegate.h"
 
 #include "Noteloft/SparkleHelper.h"
-#include "Platform/Graphics/Appearance.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -104,13 +103,4 @@ TEST_F(AppDelegateTest, WithoutAnUpdaterChecksNothing) {
     EXPECT_EQ(checksOf([this] { m_delegate.checkForUpdates(); }), 0);
     m_delegate.sparkleHelper = nullptr;
     EXPECT_EQ(checksOf([this] { m_delegate.handleURL(QStringLiteral("noteloft://openAndUpdate")); }), 0);
-}
-
-TEST_F(AppDelegateTest, LaunchMakesTheApplicationDark) {
-    platform::setAppearance(platform::Appearance::light);
-    m_delegate.applicationDidFinishLaunching(&m_delegate);
-    m_delegate.applicationDidFinishLaunching(nullptr);
-    EXPECT_EQ(platform::currentAppearance(), platform::Appearance::light) << "not the application's launch";
-    m_delegate.applicationDidFinishLaunching(qApp);
-    EXPECT_EQ(platform::currentAppearance(), platform::Appearance::dark);
 }

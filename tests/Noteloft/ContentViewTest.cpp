@@ -16,7 +16,6 @@
 
 #include <QAccessible>
 #include <QFile>
-#include <QFontInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -105,20 +104,6 @@ protected:
 
 } // namespace
 
-TEST_F(ContentViewTest, SaysWhatItHasToSay) {
-    useInformation(R"({"version": "1.2", "build": "45"})");
-    show();
-    EXPECT_EQ(texts(), (QStringList{QStringLiteral("Noteloft"),
-                                    QStringLiteral("Noteloft is now available as an Audio Unit."),
-                                    QStringLiteral("Keep this app in your applications folder."),
-                                    QStringLiteral("To use Noteloft, insert it as"),
-                                    QStringLiteral("a MIDI plugin on an instrument track."),
-                                    QStringLiteral("1.2 (45)")}));
-    EXPECT_NE(button(QStringLiteral("Help")), nullptr);
-    EXPECT_NE(button(QStringLiteral("Quillfen Website")), nullptr);
-    EXPECT_EQ(m_view->findChildren<QAbstractButton*>().size(), 2);
-}
-
 TEST_F(ContentViewTest, MissingInformationIsEmpty) {
     useInformation(R"({"version": "1.0"})");
     show();
@@ -126,34 +111,6 @@ TEST_F(ContentViewTest, MissingInformationIsEmpty) {
     useInformation("{}");
     show();
     EXPECT_TRUE(texts().contains(QStringLiteral(" ()")));
-}
-
-TEST_F(ContentViewTest, FontsAndColorsAreThoseOfEachGroup) {
-    useInformation(R"({"version": "1.2", "build": "45"})");
-    show(true);
-
-    struct Text {
-        const char16_t* text;
-        int size;
-        QFont::Weight weight;
-    };
-
-    for (const auto& [text, size, weight] :
-         {Text{u"Noteloft is now available as an Audio Unit.", 15, QFont::Bold},
-          Text{u"Keep this app in your applications folder.", 15, QFont::Bold},
-          Text{u"To use Noteloft, insert it as", 12, QFont::Medium},
-          Text{u"a MIDI plugin on an instrument track.", 12, QFont::Medium},
-          Text{u"1.2 (45)", 12, QFont::Medium}}) {
-        const auto* const each = label(QString::fromUtf16(text));
-        ASSERT_NE(each, nullptr);
-        EXPECT_EQ(each->font().pixelSize(), size);
-        EXPECT_EQ(each->font().weight(), weight);
-        EXPECT_EQ(each->palette().color(QPalette::WindowText), Colors::buttonText.color());
-        EXPECT_LE(each->sizeHint().width(), 400) << "fits in the window";
-    }
-    EXPECT_EQ(label(QStringLiteral("Noteloft"))->font().families().constFirst(), QStringLiteral("Rocket"));
-    EXPECT_EQ(label(QStringLiteral("Noteloft"))->font().pixelSize(), 36);
-    EXPECT_EQ(label(notFound)->font().weight(), QFont::Bold);
 }
 
 TEST_F(ContentViewTest, LayoutIsToThePoint) {
@@ -187,12 +144,6 @@ TEST_F(ContentViewTest, LayoutIsToThePoint) {
     const int below = 534 - (logo.bottom() + 1);
     EXPECT_GE(above, 0);
     EXPECT_LE(std::abs(above - below), 1) << "both spacers share what is left";
-}
-
-TEST_F(ContentViewTest, ButtonWidthIsThatOfTheLabels) {
-    show(false, 120);
-    EXPECT_EQ(place(button(QStringLiteral("Help"))), QRect(74, 534, 120, 24));
-    EXPECT_EQ(place(button(QStringLiteral("Quillfen Website"))).left(), 206);
 }
 
 TEST_F(ContentViewTest, DrawsItsBackgroundAndItsLogo) {
@@ -234,16 +185,6 @@ TEST_F(ContentViewTest, TitleIsWhiteOnThreeShadows) {
     EXPECT_NEAR(alphaBelow(0.5), 0.77, 0.08);
     EXPECT_NEAR(alphaBelow(1.5), 0.58, 0.08);
     EXPECT_NEAR(alphaBelow(5), 0.15, 0.06);
-}
-
-TEST_F(ContentViewTest, ButtonsOpenTheirPages) {
-    show();
-    QTest::mouseClick(button(QStringLiteral("Help")), Qt::LeftButton);
-    QTest::mouseClick(button(QStringLiteral("Quillfen Website")), Qt::LeftButton);
-    EXPECT_EQ(m_browser.opened,
-              (QList{QUrl(QStringLiteral("https://" NOTELOFT_HELP_HOST "/help/noteloft/welcome/")),
-                     QUrl(QStringLiteral(NOTELOFT_WEBSITE_URL))}));
-    EXPECT_EQ(&ContentView::helpURL(), &ContentView::helpURL());
 }
 
 TEST_F(ContentViewTest, ButtonLooksPressedWhilePressed) {

@@ -1,14 +1,37 @@
-#include "ChordTable.h"
+#include "Plugin/Chord.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <iostream>
 #include <iterator>
+#include <string>
 #include <vector>
 
 using namespace noteloft::plugin;
 using testing::ElementsAre;
+
+namespace {
+
+/// One line: what is heard when each note of the scale is played, from its root up.
+std::string chordsOnAllDegrees(const std::string& title, const Harmony& harmony) {
+    constexpr int middleC = 60;
+    constexpr int octave = 12;
+    std::string line;
+    for (int key = middleC + harmony.root; key < middleC + harmony.root + octave; ++key) {
+        if (!contains(harmony.scale, harmony.root, key))
+            continue;
+        line += line.empty() ? ": " : " | ";
+        std::string chord;
+        const ChordPitches heard(key, harmony);
+        for (const int pitch : heard.pitches())
+            chord += (chord.empty() ? "" : " ") + std::string(noteNames[pitch % octave]);
+        line += chord;
+    }
+    return title + line + '\n';
+}
+
+} // namespace
 
 TEST(Chord, SoundsLikeItsNameOnEveryDegree) {
     const auto table = [](Scale scale) {

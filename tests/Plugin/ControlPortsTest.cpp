@@ -1,5 +1,4 @@
 // What hosts read of the control ports, and what the code knows of them.
-#include "ChordTable.h"
 #include "InstalledPlugin.h"
 
 #include "Plugin/ControlPorts.h"
@@ -120,25 +119,4 @@ TEST_F(ControlPortsTest, PresetsSetAllThatIsHeardWithinItsRange) {
         }
         EXPECT_TRUE(values.empty()) << values.begin()->first;
     }
-}
-
-TEST_F(ControlPortsTest, PresetsSoundLikeTheirNames) {
-    std::string heard;
-    for (auto [name, values] : presets()) {
-        const auto whole = [&values = values](const char* symbol) {
-            return static_cast<int>(values[symbol]);
-        };
-        heard += chordsOnAllDegrees(name, {.transpose = whole("transpose"),
-                                           .root = whole("root"),
-                                           .scale = Scale(whole("scale")),
-                                           .chord = Chord(whole("chord")),
-                                           .inversion = whole("inversion")});
-    }
-    std::cout << heard;
-    EXPECT_EQ(heard, R"(Blues in E by Chance: E | G | A | A# | B | D
-Fifths in D Dorian: D A | E B | F C | G D | A E | B F | C G
-Human Touch: C | C# | D | D# | E | F | F# | G | G# | A | A# | B
-Slow Sevenths in A Minor: C E G A | D F A B | E G B C | F A C D | G B D E | A C E F | B D F G
-Strummed Triads in C: C E G | D F A | E G B | F A C | G B D | A C E | B D F
-)");
 }

@@ -251,18 +251,6 @@ TEST_F(NoteProcessorTest, AllNotesOffEndsTheNotesOfItsChannelFirst) {
     EXPECT_THAT(take(), ElementsAre(Message{8, {0x80, 61, 64}}, Message{8, {0xB0, 123, 0}}));
 }
 
-TEST_F(NoteProcessorTest, NoteOffThatFindsNoRoomComesWithTheNextBlock) {
-    send(0, {0x90, 60, 100});
-    m_recorder.room = 1;
-    send(1, {0x80, 60, 0});
-    take();
-    m_recorder.room = 0;
-    begin({});
-    m_recorder.room = 1;
-    begin({});
-    EXPECT_THAT(take(), ElementsAre(Message{0, {0x80, 60, 0}}));
-}
-
 TEST_F(NoteProcessorTest, MalformedMessagesAreDropped) {
     for (const Bytes& bytes : {Bytes{0x90, 60}, Bytes{60, 100}, Bytes{0x90, 200, 100}, Bytes{0x90, 60, 200},
                                Bytes{0xC0, 1, 1}, Bytes{0x80, 60, 0, 0}})

@@ -4,7 +4,6 @@
 #include "VantorShaders/resource_bundle_accessor.h"
 #include "tests/support/GpuPicture.h"
 
-#include <QTest>
 #include <QTranslator>
 
 #include <gtest/gtest.h>
@@ -67,40 +66,6 @@ TEST_F(MetalShaderRendererTest, ClockLeavesOutEveryPause) {
     const float before = renderer.time();
     renderer.resumeClock();
     EXPECT_NEAR(renderer.time(), before, 0.5) << "no pause, nothing to leave out";
-}
-
-TEST_F(MetalShaderRendererTest, RenderersDifferInTheirSeed) {
-    const auto first = makeRenderer();
-    const auto second = makeRenderer();
-    const auto third = makeRenderer();
-    EXPECT_FALSE(first.seed() == second.seed() && second.seed() == third.seed());
-    EXPECT_EQ(first.name(), QStringLiteral("Main"));
-}
-
-TEST_F(MetalShaderRendererTest, ViewportFollowsTheDrawable) {
-    auto renderer = makeRenderer();
-    const auto size = m_view.drawableSize();
-    EXPECT_EQ(renderer.viewportSize(), (std::array{float(size.width()), float(size.height())}));
-    renderer.drawableSizeWillChange(m_view, {123, 45});
-    EXPECT_EQ(renderer.viewportSize(), (std::array{123.0F, 45.0F}));
-    renderer.setViewportSize({7, 8});
-    EXPECT_EQ(renderer.viewportSize(), (std::array{7.0F, 8.0F}));
-}
-
-TEST_F(MetalShaderRendererTest, DrawsInTheView) {
-    auto renderer = makeRenderer();
-    renderer.draw(m_view);
-    EXPECT_TRUE(m_view.image().isNull()) << "without a drawable the frame is skipped";
-    m_view.setDelegate(&renderer);
-    m_view.show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_view.image().isNull(); }));
-    const QImage image = m_view.image();
-    QSet<QRgb> colors;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            colors.insert(image.pixel(x, y));
-    EXPECT_GT(colors.size(), 100);
-    m_view.setDelegate(nullptr);
 }
 
 TEST_F(MetalShaderRendererTest, ErrorsArePassedOn) {

@@ -187,29 +187,6 @@ TEST_F(MetalShaderViewControllerTest, EachAppearanceBeginsAnew) {
     EXPECT_GT(seeds.size(), 1);
 }
 
-TEST_F(MetalShaderViewControllerTest, StandsStillWhileAnotherWindowIsKey) {
-    Effect effect;
-    for (int appearance = 0; appearance < 3;
-         ++appearance) { // which registers for the notifications each time
-        effect.window.hide();
-        effect.activate();
-    }
-    QWidget other;
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    ASSERT_NE(effect.controller.renderer(), nullptr);
-    EXPECT_TRUE(effect.controller.metalKitView()->isPaused());
-    ASSERT_TRUE(effect.controller.renderer()->pauseTime.has_value());
-
-    const float before = effect.controller.renderer()->time();
-    *effect.controller.renderer()->pauseTime -= std::chrono::seconds(10);
-    effect.activate();
-    EXPECT_FALSE(effect.controller.metalKitView()->isPaused());
-    EXPECT_FALSE(effect.controller.renderer()->pauseTime.has_value());
-    EXPECT_NEAR(before - effect.controller.renderer()->time(), 10, 1) << "the ten seconds count once";
-}
-
 TEST_F(MetalShaderViewControllerTest, MindsOnlyItsOwnWindow) {
     Effect effect;
     effect.activate();

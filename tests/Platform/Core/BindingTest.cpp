@@ -17,9 +17,3 @@ TEST(Binding, CopiesReferToOneValue) {
     EXPECT_EQ(binding.get(), "c");
     EXPECT_EQ(copy.get(), "c");
 }
-
-TEST(Binding, ConstantIgnoresWhatIsSet) {
-    const auto binding = Binding<int>::constant(7);
-    binding.set(8);
-    EXPECT_EQ(binding.get(), 7);
-}

@@ -2,9 +2,6 @@
 
 #include "tests/support/GpuPicture.h"
 
-#include <QColorSpace>
-#include <QColorTransform>
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -23,35 +20,7 @@ double encoded(double linear) {
     return linear <= 0.0031308 ? 12.92 * linear : 1.055 * std::pow(linear, 1 / 2.4) - 0.055;
 }
 
-std::array<int, 3> channels(QRgb color) {
-    return {qRed(color), qGreen(color), qBlue(color)};
-}
-
 } // namespace
-
-TEST_F(GpuDrawableTest, ConvertsDisplayP3) {
-    using Transfer = QColorSpace::TransferFunction;
-    const auto toSRGB = QColorSpace(QColorSpace::Primaries::DciP3D65, Transfer::Linear)
-                            .transformationToColorSpace(QColorSpace(QColorSpace::SRgb));
-
-    struct Case {
-        const char* body;
-        QColor linear;
-    };
-
-    for (const auto& [body, linear] :
-         {Case{"color = vec4(0.5, 0.4, 0.3, 1.0);", QColor::fromRgbF(0.5F, 0.4F, 0.3F)},
-          Case{"color = vec4(0.1, 0.5, 0.2, 1.0);", QColor::fromRgbF(0.1F, 0.5F, 0.2F)},
-          Case{"color = vec4(0.2, 0.1, 0.6, 1.0);", QColor::fromRgbF(0.2F, 0.1F, 0.6F)},
-          Case{"color = vec4(1.0);", QColor(Qt::white)},
-          Case{"color = vec4(0.0, 1.0, 0.0, 1.0);", QColor::fromRgbF(0, 1, 0)}}) {
-        GpuPicture picture(GpuPicture::pipeline(body), {8, 8}, ColorSpace::extendedLinearDisplayP3);
-        const QRgb expected = toSRGB.map(linear).rgba();
-        const QRgb shown = picture.draw().pixel(4, 4);
-        for (std::size_t i = 0; i < 3; ++i)
-            EXPECT_NEAR(channels(shown).at(i), channels(expected).at(i), 2) << body << " channel " << i;
-    }
-}
 
 TEST_F(GpuDrawableTest, ReadBackShowsThisFrameOrTheOneBefore) {
     const auto seedAsGray = GpuPicture::pipeline("color = vec4(vec3(float(seed) / 10.0), 1.0);");

@@ -94,8 +94,3 @@ TEST_F(RenderPipelineTest, LibraryMustBeReadable) {
     EXPECT_EQ(m_device->makeDefaultLibrary(Bundle(m_root.path()))->function(QStringLiteral("quad")),
               std::nullopt);
 }
-
-TEST_F(RenderPipelineTest, BuffersKnowTheirLength) {
-    const std::array<float, 8> data{};
-    EXPECT_EQ(m_device->makeBuffer(data.data(), sizeof data)->length(), 32U);
-}

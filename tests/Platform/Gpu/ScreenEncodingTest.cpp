@@ -1,12 +1,9 @@
-#include "Platform/Gpu/CommandQueue.h"
-#include "Platform/Gpu/GpuDevice.h"
-#include "Platform/Gpu/GpuDrawable.h"
-#include "Platform/Gpu/RenderPipeline.h"
+#include "Platform/Gpu/ScreenEncoding.h"
+
+#include "tests/support/GpuPicture.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace {
@@ -15,36 +12,9 @@ using namespace platform;
 
 constexpr QSize size(64, 32);
 
-constexpr auto vertexSource = R"(#version 330 core
-layout(location = 0) in vec2 position;
-void main() { gl_Position = vec4(position, 0.0, 1.0); }
-)";
-
 /// What the view shows of a fragment function that does `statement`.
-QImage drawn(const QByteArray& statement, ColorSpace space = ColorSpace::extendedLinearSRGB) {
-    const auto device = GpuDevice::systemDefault();
-    if (!device)
-        return {};
-    RenderPipelineDescriptor descriptor;
-    descriptor.vertexFunction = GpuFunction{QStringLiteral("vertex"), vertexSource, {}};
-    const QByteArray source =
-        "#version 330 core\nlayout(location = 0) out vec4 color;\nvoid main() { " + statement + " }\n";
-    descriptor.fragmentFunction = GpuFunction{QStringLiteral("fragment"), source, {}};
-    const auto pipeline = device->makeRenderPipelineState(descriptor);
-    GpuDrawable drawable(device, size, space, GpuDrawable::ReadBack::immediate);
-    constexpr std::array<float, 8> quad{-1, -1, -1, 1, 1, -1, 1, 1};
-    const auto vertices = device->makeBuffer(quad.data(), sizeof quad);
-    const auto queue = device->makeCommandQueue();
-    const auto buffer = queue->makeCommandBuffer();
-    const auto encoder = buffer->makeRenderCommandEncoder({&drawable});
-    encoder->setRenderPipelineState(*pipeline);
-    encoder->setViewport({.width = size.width(), .height = size.height()});
-    encoder->setVertexBuffer(*vertices, 0, 0);
-    encoder->drawTriangleStrip(0, 4);
-    encoder->endEncoding();
-    buffer->present(drawable);
-    buffer->commit();
-    return drawable.image().copy();
+QImage drawn(const char* statement, ColorSpace space = ColorSpace::extendedLinearSRGB) {
+    return GpuPicture(GpuPicture::pipeline(statement), size, space).draw();
 }
 
 double encoded(double linear) {
@@ -53,10 +23,7 @@ double encoded(double linear) {
 
 class ScreenEncoding : public testing::Test {
 protected:
-    void SetUp() override {
-        if (!GpuDevice::systemDefault())
-            GTEST_SKIP() << "no device";
-    }
+    void SetUp() override { NOTELOFT_REQUIRE_GPU(); }
 };
 
 TEST_F(ScreenEncoding, KeepsPixelsWhereTheFunctionSeesThem) {
@@ -102,7 +69,7 @@ TEST_F(ScreenEncoding, ReportsTheFunctionsOwnLines) {
         drawn("mistake;");
         FAIL() << "compiled";
     } catch (const GpuError& error) {
-        EXPECT_NE(std::string(error.what()).find("0:3("), std::string::npos) << error.what();
+        EXPECT_NE(std::string(error.what()).find("0:7("), std::string::npos) << error.what();
     }
 }
 

@@ -6,9 +6,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QPalette>
 #include <QTemporaryDir>
 
@@ -35,27 +32,6 @@ protected:
     }
 
     QTemporaryDir m_root;
-};
-
-struct BundleContent {
-    const char* directory;
-    int colors;
-    int images;
-};
-
-/// The bundles as the asset compiler makes them.
-class CompiledBundleTest : public testing::TestWithParam<BundleContent> {
-protected:
-    ~CompiledBundleTest() override { platform::setAppearance(Appearance::dark); }
-
-    const Bundle m_bundle{Bundle::main().path(QString::fromLatin1(GetParam().directory))};
-    const AssetCatalog& m_catalog = AssetCatalog::of(m_bundle);
-
-    QJsonArray entries(const char* kind) const {
-        QFile file(m_bundle.path(QStringLiteral("Assets.json")));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-        return QJsonDocument::fromJson(file.readAll()).object()[QLatin1StringView(kind)].toArray();
-    }
 };
 
 } // namespace
@@ -138,48 +114,3 @@ TEST_F(AssetCatalogTest, AppearanceReachesTheStandardDialogs) {
     EXPECT_EQ(platform::currentAppearance(), Appearance::light);
     EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 150);
 }
-
-TEST_P(CompiledBundleTest, EveryImageHasItsPixelsAtEveryScale) {
-    const auto images = entries("images");
-    EXPECT_EQ(images.size(), GetParam().images);
-    for (const auto& entry : images) {
-        const QString name = entry[u"name"].toString();
-        const auto& image = m_catalog.image(name.toStdString());
-        ASSERT_FALSE(image.size().isEmpty()) << name.toStdString();
-        const auto caps = image.capInsets();
-        EXPECT_LT(caps.left() + caps.right(), image.size().width()) << name.toStdString();
-        EXPECT_LT(caps.top() + caps.bottom(), image.size().height()) << name.toStdString();
-        for (const auto appearance : {Appearance::light, Appearance::dark})
-            for (const int scale : {1, 2, 3}) {
-                const QImage drawn =
-                    m_catalog.image(name.toStdString(), appearance).bitmap(image.size(), scale);
-                EXPECT_EQ(drawn.size(), (image.size() * scale).toSize()) << name.toStdString();
-                QImage nothing(drawn.size(), drawn.format());
-                nothing.fill(Qt::transparent);
-                EXPECT_GT(difference(drawn, nothing), 16) << name.toStdString() << " is invisible";
-            }
-        for (const auto* files : {"files", "lightFiles"})
-            for (const auto& file : entry[QLatin1StringView(files)].toObject())
-                EXPECT_FALSE(QImage(m_bundle.path(file.toString())).isNull())
-                    << file.toString().toStdString();
-    }
-}
-
-TEST_P(CompiledBundleTest, EveryColorHasBothAppearances) {
-    const auto colors = entries("colors");
-    EXPECT_EQ(colors.size(), GetParam().colors);
-    for (const auto& entry : colors) {
-        const QString name = entry[u"name"].toString();
-        platform::setAppearance(Appearance::light);
-        const QColor light = m_catalog.color(name.toStdString());
-        platform::setAppearance(Appearance::dark);
-        EXPECT_TRUE(light.isValid() && m_catalog.color(name.toStdString()).isValid()) << name.toStdString();
-        EXPECT_NE(light, m_catalog.color(name.toStdString())) << name.toStdString();
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Modules, CompiledBundleTest,
-                         testing::Values(BundleContent{"", 3, 3},
-                                         BundleContent{"Chorale_Chorale.bundle", 5, 1},
-                                         BundleContent{"Tidepool_Tidepool.bundle", 21, 51},
-                                         BundleContent{"VantorShaders_VantorShaders.bundle", 0, 2}));

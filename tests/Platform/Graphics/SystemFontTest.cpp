@@ -11,14 +11,6 @@ using platform::FontDesign;
 using platform::monospacedDigitSystemFont;
 using platform::systemFont;
 
-TEST(SystemFont, HasItsSizeInPointsAndItsWeight) {
-    const QFont font = systemFont(15, QFont::Bold, FontDesign::rounded);
-    EXPECT_EQ(font.pixelSize(), 15);
-    EXPECT_EQ(QFontInfo(font).pixelSize(), 15);
-    EXPECT_TRUE(QFontInfo(font).bold());
-    EXPECT_FALSE(QFontInfo(systemFont(11)).bold());
-}
-
 TEST(SystemFont, RoundedDesignHasAFaceForEachWeight) {
     if (!QFontDatabase::hasFamily(QStringLiteral("Quicksand")))
         GTEST_SKIP() << "this machine has no rounded face";
