@@ -4,12 +4,11 @@
 #include "Chorale/LabelRows.h"
 #include "Chorale/ParameterText.h"
 #include "Chorale/RocketFontModifier.h"
+#include "Chorale/ValueField.h"
 #include "Platform/Controls/FocusRing.h"
 
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -45,30 +44,24 @@ DialLabel::DialLabel(std::shared_ptr<AudioParameter> param, QColor labelColor, Q
       m_showName(showName),
       m_decimalPlaces(decimalPlaces),
       m_onEditingEnded(std::move(onEditingEnded)),
-      m_field(new QLineEdit(this)) {
+      m_field(new ValueField(m_valueColor, editingFontSize * m_scale, *this)) {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::IBeamCursor);
     follow(*this);
-    rocketFont(*m_field, editingFontSize * m_scale);
-    m_field->setFrame(false);
-    m_field->setAlignment(Qt::AlignCenter);
     m_field->setAccessibleName(tr("New %1 value").arg(m_param->name()));
-    QPalette palette = m_field->palette();
-    palette.setColor(QPalette::Base, Qt::transparent);
-    palette.setColor(QPalette::Text, m_valueColor);
-    QColor selection = m_valueColor;
-    constexpr float selectionAlpha = 0.3F;
-    selection.setAlphaF(selectionAlpha);
-    palette.setColor(QPalette::Highlight, selection);
-    palette.setColor(QPalette::HighlightedText, m_valueColor);
-    m_field->setPalette(palette);
-    m_field->hide();
+    connect(m_field, &ValueField::submitted, this, &DialLabel::submit);
+    connect(m_field, &ValueField::abandoned, this, &DialLabel::leave);
+    connect(m_field, &ValueField::openChanged, this, qOverload<>(&QWidget::update));
     connect(m_param.get(), &AudioParameter::valueChanged, this, &DialLabel::updateValueString);
     updateValueString();
 }
 
 DialLabel::~DialLabel() {
-    stopEditing();
+    m_field->close(); // while it has a label to give the keyboard back to
+}
+
+bool DialLabel::isEditing() const {
+    return m_field->isOpen();
 }
 
 QString DialLabel::valueString() const {
@@ -134,7 +127,7 @@ void DialLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (m_showName)
         paintName(painter);
-    if (m_isEditing)
+    if (isEditing())
         paintField(painter);
     else
         paintValue(painter);
@@ -196,11 +189,6 @@ void DialLabel::mousePressEvent(QMouseEvent* event) {
     event->setAccepted(event->button() == Qt::LeftButton);
 }
 
-void DialLabel::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-        startEditing();
-}
-
 void DialLabel::keyPressEvent(QKeyEvent* event) {
     const bool edits =
         event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_F2;
@@ -215,15 +203,7 @@ void DialLabel::updateValueString() {
 }
 
 void DialLabel::startEditing() {
-    if (m_isEditing)
-        return;
-    m_isEditing = true;
-    m_hadFocus = window()->focusWidget() == this; // also while the window counts as inactive
-    m_field->show();
-    m_field->setFocus(Qt::OtherFocusReason);
-    m_field->selectAll();
-    qApp->installEventFilter(this);
-    update();
+    m_field->open();
 }
 
 void DialLabel::submit() {
@@ -240,50 +220,7 @@ void DialLabel::leave() {
     if (!self)
         return;
     updateValueString();
-    stopEditing();
-}
-
-void DialLabel::stopEditing() {
-    if (!std::exchange(m_isEditing, false))
-        return;
-    qApp->removeEventFilter(this);
-    // A hidden field would hand the keyboard to whichever control comes next.
-    if (m_field->hasFocus() && m_hadFocus)
-        setFocus(Qt::OtherFocusReason);
-    m_field->clearFocus();
-    m_field->hide();
-    update();
-}
-
-bool DialLabel::eventFilter(QObject* watched, QEvent* event) {
-    if (!m_isEditing)
-        return false;
-    const bool isElsewhere = watched->isWidgetType() && watched != m_field && watched != this &&
-                             QApplication::activePopupWidget() == nullptr;
-    if (event->type() == QEvent::MouseButtonPress && isElsewhere) {
-        stopEditing();
-        return false;
-    }
-    if (watched != m_field)
-        return false;
-    if (event->type() == QEvent::FocusOut) {
-        // The field's own menu does not take it away.
-        if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
-            stopEditing();
-    }
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
-        return handleKey(*static_cast<QKeyEvent*>(event));
-    return false;
-}
-
-bool DialLabel::handleKey(QKeyEvent& event) {
-    const bool submits = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (!submits && event.key() != Qt::Key_Escape)
-        return false;
-    event.accept();
-    if (event.type() == QEvent::KeyPress)
-        submits ? submit() : leave();
-    return true;
+    m_field->close();
 }
 
 } // namespace chorale

@@ -2,17 +2,17 @@
 
 #include "Chorale/ParameterView.h"
 #include "Chorale/ViewScale.h"
+#include "Platform/Controls/ClickGestureRecognizer.h"
 
 #include <QColor>
 #include <QWidget>
 
 #include <functional>
 
-class QLineEdit;
-
 namespace chorale {
 
 class AudioParameter;
+class ValueField;
 
 /// The name and the value of a parameter. A click, or Return or F2 with the keyboard on it, opens a field to
 /// type a new value into: Return writes it, Escape and a click elsewhere do not. Sizes are points.
@@ -28,7 +28,7 @@ public:
               QWidget* parent = nullptr);
     ~DialLabel() override;
 
-    bool isEditing() const { return m_isEditing; }
+    bool isEditing() const;
 
     /// The text in the field.
     QString valueString() const;
@@ -46,12 +46,10 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -65,13 +63,10 @@ private:
     void paintValue(QPainter& painter) const;
     void paintField(QPainter& painter) const;
 
-    /// Of the field. True for a key that ends the typing.
-    bool handleKey(QKeyEvent& event);
     void updateValueString();
     void startEditing();
     void submit();
     void leave();
-    void stopEditing();
 
     const qreal m_scale = ViewScale::current();
     const std::shared_ptr<AudioParameter> m_param;
@@ -84,9 +79,8 @@ private:
     const bool m_showName;
     const int m_decimalPlaces;
     const std::function<void()> m_onEditingEnded;
-    QLineEdit* m_field;
-    bool m_isEditing = false;
-    bool m_hadFocus = false; // before the field took it
+    ValueField* const m_field;
+    platform::ClickGestureRecognizer m_click{*this, [this] { startEditing(); }};
 };
 
 } // namespace chorale

@@ -40,7 +40,7 @@ public:
     StyleSet() = default;
 
     /// A set that makes the style of each class when it is first asked for it.
-    explicit StyleSet(StyleLook look) : m_look(std::move(look)) {}
+    explicit StyleSet(const StyleLook& look) : m_look(look) {}
 
     /// Replaces the style of the class `S`.
     template <std::derived_from<BaseStyle> S>
