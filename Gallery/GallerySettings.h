@@ -11,8 +11,8 @@ struct GallerySettings {
     bool isSelected = false;
     ControlSize size = ControlSize::regular;
     StyleSet styleSet = StyleSet::dark;
-    /// Pixels a point: 1 or 2.
-    int scale = 1;
+    /// Pixels a point.
+    double scale = 1;
     bool isRightToLeft = false;
 
     bool operator==(const GallerySettings&) const = default;

@@ -26,10 +26,9 @@ const QString& lastPageKey() {
 void addOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(QStringLiteral("Shows every control of the kit in every state."));
     parser.addOptions({
-        {QStringLiteral("pictures"), QStringLiteral("Write a picture of each page and end."),
+        {QStringLiteral("pictures"),
+         QStringLiteral("Write pictures of each page, in several settings, and end."),
          QStringLiteral("folder")},
-        {QStringLiteral("scale"), QStringLiteral("Pixels a point of the pictures."), QStringLiteral("1|2"),
-         QStringLiteral("1")},
         {QStringLiteral("page"), QStringLiteral("Only this page, or the page to open."),
          QStringLiteral("name")},
         {QStringLiteral("screenshot"), QStringLiteral("Write a picture of the window and end."),
@@ -40,10 +39,7 @@ void addOptions(QCommandLineParser& parser) {
 /// Empty if the options can be followed.
 QString errorIn(const QCommandLineParser& parser) {
     const QString page = parser.value(QStringLiteral("page"));
-    const QString scale = parser.value(QStringLiteral("scale"));
     const auto& pages = allPages();
-    if (scale != u"1" && scale != u"2")
-        return QStringLiteral("the scale can be 1 or 2, not ") + scale;
     if (!page.isEmpty() && std::none_of(pages.begin(), pages.end(),
                                         [&](const GalleryPage& known) { return known.title == page; }))
         return QStringLiteral("there is no page named ") + page;
@@ -62,13 +58,12 @@ bool save(const QImage& picture, const QString& file) {
 int writePictures(const QCommandLineParser& parser) {
     const QDir folder(parser.value(QStringLiteral("pictures")));
     const QString only = parser.value(QStringLiteral("page"));
-    GallerySettings settings;
-    settings.scale = parser.value(QStringLiteral("scale")).toInt();
     folder.mkpath(QStringLiteral("."));
     bool areSaved = true;
     for (const GalleryPage& page : allPages())
         if (only.isEmpty() || page.title == only)
-            areSaved &= save(pagePicture(page, settings), folder.filePath(pictureName(page, settings.scale)));
+            for (const GallerySettings& settings : pictureSettings())
+                areSaved &= save(pagePicture(page, settings), folder.filePath(pictureName(page, settings)));
     return areSaved ? 0 : 1;
 }
 

@@ -13,7 +13,7 @@ namespace {
 /// Draws its widget with the pixels of its scale, where the base class would enlarge those of 1x.
 class SharpProxy : public QGraphicsProxyWidget {
 public:
-    explicit SharpProxy(int scale) : m_scale(scale) {
+    explicit SharpProxy(qreal scale) : m_scale(scale) {
         setScale(scale);
         setFlag(ItemUsesExtendedStyleOption);
     }
@@ -29,12 +29,12 @@ public:
     }
 
 private:
-    int m_scale;
+    qreal m_scale;
 };
 
 } // namespace
 
-MagnifiedPage::MagnifiedPage(PageView* page, int scale, QWidget* parent) : QGraphicsView(parent) {
+MagnifiedPage::MagnifiedPage(PageView* page, qreal scale, QWidget* parent) : QGraphicsView(parent) {
     auto* const content = new QGraphicsScene(this);
     auto* const proxy = new SharpProxy(scale);
     proxy->setWidget(page);

@@ -13,7 +13,7 @@ class MagnifiedPage : public QGraphicsView {
 
 public:
     /// Takes the page.
-    MagnifiedPage(PageView* page, int scale, QWidget* parent = nullptr);
+    MagnifiedPage(PageView* page, qreal scale, QWidget* parent = nullptr);
 };
 
 } // namespace gallery

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int focusWidth = 2;
 
-QAbstractScrollArea* makeArea(PageView* page, int scale) {
+QAbstractScrollArea* makeArea(PageView* page, qreal scale) {
     if (scale > 1)
         return new MagnifiedPage(page, scale);
     auto* const area = new QScrollArea;

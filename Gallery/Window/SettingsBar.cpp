@@ -70,7 +70,7 @@ GallerySettings SettingsBar::settings() const {
             .isSelected = m_selected->state() == ControlState::on,
             .size = static_cast<GallerySettings::ControlSize>(m_size->indexOfSelectedItem()),
             .styleSet = static_cast<GallerySettings::StyleSet>(m_styleSet->indexOfSelectedItem()),
-            .scale = m_scale->indexOfSelectedItem() + 1,
+            .scale = m_scale->indexOfSelectedItem() + 1.0,
             .isRightToLeft = m_rightToLeft->state() == ControlState::on};
 }
 

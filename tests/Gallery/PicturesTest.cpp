@@ -16,14 +16,15 @@ namespace {
 const QDir accepted(QStringLiteral(NOTELOFT_TEST_DATA "/Pictures"));
 const QDir output(QStringLiteral(NOTELOFT_TEST_OUTPUT));
 
-/// A page and its scale.
-using PicturesTest = testing::TestWithParam<std::tuple<std::size_t, int>>;
+/// A page and its settings.
+using PicturesTest = testing::TestWithParam<std::tuple<std::size_t, std::size_t>>;
 
 std::string nameOf(const testing::TestParamInfo<PicturesTest::ParamType>& info) {
-    const auto [page, scale] = info.param;
-    std::string name = allPages()[page].title.toStdString();
+    const auto [page, settings] = info.param;
+    std::string name =
+        gallery::pictureName(allPages()[page], gallery::pictureSettings()[settings]).chopped(4).toStdString();
     std::erase_if(name, [](char c) { return std::isalnum(static_cast<unsigned char>(c)) == 0; });
-    return name + "At" + std::to_string(scale) + "x";
+    return name;
 }
 
 /// Writes what tells one from the other, and returns where.
@@ -40,11 +41,9 @@ std::string writeDifference(const QString& name, const QImage& actual, const QIm
 } // namespace
 
 TEST_P(PicturesTest, AreTheAcceptedOnes) {
-    const auto [index, scale] = GetParam();
-    const GalleryPage& page = allPages()[index];
-    gallery::GallerySettings settings;
-    settings.scale = scale;
-    const QString name = gallery::pictureName(page, scale);
+    const GalleryPage& page = allPages()[std::get<0>(GetParam())];
+    const gallery::GallerySettings& settings = gallery::pictureSettings()[std::get<1>(GetParam())];
+    const QString name = gallery::pictureName(page, settings);
     const QImage actual = gallery::pagePicture(page, settings);
     const QImage expected(accepted.filePath(name));
     const PictureComparison comparison(actual, expected);
@@ -55,13 +54,14 @@ TEST_P(PicturesTest, AreTheAcceptedOnes) {
 
 INSTANTIATE_TEST_SUITE_P(Gallery, PicturesTest,
                          testing::Combine(testing::Range<std::size_t>(0, allPages().size()),
-                                          testing::Values(1, 2)),
+                                          testing::Range<std::size_t>(0, gallery::pictureSettings().size())),
                          nameOf);
 
 TEST(AcceptedPictures, BelongToAPage) {
     QStringList named;
     for (const GalleryPage& page : allPages())
-        named << gallery::pictureName(page, 1) << gallery::pictureName(page, 2);
+        for (const gallery::GallerySettings& settings : gallery::pictureSettings())
+            named << gallery::pictureName(page, settings);
     const QStringList files = accepted.entryList(QDir::Files);
     for (const QString& file : files)
         EXPECT_TRUE(named.contains(file)) << file.toStdString();
