@@ -41,8 +41,8 @@ bool isUserEvent(const QEvent& event) {
 
 class Recorder : public QObject {
 public:
-    Recorder() : QObject(qApp) {
-        qApp->installEventFilter(this);
+    Recorder() : QObject(QCoreApplication::instance()) { // not always one of widgets
+        parent()->installEventFilter(this);
         // When the application waits for the next event it has done with this one.
         if (auto* const dispatcher = QAbstractEventDispatcher::instance())
             connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [] { current.reset(); });

@@ -1,6 +1,7 @@
 #include "Platform/Controls/PanGestureRecognizer.h"
 
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWidget>
 
 #include <utility>
@@ -15,8 +16,13 @@ PanGestureRecognizer::PanGestureRecognizer(QWidget& view, Handlers handlers)
 PanGestureRecognizer::~PanGestureRecognizer() = default;
 
 bool PanGestureRecognizer::begin(const QMouseEvent& press) {
-    if (!m_view.isEnabled() || !m_handlers.begin(press))
+    if (!m_view.isEnabled())
         return false;
+    const QPointer<QObject> self(this);
+    const auto handler = m_handlers.begin; // which may destroy the view, and this with it
+    const bool begins = handler(press);
+    if (!self || !begins)
+        return !self;
     m_last = press.position();
     m_tracking = std::make_unique<PointerTracking>(m_view, m_handlers.end);
     return true;
@@ -24,7 +30,8 @@ bool PanGestureRecognizer::begin(const QMouseEvent& press) {
 
 void PanGestureRecognizer::move(const QMouseEvent& to) {
     const QPointF from = std::exchange(m_last, to.position());
-    m_handlers.move(to, from);
+    const auto handler = m_handlers.move;
+    handler(to, from);
 }
 
 bool PanGestureRecognizer::eventFilter(QObject*, QEvent* event) {

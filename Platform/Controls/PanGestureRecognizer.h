@@ -17,12 +17,13 @@ class PanGestureRecognizer : public QObject {
     Q_OBJECT
 
 public:
-    /// Positions are points in the view's coordinates.
+    /// Each may destroy the view, and the recogniser with it. Positions are points in the view's coordinates.
     struct Handlers {
-        /// Asked for each press; false leaves it to the view.
+        /// Asked for each press, with which the drag begins; false leaves it to the view.
         std::function<bool(const QMouseEvent& press)> begin;
+        /// `from` is where the pointer was seen last.
         std::function<void(const QMouseEvent& move, QPointF from)> move;
-        /// May destroy the view, and the recogniser with it.
+        /// `interrupted` also if the recogniser is destroyed meanwhile.
         std::function<void(PointerTracking::End)> end;
     };
 

@@ -8,7 +8,6 @@
 #include <QAccessible>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -19,12 +18,10 @@ PushButton::PushButton(const QString& title, QWidget* parent)
     : PushButton(title, std::make_unique<ButtonCell>(), parent) {}
 
 PushButton::PushButton(const QString& title, std::unique_ptr<ButtonCell> cell, QWidget* parent)
-    : BaseButton(parent), m_cell(std::move(cell)) {
+    : CellControl(std::move(cell), parent) {
     installPushButtonAccessibility();
     setText(title);
     setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    m_cell->setControlView(this);
     connect(this, &QAbstractButton::clicked, this, [this] { performClick(); });
 }
 
@@ -39,18 +36,12 @@ PushButton::~PushButton() {
         m_openMenu->close(); // while this can still hear of it
 }
 
-CellContext PushButton::context() const {
+StyledControlState PushButton::controlFlags() const {
     using State = StyledControlState;
-    const CellStyle& style = m_cell->style();
-    m_title.set(text(), m_cell->titleFont(font(), style));
-    const bool hasState = m_cell->showsStateBy() != ButtonCell::none;
-    const State state = State()
-                            .with(State::disabled, !isEnabled())
-                            .with(State::highlighted, isEnabled() && (isDown() || m_openMenu != nullptr))
-                            .with(State::focused, showsFocus())
-                            .with(State::on, hasState && m_state == ControlState::on)
-                            .with(State::mixed, hasState && m_state == ControlState::mixed);
-    return {m_cell->controlState(state), m_title, layoutDirection(), style};
+    return CellControl::controlFlags()
+        .with(State::highlighted, isEnabled() && (isDown() || m_openMenu != nullptr))
+        .with(State::on, cell().showsStateBy() && m_state == ControlState::on)
+        .with(State::mixed, cell().showsStateBy() && m_state == ControlState::mixed);
 }
 
 void PushButton::setState(ControlState state) {
@@ -75,36 +66,16 @@ void PushButton::setMenu(QMenu* menu) {
 }
 
 std::optional<qreal> PushButton::baseline(qreal height) const {
-    return m_cell->baseline(QRectF(0, 0, width(), height), context());
+    return cell().baseline(QRectF(0, 0, width(), height), context());
 }
 
 void PushButton::nextCheckState() {
-    if (!isPressOver() && m_cell->showsStateBy() != ButtonCell::none)
-        setState(m_cell->nextState(m_state));
+    if (!isPressOver() && cell().showsStateBy() != ButtonCell::none)
+        setState(cell().nextState(m_state));
 }
 
 void PushButton::performClick() {
     Control::sendAction();
-}
-
-void PushButton::draw(QPainter& painter) {
-    m_cell->draw(painter, QRectF(rect()), context());
-}
-
-// The view's font and colours would cost a fourteenth of a repaint, and no cell asks for them.
-void PushButton::initPainter(QPainter* painter) const {
-    if (!m_isMakingPainter)
-        BaseButton::initPainter(painter);
-}
-
-void PushButton::paintEvent(QPaintEvent*) {
-    m_isMakingPainter = true;
-    QPainter painter(this);
-    m_isMakingPainter = false;
-    painter.setOpacity(alphaValue());
-    draw(painter);
-    if (showsFocus())
-        m_cell->drawFocus(painter, focusRingMaskBounds(), context());
 }
 
 bool PushButton::isTracking() const {
@@ -174,7 +145,7 @@ void PushButton::mouseReleaseEvent(QMouseEvent* event) {
     if (isInside) {
         // Not `click`, which would begin with another press.
         setDown(true);
-        BaseButton::mouseReleaseEvent(event);
+        CellControl::mouseReleaseEvent(event);
     } else {
         Q_EMIT released();
     }
@@ -182,7 +153,7 @@ void PushButton::mouseReleaseEvent(QMouseEvent* event) {
 
 /// Without the focus a key no longer holds the button, but the pointer does.
 void PushButton::focusOutEvent(QFocusEvent* event) {
-    isTracking() ? update() : BaseButton::focusOutEvent(event);
+    isTracking() ? update() : CellControl::focusOutEvent(event);
 }
 
 void PushButton::contextMenuEvent(QContextMenuEvent* event) {
@@ -194,7 +165,7 @@ void PushButton::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void PushButton::changeEvent(QEvent* event) {
-    BaseButton::changeEvent(event);
+    CellControl::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
         updateGeometry();
 }

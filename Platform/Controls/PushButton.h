@@ -2,7 +2,7 @@
 
 #include "Platform/Controls/BaseButton.h"
 #include "Platform/Controls/ButtonCell.h"
-#include "Platform/Controls/Control.h"
+#include "Platform/Controls/CellControl.h"
 
 #include <memory>
 #include <utility>
@@ -20,7 +20,7 @@ class PointerTracking;
 /// when the pointer is released outside, or Escape is pressed, or the button is hidden or disabled, or its
 /// press opens a menu or starts a drag. Every `pressed` is followed by one `released`, unless the button is
 /// destroyed.
-class PushButton : public BaseButton, public Control {
+class PushButton : public CellControl<BaseButton, ButtonCell> {
     Q_OBJECT
 
 public:
@@ -30,12 +30,6 @@ public:
     /// A button that is drawn by a style.
     PushButton(const QString& title, std::unique_ptr<ButtonStyle> style, QWidget* parent = nullptr);
     ~PushButton() override;
-
-    /// How the button looks. Owned.
-    ButtonCell& cell() const { return *m_cell; }
-
-    /// What the button tells its cell, until either changes.
-    CellContext context() const;
 
     /// The text without what marks its mnemonic.
     const QString& plainTitle() const { return context().title.text(); }
@@ -47,34 +41,26 @@ public:
     /// The state as a number: 0, 1 or -1.
     double doubleValue() const override { return static_cast<double>(m_state); }
 
-    void setBordered(bool bordered) { m_cell->setBordered(bordered); }
+    void setBordered(bool bordered) { cell().setBordered(bordered); }
 
-    void setImage(Image image) { m_cell->setImage(std::move(image)); }
+    void setImage(Image image) { cell().setImage(std::move(image)); }
 
-    void setImagePosition(ImagePosition position) { m_cell->setImagePosition(position); }
+    void setImagePosition(ImagePosition position) { cell().setImagePosition(position); }
 
     /// What a right click or the menu key opens. Not owned.
     QMenu* menu() const;
     void setMenu(QMenu* menu);
 
-    QSizeF intrinsicContentSize() const override { return m_cell->cellSize(context()); }
-
     std::optional<qreal> baseline(qreal height) const override;
 
     /// Whether the button has a state that users are told of.
-    virtual bool showsState() const { return m_cell->showsStateBy() != ButtonCell::none; }
+    virtual bool showsState() const { return cell().showsStateBy() != ButtonCell::none; }
 
     /// The menu that users can open from the button, or null.
     virtual QMenu* offeredMenu() const { return menu(); }
 
     /// Whether the menu key does something on the button.
     virtual bool answersMenuKey() const { return offeredMenu() != nullptr; }
-
-    QWidget& view() override { return *this; }
-
-    QSize sizeHint() const override { return naturalSize(); }
-
-    QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
     void stateChanged(platform::ControlState state);
@@ -83,11 +69,9 @@ protected:
     /// What a click does, whichever way it was made: sends the action.
     virtual void performClick();
 
-    /// Draws the button but for its focus. The painter is as new: it has neither its font nor its colours.
-    virtual void draw(QPainter& painter);
+    QString cellTitle() const override { return text(); }
 
-    /// Whether the focus is drawn: the keyboard is on the button, in the window that has it.
-    virtual bool showsFocus() const { return hasFocus() && isActiveWindow(); }
+    StyledControlState controlFlags() const override;
 
     /// The pointer's press, single or the second of a double click.
     virtual void beginTracking(QMouseEvent& event);
@@ -108,8 +92,6 @@ protected:
     virtual bool popUpMenu(const QMouseEvent& press);
 
     void nextCheckState() override;
-    void paintEvent(QPaintEvent* event) override;
-    void initPainter(QPainter* painter) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -120,13 +102,10 @@ protected:
 private:
     void menuClosed();
 
-    std::unique_ptr<ButtonCell> m_cell;
-    mutable PreparedText m_title;
     ControlState m_state = ControlState::off;
     QPointer<QMenu> m_menu;
     QPointer<QMenu> m_openMenu;                  // while it is open
     std::unique_ptr<PointerTracking> m_tracking; // while the pointer holds the button
-    bool m_isMakingPainter = false;
 };
 
 } // namespace platform
