@@ -27,14 +27,3 @@ TEST(GalleryCommand, WritesOnePictureAPageNamedAfterIt) {
               2 * QImage(pictures.filePath(QStringLiteral("States.png"))).width());
     EXPECT_FALSE(pictures.exists(QStringLiteral("Images@2x.png")));
 }
-
-TEST(GalleryCommand, RefusesWhatItDoesNotKnow) {
-    const QTemporaryDir folder;
-    const QStringList pictures{QStringLiteral("--pictures"), folder.path()};
-    EXPECT_EQ(run(pictures + QStringList{QStringLiteral("--page"), QStringLiteral("Nothing")}), 2);
-    EXPECT_EQ(run(pictures + QStringList{QStringLiteral("--scale"), QStringLiteral("3")}), 2);
-    EXPECT_EQ(run({QStringLiteral("--no-such-option")}), 2);
-    EXPECT_EQ(run(pictures + QStringList{QStringLiteral("argument")}), 2);
-    EXPECT_TRUE(QDir(folder.path()).isEmpty());
-    EXPECT_EQ(run({QStringLiteral("--pictures"), QStringLiteral("/proc/nowhere")}), 1);
-}
