@@ -153,16 +153,6 @@ TEST_F(ParameterDialTest, WholeNumbersGoByOneThoughTheHostEchoesThem) {
     EXPECT_EQ(host.take().back(), "release -5") << "a tenth of the range, and only whole numbers";
 }
 
-TEST_F(ParameterDialTest, AWheelSendsWhatTheLabelShows) {
-    HostWatch host(AudioUnitParameterUnit::percent, 200, 101.4F);
-    show(host).setDecimalPlaces(0);
-    wheel(120);
-    EXPECT_THAT(host.take(), ElementsAre("touch 101.4", "value 102", "release 102"));
-    for (int i = 0; i < 10; ++i)
-        wheel(120, Qt::ShiftModifier);
-    EXPECT_THAT(host.take(), ElementsAre("touch 102", "value 103", "release 103")) << "ten fine steps";
-}
-
 TEST_F(ParameterDialTest, FrequenciesTurnAndStepByRatios) {
     HostWatch host(AudioUnitParameterUnit::hertz, 20480, 640, {}, 20); // ten octaves, in their middle
     show(host).setDecimalPlaces(0);

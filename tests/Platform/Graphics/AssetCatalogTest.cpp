@@ -48,14 +48,6 @@ TEST_F(AssetCatalogTest, ColorsFollowTheAppearance) {
     EXPECT_FALSE(catalog.color("broken").isValid());
 }
 
-TEST_F(AssetCatalogTest, UnknownNamesAreEmpty) {
-    const auto catalog = read(R"({"colors": [{"name": "Text", "light": "#102030", "dark": "#102030"}]})");
-    EXPECT_FALSE(catalog.color("text").isValid()) << "case counts";
-    EXPECT_TRUE(catalog.image("Text").isNull());
-    EXPECT_FALSE(read("no JSON").color("Text").isValid());
-    EXPECT_TRUE(AssetCatalog(Bundle(QStringLiteral("nowhere"))).image("Text").isNull());
-}
-
 TEST_F(AssetCatalogTest, ImagesMayHaveAnotherDrawingForTheLightAppearance) {
     QImage picture(8, 8, QImage::Format_ARGB32);
     for (const auto& [file, color] : {std::pair{"dark.png", Qt::black}, {"light.png", Qt::white}}) {

@@ -33,15 +33,6 @@ public:
     bool valid = true;
 };
 
-/// What would be seen on black.
-QImage drawn(StyledButton& button, QSize size) {
-    button.resize(size);
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::black);
-    button.render(&image, {}, {}, QWidget::RenderFlags());
-    return image;
-}
-
 /// The pixel that is the most opaque, premultiplied.
 QRgb strongest(platform::PushButton& button) {
     QImage image(button.size(), QImage::Format_ARGB32_Premultiplied);
@@ -101,25 +92,6 @@ TEST(StyledButtonCell, GeometryFollowsTheInsetsOfTheStyle) {
     EXPECT_NEAR(title().center().y(), 18.5, 1) << "the middle of what the insets leave";
     button.setLayoutDirection(Qt::RightToLeft);
     EXPECT_GT(image().left(), title().right() - 1);
-}
-
-TEST(StyledButtonCell, BezelAndImageAreHalfOpaqueWhenDisabled) {
-    StyledButton button;
-    const QRgb enabled = drawn(button, {40, 24}).pixel(20, 12);
-    button.setEnabled(false);
-    const QRgb disabled = drawn(button, {40, 24}).pixel(20, 12);
-    EXPECT_NEAR(qBlue(disabled), qBlue(enabled) / 2, 2);
-    button.setBordered(false);
-    EXPECT_EQ(drawn(button, {40, 24}).pixel(20, 12), qRgb(0, 0, 0));
-
-    button.setImage(square(TPImages::checkboxOn));
-    button.setImagePosition(ImagePosition::imageOnly);
-    const QRgb dim = drawn(button, {16, 16}).pixel(8, 3);
-    button.setEnabled(true);
-    const QRgb bright = drawn(button, {16, 16}).pixel(8, 3);
-    EXPECT_NEAR(qBlue(dim), qBlue(bright) / 2, 2);
-    button.setDown(true);
-    EXPECT_EQ(drawn(button, {16, 16}).pixel(8, 3), dim);
 }
 
 TEST(StyledButtonCell, TemplatesHaveTheTextColorOfTheSetInForceAndAreDimmedOnce) {

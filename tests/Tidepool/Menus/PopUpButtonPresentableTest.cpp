@@ -10,7 +10,6 @@
 #include <thread>
 
 using namespace tidepool;
-using platform::Menu;
 using platform::MenuItem;
 using platform::PassthroughSubject;
 using platform::PopUpButton;
@@ -66,22 +65,6 @@ TEST(PopUpButtonPresentable, KeepsTheArrangementOfTheMaker) {
     ASSERT_NE(items[4]->submenu(), nullptr);
     EXPECT_EQ(button.title(), QStringLiteral("DORIAN")) << "which is in a submenu";
     EXPECT_EQ(selectedRawRepresentableValue<Scale>(button), Scale{QStringLiteral("dorian")});
-}
-
-TEST(PopUpButtonPresentable, SelectsByRawValue) {
-    PopUpButton button;
-    button.addItem(QStringLiteral("none"));
-    button.addItem(QStringLiteral("raw")).representedObject = static_cast<int>(Waveform::square);
-    button.addItem(QStringLiteral("value")).representedObject = Waveform::square;
-    EXPECT_EQ(selectedRawRepresentableValue<Waveform>(button), std::nullopt);
-    selectItem(button, Waveform::square);
-    EXPECT_EQ(button.title(), QStringLiteral("raw")) << "the first that matches";
-    EXPECT_EQ(selectedRawRepresentableValue<Waveform>(button), Waveform::square);
-    MenuItem& folder = button.addItem(QStringLiteral("folder"));
-    folder.setSubmenu(std::make_unique<Menu>());
-    folder.submenu()->addItem(QStringLiteral("inner")).representedObject = Waveform::noise;
-    selectItem(button, Waveform::noise);
-    EXPECT_EQ(button.title(), QStringLiteral("raw")) << "no match among its own items changes nothing";
 }
 
 TEST_F(BoundPopUpTest, ReportsWhatTheUserChangesOnce) {

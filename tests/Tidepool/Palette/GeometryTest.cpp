@@ -8,7 +8,6 @@
 #include <numbers>
 
 using tidepool::centered;
-using tidepool::horizontallyCentered;
 using tidepool::keptInside;
 using tidepool::roundedPath;
 using tidepool::ShakeEffect;
@@ -79,16 +78,6 @@ TEST(PixelAlignment, AWholeSizeNeverGrows) {
                     << pixels << " in " << room << " at " << scale;
                 ASSERT_LT(std::abs(rect.center().x() - room / 2), 1 / scale + 1e-9);
             }
-}
-
-TEST(PixelAlignment, CentersHorizontallyWithinLimits) {
-    const QRectF rect(10, 0, 31, 5);
-    EXPECT_EQ(horizontallyCentered(10, rect, 1), 20) << "25.5 - 5, without the fraction";
-    EXPECT_EQ(horizontallyCentered(10, rect, 2), 20.5);
-    EXPECT_EQ(horizontallyCentered(60, rect, 1), -4) << "not limited unless asked";
-    EXPECT_EQ(horizontallyCentered(60, rect, 1, {{10, 41}}), 10);
-    EXPECT_EQ(horizontallyCentered(2, rect, 1, {{0, 15}}), 15);
-    EXPECT_EQ(horizontallyCentered(10, rect, 1, {{10, 41}}), 20);
 }
 
 TEST(PixelAlignment, KeepsOneRectangleInsideAnother) {
