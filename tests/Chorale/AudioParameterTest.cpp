@@ -103,9 +103,6 @@ TEST_F(AudioParameterTest, ValuesAreClamped) {
     EXPECT_EQ(m_level->value(), 100);
     m_level->setValue(-0.F, ui, change);
     EXPECT_FALSE(std::signbit(sent().back()));
-    EXPECT_DEATH(ClosedRange<float>(notANumber, 1), "^A range needs");
-    EXPECT_DEATH(ClosedRange<float>(0, notANumber), "^A range needs");
-    EXPECT_DEATH(ClosedRange<int>(1, 0), "^A range needs");
 }
 
 TEST_F(AudioParameterTest, PressAndReleaseInOneTurnBothReachTheHost) {
@@ -170,23 +167,6 @@ TEST_F(AudioParameterTest, UsersGestureWinsOverTheHost) {
     m_level->setIsBeingInteractivelyEdited(false);
     turn();
     EXPECT_EQ(m_level->value(), 8) << "what counts is whether the gesture lasts when it is shown";
-}
-
-TEST_F(AudioParameterTest, PropertiesNotifyOnlyWhenTheyChange) {
-    QSignalSpy editing(m_level.get(), &AudioParameter::isBeingInteractivelyEditedChanged);
-    m_level->setIsBeingInteractivelyEdited(false);
-    EXPECT_EQ(editing.count(), 0);
-    EXPECT_TRUE(m_level->setProperty("isBeingInteractivelyEdited", true));
-    EXPECT_EQ(editing.count(), 1);
-
-    QProperty<float> percent;
-    percent.setBinding([this] { return m_level->percent(); });
-    m_level->setProperty("value", 45.F);
-    EXPECT_FLOAT_EQ(percent, 0.5F) << "what is computed from the value follows it";
-    m_level->setValue(45.F);
-    EXPECT_EQ(m_changes.count(), 1);
-    EXPECT_TRUE(m_events.empty());
-    EXPECT_TRUE(m_level->bindableValue().isReadOnly());
 }
 
 TEST_F(AudioParameterTest, ModelMayGoAwayWhileItsValueIsOnTheWay) {

@@ -1,7 +1,6 @@
 #include "Chorale/ChoiceLabel.h"
 #include "Platform/Controls/Menu.h"
 #include "tests/Chorale/HostWatch.h"
-#include "tests/support/Pixels.h"
 
 #include <QApplication>
 #include <QTest>
@@ -53,14 +52,6 @@ TEST_F(ChoiceLabelTest, TheKeyboardOpensTheMenuAndEscapeWritesNothing) {
     QTest::keyClick(menu(), Qt::Key_Escape);
     EXPECT_EQ(menu(), nullptr);
     EXPECT_THAT(m_host.take(), IsEmpty());
-}
-
-TEST_F(ChoiceLabelTest, ShowsTheNameAndKeepsItsWidth) {
-    const QSize size = m_label.sizeHint();
-    const QImage shown = picture(m_label);
-    m_host.send(2);
-    EXPECT_GT(difference(shown, picture(m_label)), 50);
-    EXPECT_EQ(m_label.sizeHint(), size);
 }
 
 TEST_F(ChoiceLabelTest, MayGoWhileItsMenuIsOpen) {

@@ -137,11 +137,3 @@ TEST_F(ParameterHoldButtonTest, ReturnHoldsAndSpaceIsLeftToTheHost) {
     QApplication::sendEvent(&m_button, &space);
     EXPECT_FALSE(space.isAccepted());
 }
-
-TEST(ParameterHoldButton, ARangeWithoutOneIsClamped) {
-    HostWatch host(platform::AudioUnitParameterUnit::generic, 0.5, 0);
-    ParameterHoldButton button(host.parameter, chorale::Images::quillfenLogo, chorale::Images::quillfenLogo);
-    QTest::mousePress(&button, Qt::LeftButton);
-    EXPECT_THAT(host.take(), ElementsAre("value 0.5"));
-    EXPECT_FALSE(button.isPressed()) << "once the value has arrived";
-}

@@ -3,8 +3,6 @@
 #include "Chorale/TabButton.h"
 #include "tests/Chorale/HostWatch.h"
 
-#include <QLabel>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -51,12 +49,4 @@ TEST(PluginHeaderView, TabsAreAnOrdinaryParameter) {
     EXPECT_THAT(selection(header), ElementsAre(false, true, false));
     host.send(1.5);
     EXPECT_THAT(selection(header), ElementsAre(false, false, false));
-}
-
-TEST(PluginHeaderView, WithoutNamesUpdateOrMenuThereIsOnlyTheVersion) {
-    HostWatch host;
-    const PluginHeaderView header(updatePage, QStringLiteral("1.0"), host.parameter, std::nullopt);
-    EXPECT_EQ(header.findChildren<QAbstractButton*>().size(), 1) << "the logo";
-    ASSERT_EQ(header.findChildren<QLabel*>().size(), 1);
-    EXPECT_EQ(header.findChild<QLabel*>()->text(), QStringLiteral("1.0"));
 }

@@ -105,30 +105,6 @@ TEST_F(GalleryWindowTest, SearchesTitlesControlsAndKeywordsInAnyCase) {
     EXPECT_EQ(listed(), QStringList(QStringLiteral("Colours")));
 }
 
-TEST_F(GalleryWindowTest, ArrowsMoveInTheListWhileTypingAndEscapeClears) {
-    search().setFocus();
-    QTest::keyClicks(&search(), QStringLiteral("controls"));
-    QTest::keyClick(&search(), Qt::Key_Down);
-    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Boxes"));
-    EXPECT_TRUE(search().hasFocus());
-    QTest::keyClick(&search(), Qt::Key_Up);
-    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Buttons"));
-    QTest::keyClick(&search(), Qt::Key_Escape);
-    EXPECT_EQ(search().text(), QString());
-    EXPECT_EQ(listed().size(), 3);
-    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Buttons")) << "clearing moves nothing";
-}
-
-TEST_F(GalleryWindowTest, SaysWhenNothingIsFoundAndKeepsThePage) {
-    m_window.showPage(QStringLiteral("Boxes"));
-    search().setText(QStringLiteral("no such"));
-    EXPECT_FALSE(find<QListView>("Pages")->isVisible());
-    EXPECT_EQ(search().accessibleDescription(), QStringLiteral("No page matches “no such”."));
-    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Boxes"));
-    search().clear();
-    EXPECT_TRUE(find<QListView>("Pages")->isVisible());
-}
-
 TEST_F(GalleryWindowTest, SettingsReachThePageAtOnceAndKeepItsPlace) {
     m_window.showPage(QStringLiteral("Buttons"));
     auto* const bar = m_window.findChild<gallery::SettingsBar*>();
@@ -149,14 +125,6 @@ TEST_F(GalleryWindowTest, SettingsReachThePageAtOnceAndKeepItsPlace) {
     EXPECT_EQ(m_window.findChild<QScrollArea*>()->verticalScrollBar()->value(), 0) << "of another page";
     for (const tidepool::StyledCheckBox* box : boxes)
         EXPECT_EQ(box->isEnabled(), box->text() == u"Right to left") << "what the page does not heed";
-}
-
-TEST_F(GalleryWindowTest, TheSameChoiceAgainLeavesThePageAlone) {
-    const QPointer<PageView> view = m_window.findChild<PageView*>();
-    choose("Style", 0);
-    EXPECT_NE(view, nullptr);
-    choose("Style", 1);
-    EXPECT_EQ(view, nullptr);
 }
 
 TEST_F(GalleryWindowTest, MagnifiedPagesStayAlive) {

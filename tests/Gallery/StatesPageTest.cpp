@@ -1,9 +1,7 @@
 #include "Gallery/Pages/StatesPage.h"
-#include "Gallery/Layout/PageView.h"
 #include "Gallery/Pages/StyleClasses.h"
 #include "Tidepool/Styles/TextFieldCellStyle.h"
 
-#include <QApplication>
 #include <QLabel>
 
 #include <gtest/gtest.h>
@@ -42,17 +40,4 @@ TEST(StatesPage, ShowsWhatTheStateResolvesTo) {
     page.setStyleClass(styleClassIndex("TextLabelCellStyle"));
     EXPECT_TRUE(texts(page).contains(QStringLiteral("This style has no images.")));
     EXPECT_EQ(selection->state, State::focused) << "kept for a page made later";
-}
-
-TEST(StatesPage, ThePageGrowsAndShrinksWithIt) {
-    gallery::PageView view(gallery::statesPage(), {});
-    view.show();
-    auto* const page = view.findChild<StatesPage*>();
-    const int usual = view.height();
-    page->setStyleClass(styleClassIndex("TextLabelCellStyle"));
-    QApplication::processEvents();
-    EXPECT_LT(view.height(), usual - 200) << "no row of an image";
-    page->setStyleClass(styleClassIndex("CheckBoxCellStyle"));
-    QApplication::processEvents();
-    EXPECT_EQ(view.height(), usual);
 }

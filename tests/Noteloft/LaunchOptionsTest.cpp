@@ -18,14 +18,3 @@ TEST(LaunchOptions, TellOptionsFromAddresses) {
     EXPECT_EQ(options.screenshot, QStringLiteral("-file.png"));
     EXPECT_FALSE(options.developerMode || options.quits);
 }
-
-TEST(LaunchOptions, DeveloperModeBelongsToDeveloperBuilds) {
-    QCommandLineParser parser;
-    LaunchOptions::describe(parser);
-    const bool isKnown = parser.parse({QStringLiteral("noteloft"), QStringLiteral("--developer")});
-#ifdef NOTELOFT_DEVELOPER_MODE
-    EXPECT_TRUE(isKnown && LaunchOptions::from(parser).developerMode);
-#else
-    EXPECT_FALSE(isKnown);
-#endif
-}

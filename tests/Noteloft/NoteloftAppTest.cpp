@@ -2,6 +2,7 @@
 
 #include "Noteloft/ContentView.h"
 #include "Platform/Windows/HiddenTitleBarWindow.h"
+#include "tests/support/Find.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -28,13 +29,7 @@ protected:
         return dialogs;
     }
 
-    QAction* action(const QString& text) {
-        const auto actions = m_app.window().actions();
-        for (QAction* each : actions)
-            if (each->text() == text)
-                return each;
-        return nullptr;
-    }
+    QAction* action(const QString& text) { return withText(m_app.window().actions(), text); }
 
     NoteloftApp m_app{LaunchOptions{}};
 };

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <iostream>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -52,20 +51,6 @@ Min 7: C E G B | D F A C | E G B D | F A C E | G B D F | A C E G | B D F A
 Dom 7: C E G B | D F A C | E G B D | F A C E | G B D F | A C E G | B D F A
 Add 9: C E G D | D F A E | E G B F | F A C G | G B D A | A C E B | B D F C
 )");
-    EXPECT_EQ(table(Scale::majorPentatonic), R"(Single: C | D | E | G | A
-Octave: C C | D D | E E | G G | A A
-Fifth: C G | D A | E C | G D | A E
-Major: C E G | D G A | E G C | G C D | A C E
-Minor: C E G | D G A | E G C | G C D | A C E
-Sus 2: C D G | D E A | E G C | G A D | A C E
-Sus 4: C E G | D G A | E A C | G C D | A D E
-Maj 7: C E G A | D G A C | E G C D | G C D E | A C E G
-Min 7: C E G A | D G A C | E G C D | G C D E | A C E G
-Dom 7: C E G A | D G A C | E G C D | G C D E | A C E G
-Add 9: C E G D | D G A E | E G C G | G C D A | A C E C
-)");
-    for (int scale = 0; scale < static_cast<int>(std::size(scaleNames)); ++scale)
-        std::cout << scaleNames[scale] << '\n' << table(Scale(scale)) << '\n';
 }
 
 TEST(Chord, HasItsNotesInOrderAndEachOnceInEveryScale) {
@@ -87,13 +72,9 @@ TEST(Chord, FollowsTheScale) {
         const ChordPitches pitches(key, harmony);
         return std::vector<int>(pitches.pitches().begin(), pitches.pitches().end());
     };
-    EXPECT_THAT(chord(60, cMajor), ElementsAre(60, 64, 67));
-    EXPECT_THAT(chord(62, cMajor), ElementsAre(62, 65, 69)) << "the second note's is minor";
-    EXPECT_THAT(chord(59, cMajor), ElementsAre(59, 62, 65)) << "the seventh note's is diminished";
     EXPECT_THAT(chord(61, cMajor), ElementsAre(60, 64, 67)) << "of two near notes the lower";
     EXPECT_THAT(chord(62, {.root = 2, .scale = Scale::major, .chord = Chord::major}),
                 ElementsAre(62, 66, 69));
-    EXPECT_THAT(chord(55, {.scale = Scale::major, .chord = Chord::major7}), ElementsAre(55, 59, 62, 65));
     EXPECT_THAT(chord(60, {.transpose = 5, .chord = Chord::minor, .inversion = 1}), ElementsAre(68, 72, 77));
     EXPECT_THAT(chord(60, {.chord = Chord::major, .inversion = 3}), ElementsAre(67, 72, 76));
     EXPECT_THAT(chord(126, {.chord = Chord::octave}), ElementsAre(126))

@@ -1,5 +1,4 @@
 // The editor in a host that knows nothing of Qt: a plain X11 window, a pointer and an idle loop.
-#include "tests/Plugin/DesktopSettings.h"
 #include "tests/Plugin/EditorHost.h"
 
 #include <gmock/gmock.h>
@@ -22,14 +21,6 @@ constexpr std::uint32_t pagePort = 7;
 
 class EditorTest : public testing::Test {
 protected:
-    /// There before the editors' application, and as long as that.
-    static DesktopSettings& desktop() {
-        static DesktopSettings settings;
-        return settings;
-    }
-
-    static void SetUpTestSuite() { desktop(); }
-
     // The first dial's middle, and the hold button's.
     static constexpr std::int16_t dialX = 70;
     static constexpr std::int16_t dialY = 110;
@@ -94,13 +85,6 @@ TEST_F(EditorTest, ADragIsATouchValuesAndARelease) {
     host.idle(20);
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
-}
-
-TEST_F(EditorTest, APortOfWholeNumbersGetsThem) {
-    EditorHost host(m_screen);
-    host.idle(20);
-    drag(host, 30);
-    EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=7", "2=7", "release 2"));
 }
 
 TEST_F(EditorTest, TheHandWinsAndTheHostsLastValueShowsAfterwards) {
@@ -230,24 +214,6 @@ TEST_F(EditorTest, TheKeyboardComesBackWithAClickAndGoesWithTheEditor) {
     m_screen.destroyWindow(other);
 }
 
-TEST_F(EditorTest, NoControlShowsAFocusRingBeforeTheUserGoesToIt) {
-    constexpr std::uint16_t headerHeight = 46;
-    EditorHost host(m_screen);
-    host.idle(20);
-    const auto before = m_screen.picture(host.window(), headerHeight);
-    m_screen.setFocus(host.editorWindow());
-    host.idle(20);
-    EXPECT_EQ(m_screen.picture(host.window(), headerHeight), before);
-}
-
-TEST_F(EditorTest, ItsWindowIsGoneWhenItHasBeenClosed) {
-    EditorHost host(m_screen);
-    host.idle(20);
-    ASSERT_TRUE(m_screen.exists(host.editorWindow()));
-    host.close(false);
-    EXPECT_FALSE(m_screen.exists(host.editorWindow()));
-}
-
 TEST_F(EditorTest, OpensAndClosesAHundredTimesInBothOrders) {
     for (int i = 0; i < 100; ++i) {
         EditorHost host(m_screen);
@@ -301,23 +267,6 @@ TEST_F(EditorTest, TellsItsSizeInPixelsAtEveryScale) {
     EXPECT_EQ(host.scale(), 1);
     drag(host, 50);
     EXPECT_THAT(host.take(), ElementsAre("touch 2", "2=0", "2=12", "2=12", "release 2"));
-}
-
-TEST_F(EditorTest, FollowsTheDesktopsScaleWhileItIsOpen) {
-    constexpr std::uint16_t height = 290; // more than the editor has with a pixel for each point
-    EditorHost host(m_screen);
-    host.idle(20);
-    desktop().setDpi(192);
-    host.idle(40);
-    const auto sizes = host.takeSizes();
-    ASSERT_EQ(sizes.size(), 2U);
-    EXPECT_EQ(sizes[1], std::pair(2 * sizes[0].first, 2 * sizes[0].second));
-    EXPECT_EQ(m_screen.size(host.editorWindow()), sizes[1]);
-    const auto picture = m_screen.picture(host.window(), height);
-    EXPECT_NE(picture[picture.size() - 4], 0) << "it is drawn to its end";
-    desktop().setDpi(96);
-    host.idle(40);
-    EXPECT_EQ(m_screen.size(host.editorWindow()), sizes[0]);
 }
 
 // The application object may be that of another plug-in, whose editor has gone.

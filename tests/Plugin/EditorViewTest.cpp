@@ -1,18 +1,15 @@
 // The editor's view without a host: what keyboard and screen reader find on each page.
 #include "Plugin/Editor/EditorView.h"
 #include "Chorale/ChoiceLabel.h"
-#include "Chorale/DialLabel.h"
 #include "Chorale/MakerLinks.h"
-#include "Chorale/RocketFontModifier.h"
 #include "Platform/Controls/Menu.h"
 #include "Plugin/Editor/EditorParameters.h"
-#include "Plugin/Editor/EditorResources.h"
 #include "Plugin/Editor/EmbeddedAccessibility.h"
 #include "Plugin/Editor/MenuButton.h"
 #include "Plugin/Editor/QtSession.h"
 #include "Plugin/Editor/ScaleView.h"
 #include "tests/support/Browser.h"
-#include "tests/support/Pixels.h"
+#include "tests/support/Find.h"
 
 #include <QAccessible>
 #include <QFile>
@@ -100,27 +97,9 @@ TEST_F(EditorViewTest, TabGoesThroughTheControlsOfThePage) {
                             "Chance", "Chance value", "Hold"));
 }
 
-TEST_F(EditorViewTest, AFieldLeavesTheNameOfItsParameterWhole) {
-    loadDisplayFont(QStringLiteral(NOTELOFT_BUNDLE));
-    m_view.setScale(1); // with that font
-    m_view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
-    auto* const label = m_view.findChild<chorale::DialLabel*>();
-    ASSERT_NE(label, nullptr);
-    const int capitals = QFontMetrics(chorale::RocketFontModifier{13}.font()).ascent() + 1;
-    const QRect name(0, 0, label->width(), capitals);
-    const QImage before = picture(*label).copy(name);
-    QTest::mouseClick(label, Qt::LeftButton);
-    ASSERT_TRUE(label->isEditing());
-    EXPECT_EQ(difference(before, picture(*label).copy(name)), 0);
-}
-
 TEST_F(EditorViewTest, AnUpdateThatIsFoundLaterShowsWithItsLink) {
-    const auto update = [&]() -> QAbstractButton* {
-        for (auto* const button : m_view.findChildren<QAbstractButton*>())
-            if (button->text() == QStringLiteral("9.1 AVAILABLE"))
-                return button;
-        return nullptr;
+    const auto update = [&] {
+        return withText(m_view.findChildren<QAbstractButton*>(), QStringLiteral("9.1 AVAILABLE"));
     };
     m_view.show();
     EXPECT_EQ(update(), nullptr);
@@ -166,14 +145,6 @@ TEST_F(EditorViewTest, TheMenuLeadsToTheMakersPagesAndToTheUpdates) {
 
 TEST(QtSession, NoEditorInAHostOfAnotherWindowSystem) {
     EXPECT_FALSE(QtSession::begin()) << "this application has no X11 windows";
-}
-
-TEST_F(EditorViewTest, TheKeysTellTheNotesOfTheScale) {
-    auto* const keys = m_view.findChild<ScaleView*>();
-    ASSERT_NE(keys, nullptr);
-    set(Ports::root, 2);
-    set(Ports::scale, 8);
-    EXPECT_EQ(keys->accessibleName(), QStringLiteral("Notes of the scale: D, E, F#, A, B"));
 }
 
 TEST_F(EditorViewTest, AValueBetweenTwoNamesIsShownAsTheOneThatIsHeard) {

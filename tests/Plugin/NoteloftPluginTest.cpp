@@ -17,8 +17,6 @@ using namespace noteloft::plugin;
 
 namespace {
 
-constexpr std::uint32_t otherType = 99;
-
 LV2_URID mapUri(LV2_URID_Map_Handle, const char* uri) {
     static std::map<std::string, LV2_URID> known;
     return known.try_emplace(uri, static_cast<LV2_URID>(known.size() + 1)).first->second;
@@ -113,12 +111,6 @@ TEST_F(NoteloftPluginTest, FramesThatGoBackwardsOrOutsideStayInTheBlock) {
     for (const std::int64_t frame : {20, 10, 1000})
         add(frame, {0xB0, 1, 1});
     EXPECT_EQ(run(64), (Messages{{20, 0xB0, 1, 1}, {20, 0xB0, 1, 1}, {63, 0xB0, 1, 1}}));
-}
-
-TEST_F(NoteloftPluginTest, OtherAtomsAreNotPassedOn) {
-    add(0, {1, 2, 3, 4}, otherType);
-    add(63, {0xF8});
-    EXPECT_EQ(run(64), (Messages{{63, 0xF8}}));
 }
 
 TEST_F(NoteloftPluginTest, RespectsTheRoomInTheOutput) {

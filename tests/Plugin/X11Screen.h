@@ -37,13 +37,6 @@ public:
         flush();
     }
 
-    bool exists(std::uint32_t window) {
-        auto* const reply =
-            xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr);
-        free(reply);
-        return reply != nullptr;
-    }
-
     /// Its width and height in pixels.
     std::pair<int, int> size(std::uint32_t window) {
         auto* const reply =

@@ -4,8 +4,6 @@
 #include "VantorShaders/resource_bundle_accessor.h"
 #include "tests/support/GpuPicture.h"
 
-#include <QTranslator>
-
 #include <gtest/gtest.h>
 
 #include <thread>
@@ -14,7 +12,6 @@ using namespace std::chrono_literals;
 using platform::GpuDevice;
 using platform::GpuView;
 using vantor::MetalShaderRenderer;
-using vantor::RendererError;
 
 namespace {
 
@@ -34,16 +31,6 @@ protected:
     }
 
     GpuView m_view;
-};
-
-class French : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char*, const char* key, const char*, int) const override {
-        return qstrcmp(key, "MetalRenderer.Error.description") == 0 ? QStringLiteral("Aucun appareil")
-                                                                    : QString();
-    }
 };
 
 } // namespace
@@ -87,21 +74,6 @@ TEST_F(MetalShaderRendererTest, DrawsOnTheMainThreadOnly) {
                  "must run on the main thread");
 }
 
-TEST(RendererError, SaysThatThereIsNoDevice) {
-    GpuView view;
-    try {
-        const MetalShaderRenderer renderer(view, QStringLiteral("Main"), vertexShader, fragmentShader);
-        FAIL() << "a view without a device cannot have a renderer";
-    } catch (const RendererError& error) {
-        EXPECT_EQ(error.code(), RendererError::noValidDevice);
-        EXPECT_EQ(error.localizedDescription(), QStringLiteral("No valid metal device"));
-        French french;
-        QCoreApplication::installTranslator(&french);
-        EXPECT_EQ(error.localizedDescription(), QStringLiteral("Aucun appareil"));
-        QCoreApplication::removeTranslator(&french);
-    }
-}
-
 TEST(GpuDevicePreparation, IsFinishedBeforeTheDeviceIsUsed) {
     const auto first = MetalShaderRenderer::prepare(vertexShader, fragmentShader);
     const auto second = MetalShaderRenderer::prepare(vertexShader, fragmentShader);
@@ -110,19 +82,4 @@ TEST(GpuDevicePreparation, IsFinishedBeforeTheDeviceIsUsed) {
     if (!device)
         GTEST_SKIP() << "this machine can make no OpenGL context";
     EXPECT_NO_THROW(vantor::makePipelineState(*device, vertexShader, fragmentShader));
-}
-
-TEST(GpuDevicePreparation, LeavesErrorsToTheRenderer) {
-    const auto preparation = MetalShaderRenderer::prepare(QStringLiteral("none"), fragmentShader);
-    NOTELOFT_REQUIRE_GPU();
-    EXPECT_NO_THROW(vantor::makePipelineState(*GpuDevice::systemDefault(), vertexShader, fragmentShader));
-}
-
-TEST(VantorShadersBundle, IsRequired) {
-    EXPECT_DEATH(
-        {
-            platform::Bundle::setMainDirectory(QStringLiteral("/nowhere"));
-            vantor::resourceBundle();
-        },
-        "^unable to find bundle named VantorShaders_VantorShaders\n$");
 }

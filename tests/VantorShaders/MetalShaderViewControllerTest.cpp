@@ -6,7 +6,6 @@
 #include "tests/support/GpuPicture.h"
 #include "tests/support/Pixels.h"
 
-#include <QHBoxLayout>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -21,10 +20,10 @@ using vantor::MetalShaderViewController;
 namespace {
 
 struct Effect {
-    explicit Effect(const char* fragment = "audioWaveformFragmentShader")
+    Effect()
         : view(new QWidget(&window)),
           controller(view, QStringLiteral("Main"), QStringLiteral("audioWaveformVertexShader"),
-                     QString::fromLatin1(fragment)) {
+                     QStringLiteral("audioWaveformFragmentShader")) {
         window.resize(200, 150);
         view->setGeometry(20, 10, 120, 90);
     }
@@ -136,18 +135,6 @@ TEST(MetalShaderViewControllerStart, DeviceMayArriveAfterTheView) {
     EXPECT_EXIT(runAfterAFailedPreparation(), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(MetalShaderViewControllerTest, CoversAViewWithALayoutOfItsOwn) {
-    Effect effect;
-    auto* const child = new QWidget;
-    auto* const row = new QHBoxLayout(effect.view);
-    row->addWidget(child);
-    effect.activate();
-    EXPECT_EQ(effect.controller.metalKitView()->geometry(), effect.view->rect());
-    EXPECT_EQ(row->count(), 1);
-    effect.view->resize(100, 40);
-    EXPECT_EQ(effect.controller.metalKitView()->geometry(), QRect(0, 0, 100, 40));
-}
-
 TEST_F(MetalShaderViewControllerTest, ViewLivesWhileItAppears) {
     Effect effect;
     EXPECT_EQ(effect.controller.metalKitView(), nullptr);
@@ -205,18 +192,6 @@ TEST_F(MetalShaderViewControllerTest, MindsOnlyItsOwnWindow) {
     EXPECT_EQ(effect.controller.metalKitView(), nullptr);
 }
 
-TEST_F(MetalShaderViewControllerTest, UnknownFunctionsGiveAnEmptyView) {
-    Effect effect("noSuchShader");
-    const QImage before = picture(effect.window);
-    effect.activate();
-    QTest::qWait(50);
-    EXPECT_NE(effect.controller.metalKitView(), nullptr);
-    EXPECT_EQ(effect.controller.renderer(), nullptr);
-    EXPECT_EQ(difference(picture(effect.window), before), 0);
-    effect.controller.handleDidResignKey(&effect.window);
-    effect.controller.handleDidBecomeKey(&effect.window);
-}
-
 TEST_F(MetalShaderViewControllerTest, ViewMayGoFirst) {
     Effect effect;
     effect.activate();
@@ -224,21 +199,6 @@ TEST_F(MetalShaderViewControllerTest, ViewMayGoFirst) {
     EXPECT_EQ(effect.controller.view(), nullptr);
     EXPECT_EQ(effect.controller.metalKitView(), nullptr);
     effect.controller.handleDidResignKey(&effect.window);
-    QTest::qWait(30);
-}
-
-TEST_F(MetalShaderViewControllerTest, ControllerMayGoFirst) {
-    QWidget window;
-    {
-        auto controller = std::make_unique<MetalShaderViewController>(
-            &window, QStringLiteral("Main"), QStringLiteral("audioWaveformVertexShader"),
-            QStringLiteral("audioWaveformFragmentShader"));
-        window.show();
-        ASSERT_NE(controller->renderer(), nullptr);
-    }
-    EXPECT_TRUE(window.findChildren<QWidget*>().isEmpty());
-    window.hide();
-    window.show();
     QTest::qWait(30);
 }
 

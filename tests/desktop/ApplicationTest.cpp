@@ -120,24 +120,6 @@ TEST_F(ApplicationTest, SecondStartShowsTheWindowOfTheFirst) {
     EXPECT_EQ(m_first.state(), QProcess::Running);
 }
 
-TEST_F(ApplicationTest, OnlyItsOwnAddressChecksForUpdates) {
-    startFirst();
-    for (const auto* ignored :
-         {"noteloft://openandupdate", "NOTELOFT://openAndUpdate", "noteloft://", "https://openAndUpdate"})
-        EXPECT_EQ(startAgain({QString::fromLatin1(ignored)}), 0);
-    Desktop::wait(300);
-    EXPECT_EQ(m_desktop.windowTitles(), QStringList{title});
-
-    EXPECT_EQ(startAgain({QStringLiteral("noteloft://openAndUpdate")}), 0);
-    EXPECT_TRUE(Desktop::waitUntil([this] { return m_desktop.windowTitles().size() == 2; }));
-}
-
-TEST_F(ApplicationTest, AddressOfTheFirstStartIsOpenedToo) {
-    m_first.setProcessEnvironment(environment());
-    m_first.start(program, {QStringLiteral("noteloft://openAndUpdate")});
-    EXPECT_TRUE(Desktop::waitUntil([this] { return m_desktop.windowTitles().size() == 2; }));
-}
-
 TEST_F(ApplicationTest, ADialogThatWasAskedForTakesTheKeyboard) {
     m_first.setProcessEnvironment(environment());
     m_first.start(program, {updateAddress});
@@ -260,33 +242,6 @@ TEST_F(ApplicationTest, TitleIsInTheFontThatItBrings) {
                 ASSERT_EQ(shown.pixel(x, y), 0xffffffff) << x << ", " << y;
             }
     EXPECT_GT(white, 300);
-}
-
-#ifdef NOTELOFT_DEVELOPER_MODE
-TEST_F(ApplicationTest, DeveloperModeValidatesThePlugIn) {
-    QByteArray output;
-    m_first.setProcessEnvironment(environment());
-    m_first.start(program, {QStringLiteral("--developer")});
-    const auto isPrintedTwice = [&] {
-        output += m_first.readAllStandardOutput();
-        return output.count(" checks passed\n") == 2;
-    };
-    EXPECT_TRUE(Desktop::waitUntil(isPrintedTwice)) << output.constData();
-}
-#endif
-
-TEST_F(ApplicationTest, ShowsTheAddressOfALinkThatNothingCanOpen) {
-    auto variables = environment();
-    variables.remove(QStringLiteral("BROWSER"));
-    variables.insert(QStringLiteral("XDG_DATA_DIRS"), m_runtime.path());
-    m_first.setProcessEnvironment(variables);
-    m_first.start(program, QStringList());
-    ASSERT_TRUE(isActive(title));
-    Desktop::wait(200);
-    m_desktop.press(Key::f1);
-    EXPECT_TRUE(Desktop::waitUntil([this] { return m_desktop.windowTitles().size() == 2; }));
-    m_desktop.press(Key::escape);
-    EXPECT_TRUE(windowsBecome({title}));
 }
 
 TEST_F(ApplicationTest, AnswersInTheUsualForm) {

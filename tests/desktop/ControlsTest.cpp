@@ -237,27 +237,3 @@ TEST_F(ControlsTest, APressThatOpensAMenuOrMovesTheWindowEndsThere) {
                 });
     EXPECT_TRUE(clicks());
 }
-
-TEST_F(ControlsTest, AMenuWhoseButtonIsDisabledLeavesTheInputToOthers) {
-    platform::PopUpButton popUp(false, &m_window);
-    popUp.addItem(QStringLiteral("Up"));
-    popUp.setGeometry(20, 220, 120, 24);
-    popUp.show();
-    m_desktop.click(inside(popUp));
-    ASSERT_TRUE(Desktop::waitUntil([&] { return popUp.menu()->isVisible(); }));
-    popUp.setEnabled(false);
-    m_desktop.click(inside(*m_buttons.front()));
-    EXPECT_TRUE(Desktop::waitUntil([&] { return m_target.count == 1; }));
-}
-
-TEST_F(ControlsTest, TheClickThatActivatesAWindowCounts) {
-    QWidget other;
-    other.setGeometry(500, 100, 100, 100);
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(Desktop::waitUntil([&] { return other.isActiveWindow(); }));
-    auto& button = dynamic_cast<CursorButton&>(*m_buttons[5]);
-    ASSERT_TRUE(button.acceptsFirstMouse());
-    m_desktop.click(inside(button));
-    EXPECT_TRUE(Desktop::waitUntil([&] { return m_target.count == 1; }));
-}

@@ -11,7 +11,6 @@
 #include <memory>
 #include <vector>
 
-using testing::ElementsAre;
 using testing::ElementsAreArray;
 
 namespace {
@@ -103,12 +102,6 @@ public:
 
     MidiLoop& loop() { return *m_loop; }
 
-    /// A command of the host's console.
-    void say(const char* command) {
-        m_host.write(command);
-        m_host.write("\n");
-    }
-
     bool waitUntil(const std::function<bool()>& condition) const { return m_host.waitUntil(condition); }
 
     /// What comes back of it.
@@ -182,13 +175,3 @@ TEST_P(JalvBlockTest, DistancesAreKept) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Plugin, JalvBlockTest, testing::Values(32, 1000, 4096));
-
-TEST(JalvHoldTest, HeldNotesEndWhenTheHostSwitchesItOff) {
-    Studio studio({"hold=1"});
-    ASSERT_FALSE(testing::Test::HasFailure());
-    EXPECT_THAT(studio.play({on(0, 60), off(500, 60), on(700, 62)}), ElementsAre(on(0, 60), on(700, 62)));
-    studio.say("hold = 0");
-    ASSERT_TRUE(studio.waitUntil([&] { return studio.loop().record().size() == 3; }));
-    EXPECT_EQ(studio.loop().record().back().bytes, off(0, 60).bytes);
-    EXPECT_EQ(studio.play({off(0, 62)}).back().bytes, off(0, 62).bytes);
-}

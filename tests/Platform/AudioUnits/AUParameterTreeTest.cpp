@@ -123,41 +123,30 @@ TEST(AUParameterTree, NewTreeTakesItsParametersOver) {
     EXPECT_EQ(latter, 1) << "a parameter does not keep its tree";
 }
 
-TEST(AUParameterTree, ImplementorMayRemoveAnObserverThatWouldBeNext) {
+TEST(AUParameterTree, AnObserverMayBeRemovedByWhoeverIsToldBeforeIt) {
     const auto level = parameter("level", 5);
     const auto tree = AUParameterTree::createTree({level});
-    int calls = 0;
-    const auto token = level->tokenByAddingParameterObserver([&](auto, float) { ++calls; });
-    tree->setImplementorValueObserver([&](AUParameter&, float) { level->removeParameterObserver(token); });
-    level->setValue(1);
-    EXPECT_EQ(calls, 0);
-}
-
-TEST(AUParameterTree, ObserverMayRemoveItself) {
-    const auto level = parameter("level", 5);
-    int calls = 0;
-    AUParameterObserverToken token;
-    token = level->tokenByAddingParameterObserver([&](auto, float) {
-        level->removeParameterObserver(token);
-        ++calls;
-    });
-    level->setValue(1);
-    level->setValue(2);
-    EXPECT_EQ(calls, 1);
-}
-
-TEST(AUParameterTree, ObserverMayRemoveTheNext) {
-    const auto level = parameter("level", 5);
     std::string heard;
-    AUParameterObserverToken second;
-    level->tokenByAddingParameterObserver([&](auto, float) {
-        level->removeParameterObserver(second);
-        heard += '1';
-    });
-    second = level->tokenByAddingParameterObserver([&](auto, float) { heard += '2'; });
-    level->tokenByAddingParameterObserver([&](auto, float) { heard += '3'; });
+    AUParameterObserverToken first, second, third;
+    const auto observe = [&](char name, AUParameterObserverToken& removed) {
+        return level->tokenByAddingParameterObserver([&heard, &level, &removed, name](auto, float) {
+            level->removeParameterObserver(removed);
+            heard += name;
+        });
+    };
+    tree->setImplementorValueObserver([&](AUParameter&, float) { level->removeParameterObserver(first); });
+    first = observe('1', first);
+    second = observe('2', third);
+    third = observe('3', third);
+    const auto fourth = observe('4', second);
     level->setValue(1);
-    EXPECT_EQ(heard, "13");
+    EXPECT_EQ(heard, "24") << "the implementor removes the first, the second the third";
+    level->removeParameterObserver(fourth);
+    AUParameterObserverToken own;
+    own = observe('o', own);
+    level->setValue(2);
+    level->setValue(3);
+    EXPECT_EQ(heard, "24o") << "one may remove itself";
 }
 
 TEST(AUParameterTree, RemovedObserverNoLongerRunsAnywhere) {

@@ -71,9 +71,6 @@ TEST(AlignedBoxLayout, TextsOfARowStandOnOneLine) {
         for (const QWidget* const widget : std::initializer_list<QWidget*>{usual, below, large, label})
             EXPECT_TRUE(window.rect().contains(widget->geometry()));
     }
-    label->setText(QStringLiteral("H\nH"));
-    label->hide();
-    EXPECT_EQ(row->sizeHint().height(), row->minimumSize().height());
 }
 
 TEST(AlignedBoxLayout, NeighboursTouchAtTheirAlignmentRectangles) {

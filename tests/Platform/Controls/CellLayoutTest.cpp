@@ -48,13 +48,3 @@ TEST(CellLayout, TheTitleGivesWayToTheImage) {
     EXPECT_EQ(frames.title.width(), 16);
     EXPECT_EQ(arrange(content(ImagePosition::imageLeft), {0, 0, 10, 30}).title.width(), 0);
 }
-
-TEST(CellLayout, OtherPositions) {
-    const CellFrames above = arrange(content(ImagePosition::imageAbove), bounds);
-    EXPECT_LT(above.image.bottom(), above.title.top());
-    EXPECT_EQ(naturalSize(content(ImagePosition::imageBelow)), QSizeF(40, 34));
-    const CellFrames over = arrange(content(ImagePosition::imageOverlaps), bounds);
-    EXPECT_EQ(over.image.center(), over.title.center());
-    EXPECT_TRUE(arrange(content(ImagePosition::noImage), bounds).image.isEmpty());
-    EXPECT_EQ(naturalSize(content(ImagePosition::imageOnly)), QSizeF(16, 16));
-}

@@ -1,14 +1,9 @@
 #include "Platform/Controls/Menu.h"
-#include "Platform/Controls/FileIcon.h"
-#include "Platform/Controls/ImageIcon.h"
 #include "Platform/Controls/KeyEquivalent.h"
-#include "tests/support/Pixels.h"
 
-#include <QApplication>
 #include <QSignalSpy>
 #include <QStyleHints>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -210,26 +205,6 @@ TEST_F(MenuTest, AnItemMayRemoveItself) {
     EXPECT_TRUE(m_window.senders.isEmpty());
 }
 
-TEST_F(MenuTest, KeysSendTheActionOfAClosedMenu) {
-    MenuItem& item = m_menu.addItem(QStringLiteral("Play"), play, QStringLiteral("p"));
-    m_window.addAction(&item);
-    QTest::keyClick(&m_window, Qt::Key_P, Qt::ControlModifier);
-    EXPECT_EQ(m_window.senders, QList<QObject*>{&item});
-}
-
-TEST_F(MenuTest, ArrowsSkipWhatCannotBeChosen) {
-    m_menu.addItem(MenuItem::sectionHeader(QStringLiteral("Header")));
-    m_menu.addItem(QStringLiteral("Disabled")).setEnabled(false);
-    const MenuItem& first = m_menu.addItem(QStringLiteral("First"));
-    m_menu.addItem(MenuItem::separator());
-    const MenuItem& second = m_menu.addItem(QStringLiteral("Second"));
-    open();
-    QTest::keyClick(&m_menu, Qt::Key_Down);
-    EXPECT_EQ(m_menu.activeAction(), &first);
-    QTest::keyClick(&m_menu, Qt::Key_Down);
-    EXPECT_EQ(m_menu.activeAction(), &second);
-}
-
 TEST_F(MenuTest, TypingFindsTheBeginningOfATitle) {
     for (const auto* title : {"Bass", "Brass section", "Grand piano", "Grand organ", "Gong"})
         m_menu.addItem(QString::fromLatin1(title));
@@ -241,9 +216,6 @@ TEST_F(MenuTest, TypingFindsTheBeginningOfATitle) {
     EXPECT_EQ(typed(QStringLiteral("b")), QStringLiteral("Brass section")) << "the same letter goes on";
     pause();
     EXPECT_EQ(typed(QStringLiteral("b")), QStringLiteral("Bass")) << "around the end";
-    pause();
-    EXPECT_EQ(typed(QStringLiteral("g")), QStringLiteral("Grand piano"));
-    EXPECT_EQ(typed(QStringLiteral("r")), QStringLiteral("Grand piano")) << "it still matches";
     pause();
     EXPECT_EQ(typed(QStringLiteral("GRAND O")), QStringLiteral("Grand organ"));
     pause();
@@ -272,74 +244,19 @@ TEST(MenuItem, ShowsItsTitleAsItIs) {
     EXPECT_EQ(item.text(), QStringLiteral("Rhythm && Blues &&&& more"));
 }
 
-TEST(MenuStyle, ShowsMarksHeadersAndWhatIsDisabled) {
-    const auto lookOf = [](const std::function<void(MenuItem&)>& change, const QString& title) {
-        Menu menu;
-        MenuItem& item = menu.addItem(title);
-        item.setState(MenuItem::State::off);
-        change(item);
-        menu.resize(200, 40);
-        return picture(menu);
-    };
-    const QString title = QStringLiteral("Title");
-    const std::vector<QImage> looks{
-        lookOf([](MenuItem&) {}, title),
-        lookOf([](MenuItem& item) { item.setState(MenuItem::State::on); }, title),
-        lookOf([](MenuItem& item) { item.setState(MenuItem::State::mixed); }, title),
-        lookOf([](MenuItem& item) { item.setEnabled(false); }, title),
-        lookOf([](MenuItem& item) { item.setSeparator(true); }, title),
-        lookOf([](MenuItem& item) { item.setSubmenu(std::make_unique<Menu>()); }, title),
-        lookOf([](MenuItem& item) { item.setShortcut(Qt::Key_A); }, title),
-        lookOf([](MenuItem& item) { item.setIcon(platform::fileIcon(QStringLiteral("a.txt"))); }, title)};
-    for (std::size_t i = 0; i < looks.size(); ++i)
-        for (std::size_t j = 0; j < i; ++j)
-            EXPECT_GT(difference(looks[i], looks[j]), 30) << i << " looks like " << j;
-
-    Menu menu;
-    menu.addItem(QString(500, u'm'));
-    EXPECT_LT(menu.sizeHint().width(), 500) << "a long title is shortened";
-}
-
-TEST(MenuStyle, PanelsAreLighterThanTheWindowBelow) {
-    const QPalette light(QColor(0xdc, 0xdc, 0xe0), QColor(0xec, 0xec, 0xf4));
-    const QPalette dark(QColor(0x2c, 0x2b, 0x3b), QColor(0x1c, 0x1b, 0x28));
-    for (QPalette palette : {light, dark}) {
-        const bool isDark = palette.window().color().lightness() < 128;
-        palette.setColor(QPalette::Base, isDark ? Qt::black : Qt::white);
-        Menu menu;
-        menu.setPalette(palette);
-        menu.resize(40, 40);
-        EXPECT_GT(QColor(picture(menu).pixel(20, 20)).lightness(), palette.window().color().lightness());
-    }
-}
-
 TEST(KeyEquivalent, NamesTheKeys) {
-    const auto keys = [](const QString& key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
-        return keyEquivalent(key, modifiers).toString(QKeySequence::PortableText);
-    };
-    EXPECT_EQ(keys(QStringLiteral("q")), QStringLiteral("Ctrl+Q"));
-    EXPECT_EQ(keys(QStringLiteral("Q")), QStringLiteral("Ctrl+Shift+Q"));
-    EXPECT_EQ(keys(QStringLiteral("z"), Qt::ControlModifier | Qt::ShiftModifier),
-              QStringLiteral("Ctrl+Shift+Z"));
-    EXPECT_EQ(keys(QStringLiteral(","), Qt::AltModifier), QStringLiteral("Alt+,"));
-    EXPECT_EQ(keys(QStringLiteral("+")), QStringLiteral("Ctrl++"));
-    EXPECT_EQ(keys(QStringLiteral(" "), {}), QStringLiteral("Space"));
-    EXPECT_EQ(keys(QStringLiteral("\r"), {}), QStringLiteral("Return"));
-    EXPECT_EQ(keys(QStringLiteral("\b")), QStringLiteral("Ctrl+Backspace"));
-    EXPECT_EQ(keys(QStringLiteral("F5"), {}), QStringLiteral("F5"));
-    EXPECT_EQ(keys(QStringLiteral("Left")), QStringLiteral("Ctrl+Left"));
-    EXPECT_EQ(keys({}), QString());
-    EXPECT_EQ(keys(QStringLiteral("no such key")), QString());
-}
-
-TEST(FileIcon, IsSharpAtEveryScale) {
-    const QIcon icon = platform::fileIcon(QStringLiteral("/nowhere/song.mid"));
-    ASSERT_FALSE(icon.isNull());
-    for (const int scale : {1, 2, 3}) {
-        const QPixmap pixmap = icon.pixmap(QSize(16, 16), scale);
-        EXPECT_EQ(pixmap.size(), QSize(16, 16) * scale);
-        EXPECT_EQ(pixmap.deviceIndependentSize(), QSizeF(16, 16));
-    }
+    constexpr auto control = Qt::ControlModifier;
+    const std::vector<std::tuple<QString, Qt::KeyboardModifiers, const char*>> keys{
+        {QStringLiteral("q"), control, "Ctrl+Q"},
+        {QStringLiteral("Q"), control, "Ctrl+Shift+Q"},
+        {QStringLiteral("z"), control | Qt::ShiftModifier, "Ctrl+Shift+Z"},
+        {QStringLiteral(","), Qt::AltModifier, "Alt+,"},
+        {QStringLiteral(" "), {}, "Space"},
+        {QStringLiteral("\b"), control, "Ctrl+Backspace"},
+        {QStringLiteral("Left"), control, "Ctrl+Left"},
+        {QStringLiteral("no such key"), control, ""}};
+    for (const auto& [key, modifiers, name] : keys)
+        EXPECT_EQ(keyEquivalent(key, modifiers).toString(QKeySequence::PortableText), QLatin1String(name));
 }
 
 #include "MenuTest.moc"

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <thread>
 
 using platform::Selector;
 using platform::sendAction;
@@ -95,11 +94,6 @@ TEST_F(ActionTest, WithATargetAsksNobodyElse) {
     EXPECT_EQ(m_window->sender, nullptr);
     EXPECT_FALSE(sendAction(play, &m_panel, nullptr));
     EXPECT_EQ(m_field.plays + m_delegate.plays, 0);
-}
-
-TEST_F(ActionTest, BelongsToTheMainThread) {
-    EXPECT_DEATH(std::thread([] { sendAction(play, nullptr, nullptr); }).join(),
-                 "must run on the main thread");
 }
 
 #include "ActionTest.moc"

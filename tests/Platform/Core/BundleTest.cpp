@@ -24,12 +24,6 @@ protected:
         return m_root.filePath(relative);
     }
 
-    void write(const QString& relative, const QByteArray& content) const {
-        QFile file(m_root.filePath(relative));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-
     const QString m_mainDirectory = Bundle::main().directory();
     QTemporaryDir m_root;
 };
@@ -67,18 +61,6 @@ TEST_F(BundleTest, ModuleIsFoundBesideItsLoadedCodeFromAnyFolder) {
         << "the program's own comes first";
     QDir::setCurrent(before);
     dlclose(code);
-}
-
-TEST_F(BundleTest, InformationIsEmptyWhenMissingOrBroken) {
-    make(QStringLiteral("app"));
-    const QString directory = m_root.filePath(QStringLiteral("app"));
-    EXPECT_EQ(Bundle(directory).information(QStringLiteral("version")), QString());
-    write(QStringLiteral("app/Info.json"), "{ \"version\": ");
-    EXPECT_EQ(Bundle(directory).information(QStringLiteral("version")), QString());
-    write(QStringLiteral("app/Info.json"), R"({"version": "1.2", "build": 45})");
-    const Bundle bundle(directory);
-    EXPECT_EQ(bundle.information(QStringLiteral("version")), QStringLiteral("1.2"));
-    EXPECT_EQ(bundle.information(QStringLiteral("build")), QString()) << "only strings are information";
 }
 
 TEST(CodeLocation, TellsTheProgramFromItsLibraries) {

@@ -28,8 +28,6 @@ protected:
     RecentDocuments m_documents{settings()};
 };
 
-const auto key = QStringLiteral("RecentDocuments/urls");
-
 } // namespace
 
 TEST_F(RecentDocumentsTest, KeepsTheLastTenWithTheLatestFirst) {
@@ -62,34 +60,6 @@ TEST_F(RecentDocumentsTest, SurviveARestart) {
     file.close();
     EXPECT_EQ(m_documents.urls(), QList{document(QStringLiteral("other.mid"))})
         << "so does another process's";
-}
-
-TEST_F(RecentDocumentsTest, BadSettingsLoseNothingElse) {
-    const auto stored = settings();
-    const QString good = document(QStringLiteral("good.mid")).toString();
-    stored->setValue(QStringLiteral("other"), 7);
-    stored->setValue(key, QStringList{QString(), QStringLiteral("https://quillfen.example/a"), good, good,
-                                      QStringLiteral("file://%zz"), QStringLiteral("file:///")});
-    stored->sync();
-    EXPECT_EQ(m_documents.urls(), QList{QUrl(good)});
-    stored->setValue(key, QVariantMap{{QStringLiteral("a"), 1}});
-    stored->sync();
-    EXPECT_TRUE(m_documents.urls().isEmpty());
-    m_documents.note(QUrl(good));
-    EXPECT_EQ(m_documents.urls(), QList{QUrl(good)});
-    EXPECT_EQ(settings()->value(QStringLiteral("other")).toInt(), 7);
-}
-
-TEST_F(RecentDocumentsTest, NotesWhatCouldBeOpened) {
-    QList<QUrl> opened;
-    m_documents.opener = [&](const QUrl& url) {
-        opened << url;
-        return url.fileName() != u"broken.mid";
-    };
-    EXPECT_FALSE(m_documents.open(document(QStringLiteral("broken.mid"))));
-    EXPECT_TRUE(m_documents.open(document(QStringLiteral("song.mid"))));
-    EXPECT_EQ(opened.size(), 2);
-    EXPECT_EQ(m_documents.urls(), QList{document(QStringLiteral("song.mid"))});
 }
 
 TEST(SharedRecentDocuments, AnswerToClearingAfterEverybodyElse) {

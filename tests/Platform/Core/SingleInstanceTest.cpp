@@ -1,16 +1,13 @@
 #include "Platform/Core/SingleInstance.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <thread>
 

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <thread>

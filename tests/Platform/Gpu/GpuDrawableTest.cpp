@@ -45,10 +45,3 @@ TEST_F(GpuDrawableTest, HandedOutPicturesStayAsTheyWere) {
     EXPECT_EQ(white.pixel(0, 0), qRgb(255, 255, 255));
     EXPECT_FALSE(white.hasAlphaChannel());
 }
-
-TEST_F(GpuDrawableTest, EveryFrameBeginsBlack) {
-    GpuPicture picture(GpuPicture::pipeline("if (gl_FragCoord.x > float(seed)) discard; color = vec4(1.0);"),
-                       {8, 8});
-    EXPECT_EQ(picture.draw(8).pixel(6, 4), qRgb(255, 255, 255));
-    EXPECT_EQ(picture.draw(4).pixel(6, 4), qRgb(0, 0, 0));
-}

@@ -1,5 +1,6 @@
 #include "Platform/Gpu/GpuView.h"
 
+#include "tests/support/EventCounter.h"
 #include "tests/support/GpuPicture.h"
 #include "tests/support/Pixels.h"
 
@@ -12,16 +13,6 @@ using platform::GpuView;
 
 namespace {
 
-class TimerCounter : public QObject {
-public:
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::Timer ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
-
 class GpuViewTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -30,7 +21,6 @@ protected:
         m_view.resize(101, 53);
         m_view.setDevice(GpuDevice::systemDefault());
         m_view.setDelegate(m_white.get());
-        m_view.installEventFilter(&m_timers);
     }
 
     void show() {
@@ -44,9 +34,9 @@ protected:
         return (QSizeF(width, height) * m_view.devicePixelRatioF()).toSize();
     }
 
-    TimerCounter m_timers;
     std::unique_ptr<GpuFrames> m_white;
     GpuView m_view;
+    EventCounter m_timers{m_view, QEvent::Timer};
 };
 
 } // namespace
@@ -87,20 +77,6 @@ TEST_F(GpuViewTest, RunsOnlyWhileShownAndUnpaused) {
     EXPECT_EQ(m_timers.count, paused);
 }
 
-TEST_F(GpuViewTest, KeepsItsFrameRate) {
-    m_view.setPreferredFramesPerSecond(20);
-    m_view.setPaused(false);
-    show();
-    const int before = m_white->frames;
-    QTest::qWait(1000);
-    EXPECT_LE(m_white->frames - before, 21);
-    EXPECT_GE(m_white->frames - before, 8);
-    m_view.setPreferredFramesPerSecond(0);
-    const int stopped = m_timers.count;
-    QTest::qWait(100);
-    EXPECT_EQ(m_timers.count, stopped);
-}
-
 TEST_F(GpuViewTest, AnnouncesItsSizeInPixelsBeforeTheFrame) {
     show();
     EXPECT_EQ(m_white->sizes, QList<QSizeF>{pixels(101, 53)});
@@ -116,32 +92,7 @@ TEST_F(GpuViewTest, AnnouncesItsSizeInPixelsBeforeTheFrame) {
     EXPECT_EQ(m_white->sizes.size(), 2) << "the same size is no news";
 }
 
-TEST_F(GpuViewTest, ShowsTheWholePicture) {
-    show();
-    const QImage image = picture(m_view);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            ASSERT_EQ(image.pixel(x, y), 0xffffffff) << x << ", " << y;
-}
-
-TEST_F(GpuViewTest, AnEmptyViewHasNothingToDrawInto) {
-    QWidget window;
-    window.resize(60, 60);
-    m_view.setParent(&window);
-    m_view.setGeometry(0, 0, 30, 0);
-    window.show();
-    m_view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    m_view.setNeedsDisplay();
-    QTest::qWait(30);
-    EXPECT_FALSE(m_view.currentRenderPassDescriptor());
-    m_view.resize(30, 30);
-    QTest::qWait(30);
-    EXPECT_EQ(QSizeF(m_view.image().size()), pixels(30, 30));
-    m_view.setParent(nullptr);
-}
-
-TEST(GpuViewWithoutDevice, PaintsNothing) {
+TEST(GpuViewThatCannotDraw, PaintsNothingAndHasNoTimer) {
     QWidget red;
     red.resize(60, 40);
     red.setPalette(QPalette(Qt::red));
@@ -151,25 +102,10 @@ TEST(GpuViewWithoutDevice, PaintsNothing) {
     view.setGeometry(10, 10, 30, 20);
     view.setPaused(false);
     EXPECT_EQ(difference(picture(red), before), 0);
-    EXPECT_TRUE(view.image().isNull());
-    EXPECT_FALSE(view.currentRenderPassDescriptor());
-
-    TimerCounter timers;
-    view.installEventFilter(&timers);
+    const EventCounter timers(view, QEvent::Timer);
     red.show();
     QTest::qWait(100);
     EXPECT_EQ(timers.count, 0) << "there is nothing to animate";
-}
-
-TEST(GpuViewWithoutDelegate, PaintsNothing) {
-    NOTELOFT_REQUIRE_GPU();
-    QWidget red;
-    red.resize(60, 40);
-    red.setPalette(QPalette(Qt::red));
-    red.setAutoFillBackground(true);
-    const QImage before = picture(red);
-    GpuView view(&red);
     view.setDevice(GpuDevice::systemDefault());
-    view.setGeometry(10, 10, 30, 20);
-    EXPECT_EQ(difference(picture(red), before), 0);
+    EXPECT_EQ(difference(picture(red), before), 0) << "with a device but without a delegate";
 }

@@ -66,12 +66,6 @@ protected:
 
 } // namespace
 
-TEST_F(RenderPipelineTest, IsCompiledOnceAndShared) {
-    writeLibrary();
-    const auto pipeline = m_device->makeRenderPipelineState(descriptor("white"));
-    EXPECT_EQ(m_device->makeRenderPipelineState(descriptor("white")), pipeline);
-}
-
 TEST_F(RenderPipelineTest, ErrorsSayWhatIsWrong) {
     writeLibrary();
     for (int attempt = 0; attempt < 2; ++attempt) {

@@ -1,10 +1,8 @@
 #include "Platform/Graphics/Image.h"
-#include "Platform/Graphics/NineSlice.h"
 #include "tests/support/Pixels.h"
 
 #include <QPainter>
 #include <QTemporaryDir>
-#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -133,35 +131,6 @@ TEST_P(ImageTest, IsDrawnOnWholePixels) {
     }
 }
 
-TEST_P(ImageTest, HasThePixelsOfThePictureThatItsWidgetIsRenderedInto) {
-    class View : public QWidget {
-    public:
-        explicit View(Image image) : m_image(std::move(image)) { resize(30, 20); }
-
-    protected:
-        void paintEvent(QPaintEvent*) override {
-            QPainter painter(this);
-            m_image.draw(painter, rect());
-        }
-
-    private:
-        Image m_image;
-    };
-
-    const double scale = GetParam();
-    QWidget window;
-    window.resize(60, 50);
-    View view{Image(frame())};
-    view.setParent(&window);
-    view.move(13, 7); // between pixels, at some scales
-    QImage drawn = canvas(window.size(), scale);
-    window.render(&drawn, {}, {}, QWidget::DrawChildren);
-    const QImage expected = Image(frame()).bitmap(view.size(), scale);
-    const QPoint place = (QPointF(view.pos()) * scale).toPoint();
-    EXPECT_EQ(difference(drawn.copy(QRect(place, expected.size())), expected), 0);
-    view.setParent(nullptr);
-}
-
 INSTANTIATE_TEST_SUITE_P(Scales, ImageTest, testing::Values(1.0, 1.25, 1.5, 2.0, 3.0));
 
 using ImageFileTest = ImageTest;
@@ -176,17 +145,6 @@ TEST_F(ImageFileTest, TilesWithoutSeams) {
     for (int y = 0; y < 17; ++y)
         for (int x = 0; x < 33; ++x)
             ASSERT_EQ(picture.pixel(x, y), pattern(x, y)) << x << ", " << y;
-}
-
-TEST_F(ImageFileTest, TilesEdgesBetweenTheirCorners) {
-    QImage source(12, 12, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < 12; ++y)
-        for (int x = 0; x < 12; ++x)
-            source.setPixel(x, y, qRgb(20 * x, 20 * y, 0));
-    const QImage picture = platform::drawNineSlice(source, {4, 4, 4, 4}, {31, 12}, true);
-    for (int x = 4; x < 27; ++x)
-        ASSERT_EQ(picture.pixel(x, 2), source.pixel(4 + (x - 4) % 4, 2)) << x;
-    EXPECT_EQ(picture.pixel(30, 11), source.pixel(11, 11));
 }
 
 TEST_F(ImageFileTest, KeepsWhatItHasDrawn) {
@@ -224,40 +182,4 @@ TEST_F(ImageFileTest, OnlyATemplateTakesAColor) {
     }
     EXPECT_NEAR(qRed(qUnpremultiply(shape.bitmap({12, 12}, 1).pixel(11, 5))), 200, 1)
         << "the template itself stays as it was";
-}
-
-TEST_F(ImageFileTest, FadesInEachDrawingAlone) {
-    auto description = frame();
-    description.files = {{1, write("shape", {12, 12}, [](int, int) { return qRgba(200, 100, 0, 200); })}};
-    const Image image(description);
-    const auto drawn = [&](float opacity) {
-        QImage target({12, 12}, QImage::Format_ARGB32_Premultiplied);
-        target.fill(Qt::transparent);
-        QPainter painter(&target);
-        image.draw(painter, QRectF(0, 0, 12, 12), opacity);
-        painter.end();
-        return target.pixel(5, 5);
-    };
-    EXPECT_NEAR(qAlpha(drawn(0.25F)), 50, 1);
-    EXPECT_NEAR(qAlpha(drawn(0.5F)), 100, 1);
-    EXPECT_EQ(qAlpha(drawn(1)), 200);
-    EXPECT_NEAR(qRed(qUnpremultiply(drawn(0.5F))), 200, 2);
-}
-
-TEST_F(ImageFileTest, WithoutPixelsDrawsNothing) {
-    QImage drawn = canvas({20, 20}, 1);
-    QPainter painter(&drawn);
-    const Image none;
-    none.draw(painter, QRectF(0, 0, 20, 20));
-    none.tinted(Qt::red).draw(painter, QRectF(0, 0, 20, 20));
-    Image missing(
-        {.size = QSizeF(9, 9), .capInsets = {}, .files = {{1, m_root.filePath(QStringLiteral("no"))}}});
-    missing.draw(painter, QRectF(0, 0, 20, 20));
-    Image(frame()).draw(painter, QRectF(4, 4, 0, 0));
-    painter.end();
-    EXPECT_EQ(difference(drawn, canvas({20, 20}, 1)), 0);
-    EXPECT_TRUE(none.isNull());
-    EXPECT_TRUE(none.bitmap({9, 9}, 1).isNull());
-    EXPECT_EQ(none.size(), QSizeF(0, 0));
-    EXPECT_EQ(missing.size(), QSizeF(9, 9));
 }

@@ -110,7 +110,6 @@ TEST(Appcast, RefusesWhatIsNoProperFeed) {
         EXPECT_TRUE(appcast.items.isEmpty());
         return appcast.error.toStdString();
     };
-    EXPECT_EQ(error("<!DOCTYPE rss><rss/>"), "the feed declares a document type");
     EXPECT_EQ(error("<!DOCTYPE rss [<!ENTITY a \"b\">]><rss>&a;</rss>"), "the feed declares a document type");
     EXPECT_EQ(error("<html/>"), "the document is no feed");
     EXPECT_EQ(error("<rss>\n&a;</rss>"), "line 2 of the feed is damaged");

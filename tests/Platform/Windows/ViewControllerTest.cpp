@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
 namespace {
@@ -59,13 +58,4 @@ TEST(ViewController, IsNotTouchedByMinimising) {
     deliver(QHideEvent());
     deliver(QShowEvent());
     EXPECT_EQ(controller.calls, "wa");
-}
-
-TEST(ViewController, OutlivesItsView) {
-    auto view = std::make_unique<QWidget>();
-    Recorder controller(view.get());
-    view->show();
-    view.reset();
-    EXPECT_EQ(controller.view(), nullptr);
-    EXPECT_EQ(controller.calls, "wad");
 }

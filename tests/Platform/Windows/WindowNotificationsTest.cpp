@@ -1,7 +1,5 @@
 #include "Platform/Windows/WindowNotifications.h"
 
-#include <QApplication>
-#include <QMenu>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -54,23 +52,6 @@ TEST_F(WindowNotificationsTest, FirstResignsBeforeTheNextBecomesKey) {
     EXPECT_EQ(WindowNotifications::shared().keyWindow(), &m_second);
     activate(*m_first);
     EXPECT_EQ(m_log, "+1-1+2-2+1");
-}
-
-TEST_F(WindowNotificationsTest, MenusLeaveTheWindowKey) {
-    activate(*m_first);
-    m_log.clear();
-    QMenu menu(m_first.get());
-    menu.addAction(QStringLiteral("A"));
-    menu.popup(m_first->mapToGlobal(QPoint(5, 5)));
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu));
-    menu.windowHandle()->requestActivate();
-    QTest::qWait(20);
-    EXPECT_EQ(m_log, "");
-    EXPECT_EQ(WindowNotifications::shared().keyWindow(), m_first.get());
-    menu.close();
-    m_first->activateWindow();
-    QTest::qWait(20);
-    EXPECT_EQ(m_log, "");
 }
 
 TEST_F(WindowNotificationsTest, ADestroyedWindowIsForgotten) {

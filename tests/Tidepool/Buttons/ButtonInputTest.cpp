@@ -1,20 +1,12 @@
-#include "Tidepool/Buttons/BackButton.h"
-#include "Tidepool/Buttons/CornerButton.h"
-#include "Tidepool/Buttons/CursorButton.h"
-#include "Tidepool/Buttons/DarkHighlightButton.h"
-#include "Tidepool/Buttons/FavouriteCheckBox.h"
-#include "Tidepool/Buttons/PopUpCyclingButton.h"
-#include "Tidepool/Buttons/StyledCheckBox.h"
-#include "Tidepool/Buttons/ToolButton.h"
-#include "Tidepool/Buttons/VantorPushButton.h"
+#include "Tidepool/Buttons/StyledButton.h"
 #include "tests/support/ActionCounter.h"
+#include "tests/support/EventCounter.h"
 
 #include <QButtonGroup>
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
-#include <QPointingDevice>
 #include <QShortcut>
 #include <QSignalSpy>
 #include <QTest>
@@ -27,19 +19,6 @@
 using namespace tidepool;
 
 namespace {
-
-/// Counts the presses of a key that a widget gets.
-class KeyCounter : public QObject {
-public:
-    explicit KeyCounter(QWidget& widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::KeyPress ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
 
 /// One button in a window with a shortcut for Escape and a field that has the keyboard.
 class ButtonInputTest : public testing::Test {
@@ -116,31 +95,6 @@ TEST_F(ButtonInputTest, ClickSendsTheActionOnRelease) {
     EXPECT_EQ(released.count(), 1);
 }
 
-TEST_F(ButtonInputTest, EveryClassClicks) {
-    const std::vector<platform::PushButton*> buttons{
-        new platform::PushButton, new StyledCheckBox,  new FavouriteCheckBox,   new BackButton,
-        new CornerButton,         new CursorButton,    new DarkHighlightButton, new PopUpCyclingButton,
-        new ToolButton,           new VantorPushButton};
-    for (platform::PushButton* const button : buttons) {
-        add(button);
-        m_target.count = 0;
-        click();
-        QTest::keyClick(button, Qt::Key_Space);
-        EXPECT_EQ(m_target.count, 2) << button->metaObject()->className();
-    }
-}
-
-TEST_F(ButtonInputTest, LeavingAndReleasingOutsideSendsNothing) {
-    press();
-    move(outside());
-    EXPECT_FALSE(m_button->isDown());
-    move(inside());
-    EXPECT_TRUE(m_button->isDown());
-    move(outside());
-    release(outside());
-    EXPECT_EQ(m_target.count, 0);
-}
-
 TEST_F(ButtonInputTest, APressEndsOnceWithoutAClickAndTheNextOneCounts) {
     QMenu menu;
     menu.addAction(QStringLiteral("Item"));
@@ -209,7 +163,7 @@ TEST_F(ButtonInputTest, ThePointerHoldsTheButtonThoughTheFocusLeavesIt) {
 
 TEST_F(ButtonInputTest, EscapeReachesNobodyElseWhileItEndsAPress) {
     QSignalSpy shortcut(&m_escape, &QShortcut::activated);
-    const KeyCounter keys(m_field);
+    const EventCounter keys(m_field, QEvent::KeyPress);
     press();
     QTest::keyClick(&m_field, Qt::Key_Escape);
     EXPECT_EQ(shortcut.count(), 0);
@@ -278,19 +232,6 @@ TEST_F(ButtonInputTest, DisablingAndHidingCancelWhatTheKeyboardHasPressed) {
     QTest::keyClick(m_button, Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_target.count == 1; })) << "and then it works again";
     EXPECT_EQ(groupClicks.count(), 1);
-}
-
-TEST_F(ButtonInputTest, TouchPresses) {
-    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-    const auto finger = [&] { return QTest::touchEvent(&m_window, screen.get()); };
-    const QPoint onButton = m_button->mapTo(&m_window, inside());
-    finger().press(0, onButton);
-    finger().release(0, onButton);
-    EXPECT_EQ(m_target.count, 1);
-    finger().press(0, onButton);
-    finger().move(0, onButton + QPoint(90, 0));
-    finger().release(0, onButton + QPoint(90, 0));
-    EXPECT_EQ(m_target.count, 1);
 }
 
 TEST_F(ButtonInputTest, DisabledButtonsIgnoreEverything) {

@@ -2,7 +2,6 @@
 #include "Tidepool/Events/ActionTrampoline.h"
 #include "Tidepool/Events/ControlPublishers.h"
 #include "Tidepool/Events/FocusOnOutput.h"
-#include "tests/support/ActionCounter.h"
 
 #include <QLineEdit>
 #include <QTest>
@@ -13,19 +12,6 @@
 
 using namespace tidepool;
 using platform::ControlState;
-
-TEST(ActionTrampoline, RunsTheLastHandlerWithTheControl) {
-    StyledCheckBox box;
-    int first = 0;
-    std::vector<StyledCheckBox*> second;
-    setActionHandler(box, [&](StyledCheckBox&) { ++first; });
-    box.click();
-    setActionHandler(box, [&](StyledCheckBox& sender) { second.push_back(&sender); });
-    box.click();
-    EXPECT_EQ(first, 1);
-    EXPECT_EQ(second, std::vector{&box});
-    EXPECT_EQ(box.children().count(box.target()), 1) << "the control owns its trampoline";
-}
 
 TEST(ActionTrampoline, MayBeReplacedByItsOwnHandlerAndGoesWithItsControl) {
     const auto alive = std::make_shared<int>(0);
@@ -70,47 +56,6 @@ TEST(NSControlPublisher, IsOneForEachControlAndEndsWithIt) {
     box.reset();
     EXPECT_EQ(ends, 2);
     EXPECT_EQ(kept->control(), nullptr);
-}
-
-TEST(NSControlPublisher, TellsTheSelectedItemOfAPopUpButton) {
-    platform::PopUpButton popUp;
-    popUp.addItem(QStringLiteral("A"));
-    popUp.addItem(QStringLiteral("B"));
-    QStringList selected;
-    const auto token = selectedItemPublisher(popUp)->sink(
-        [&](platform::MenuItem* const& item) { selected.append(item->title()); });
-    popUp.selectNextItem();
-    popUp.selectItem(0); // a program's selection is no action
-    popUp.selectNextItem();
-    EXPECT_EQ(selected, (QStringList{QStringLiteral("B"), QStringLiteral("B")}));
-}
-
-TEST(NSControlPublisher, TheLastTargetWins) {
-    StyledCheckBox box;
-    ActionCounter counter;
-    int published = 0;
-    box.setAction(ActionCounter::first, &counter);
-    const auto token = publisher(box)->sink([&](StyledCheckBox* const&) { ++published; });
-    box.click();
-    EXPECT_EQ(counter.count, 0);
-    box.setAction(ActionCounter::first, &counter);
-    box.click();
-    EXPECT_EQ(counter.count, 1);
-    EXPECT_EQ(published, 1);
-}
-
-TEST(NSControlPublisher, IsOneWhateverTypeItsControlIsKnownBy) {
-    StyledCheckBox box;
-    int published = 0;
-    const auto former = statePublisher(box)->sink([&](ControlState) { published += 1; });
-    const auto general =
-        publisher<platform::PushButton>(box)->sink([&](platform::PushButton* const&) { published += 10; });
-    box.click();
-    EXPECT_EQ(published, 11);
-    const auto made = std::make_shared<NSControlPublisher<StyledCheckBox>>(box);
-    const auto latest = made->sink([&](StyledCheckBox* const&) { published += 100; });
-    box.click();
-    EXPECT_EQ(published, 111) << "one that is made directly takes the place of the others";
 }
 
 TEST(NSControlPublisher, ItsSubscriberMayDestroyTheControl) {

@@ -1,7 +1,6 @@
 #include "Tidepool/Menus/PopUpButtonPresentable.h"
 
 #include "Platform/Publishing/PassthroughSubject.h"
-#include "Tidepool/Menus/PopUpContextMenu.h"
 #include "tests/Tidepool/Menus/MenuChoices.h"
 
 #include <QTest>
@@ -11,7 +10,6 @@
 #include <thread>
 
 using namespace tidepool;
-using platform::Menu;
 using platform::MenuItem;
 using platform::PassthroughSubject;
 using platform::PopUpButton;
@@ -44,17 +42,6 @@ protected:
 
 } // namespace
 
-TEST(MenuStructure, HoldsAllCasesUnderTheTypesTitle) {
-    using Structure = MenuStructure<Waveform>;
-    const auto structure = menuStructure<Waveform>();
-    const auto& submenu = std::get<Structure::Submenu>(structure.kind());
-    EXPECT_EQ(submenu.title, QStringLiteral("Waveform"));
-    std::vector<Waveform> values;
-    for (const auto& item : submenu.items)
-        values.push_back(std::get<Structure::Item>(item.kind()).value);
-    EXPECT_EQ(values, (std::vector{Waveform::square, Waveform::sine, Waveform::noise}));
-}
-
 TEST(PopUpButtonPresentable, FillsAButtonAndSelectsTheValue) {
     PopUpButton button;
     button.addItem(QStringLiteral("Former"));
@@ -78,26 +65,6 @@ TEST(PopUpButtonPresentable, KeepsTheArrangementOfTheMaker) {
     ASSERT_NE(items[4]->submenu(), nullptr);
     EXPECT_EQ(button.title(), QStringLiteral("DORIAN")) << "which is in a submenu";
     EXPECT_EQ(selectedRawRepresentableValue<Scale>(button), Scale{QStringLiteral("dorian")});
-}
-
-TEST(PopUpButtonPresentable, SelectsByRawValue) {
-    PopUpButton button;
-    button.addItem(QStringLiteral("none"));
-    button.addItem(QStringLiteral("raw")).representedObject = static_cast<int>(Waveform::square);
-    button.addItem(QStringLiteral("value")).representedObject = Waveform::square;
-    button.addItem(QStringLiteral("other")).representedObject = Waveform::sine;
-    EXPECT_EQ(selectedRawRepresentableValue<Waveform>(button), std::nullopt);
-    selectItem(button, Waveform::square);
-    EXPECT_EQ(button.title(), QStringLiteral("raw")) << "the first that matches";
-    EXPECT_EQ(selectedRawRepresentableValue<Waveform>(button), Waveform::square);
-    MenuItem& folder = button.addItem(QStringLiteral("folder"));
-    folder.setSubmenu(std::make_unique<Menu>());
-    folder.submenu()->addItem(QStringLiteral("inner")).representedObject = Waveform::noise;
-    selectItem(button, Waveform::noise);
-    EXPECT_EQ(button.title(), QStringLiteral("raw")) << "no match among its own items changes nothing";
-    button.setMenu(nullptr);
-    selectItem(button, Waveform::square);
-    EXPECT_EQ(selectedRawRepresentableValue<Waveform>(button), std::nullopt);
 }
 
 TEST_F(BoundPopUpTest, ReportsWhatTheUserChangesOnce) {
@@ -140,18 +107,4 @@ TEST_F(BoundPopUpTest, EndsWhenItIsCancelled) {
     EXPECT_EQ(selected(), Waveform::sine);
     choose(QStringLiteral("Square"));
     EXPECT_TRUE(m_reported.empty());
-}
-
-TEST(PopUpContextMenu, OpensBelowTheButton) {
-    platform::PushButton button(QStringLiteral("Options"));
-    button.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&button));
-    popUpContextMenu(button);
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "it has none";
-    Menu menu;
-    menu.addItem(QStringLiteral("A"));
-    button.setMenu(&menu);
-    popUpContextMenu(button);
-    ASSERT_TRUE(menu.isVisible());
-    EXPECT_EQ(menu.pos(), button.mapToGlobal(QPoint(0, button.height())));
 }

@@ -1,8 +1,4 @@
-#include "Tidepool/Styles/ButtonCellStyle.h"
-#include "Tidepool/Styles/PopUpButtonCellStyles.h"
-#include "Tidepool/Styles/TableViewStyle.h"
-#include "Tidepool/Styles/TextFieldCellStyle.h"
-#include "Tidepool/Styles/WindowStyle.h"
+#include "Tidepool/Styles/ControlStyle.h"
 
 #include <gtest/gtest.h>
 
@@ -27,14 +23,6 @@ ControlStyle colorful() {
     return style;
 }
 
-class AccentStyle : public ButtonCellStyle {
-public:
-    const QColor& highlightedTextColor() const override { return m_accent; }
-
-private:
-    QColor m_accent = Qt::magenta;
-};
-
 } // namespace
 
 TEST(ControlStyle, TextAndBackgroundWeighTheFlagsDifferently) {
@@ -53,25 +41,4 @@ TEST(ControlStyle, TextAndBackgroundWeighTheFlagsDifferently) {
     EXPECT_EQ(background(State::on | State::selected | State::disabled), 4);
     EXPECT_EQ(background(State::selected | State::disabled), 2);
     EXPECT_EQ(background(State::disabled), 3);
-}
-
-TEST(ControlStyle, LookUpsGoThroughOverriddenAccessors) {
-    EXPECT_EQ(AccentStyle().textColor(State::on), QColor(Qt::magenta));
-}
-
-TEST(ControlStyle, SubclassesStartFromTheirParents) {
-    const ToolPopUpButtonCellStyle tool;
-    EXPECT_EQ(tool.alignmentRectInsets(), QMarginsF());
-    EXPECT_EQ(tool.titleEdgeInsets(), QMarginsF(4, 0, 14, 0)) << "top 0, left 4, bottom 0, right 14";
-    EXPECT_EQ(tool.selectedTextColor(), tool.textColor()) << "of its parent";
-    EXPECT_EQ(tool.font().weight(), QFont::Medium) << "of its parent's parent";
-
-    const TextLabelCellStyle label;
-    EXPECT_EQ(label.alignmentRectInsets(), QMarginsF(2, 2, 2, 2));
-    EXPECT_EQ(label.padding(), QMarginsF());
-    EXPECT_NE(label.textColor(), TextFieldCellStyle().textColor());
-
-    const OutlineViewStyle outline;
-    EXPECT_EQ(outline.backgroundColor(), outline.rowBackgroundColor());
-    EXPECT_EQ(PopoverStyle().padding(), QSizeF(10, 6));
 }

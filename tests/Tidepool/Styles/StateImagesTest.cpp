@@ -1,6 +1,4 @@
 #include "Tidepool/Styles/StateImages.h"
-#include "Tidepool/Styles/CheckBoxCellStyle.h"
-#include "Tidepool/Styles/TextFieldCellStyle.h"
 #include "tests/support/AllocationCounter.h"
 
 #include <gtest/gtest.h>
@@ -46,23 +44,6 @@ int expected(const std::vector<std::pair<State, int>>& map, State state) {
 
 } // namespace
 
-TEST(StyledControlState, ReadsAsItsWordsAndHashesAsItReads) {
-    EXPECT_EQ(State{}.description(), QString());
-    EXPECT_EQ(State{33}.description(), QStringLiteral("default, on"));
-    EXPECT_EQ((State::invalid | State::disabled | State::focused).description(),
-              QStringLiteral("disabled, focused, invalid"));
-    EXPECT_EQ(std::hash<State>()(State{33 | 512}), std::hash<State>()(State{33})) << "bits without a word";
-    EXPECT_NE(State{33 | 512}, State{33});
-}
-
-TEST(StyledControlState, MembersBeginWithDefault) {
-    EXPECT_EQ(State{}.members(), std::vector<State>{State::defaultState});
-    EXPECT_EQ((State::mixed | State::selected).members(),
-              (std::vector<State>{State::defaultState, State::selected, State::mixed}));
-    EXPECT_EQ((State::defaultState | State::on).members(),
-              (std::vector<State>{State::defaultState, State::on}));
-}
-
 TEST(StateImages, FindTheBestSubsetInOrderOfInsertion) {
     std::mt19937 random(7);
     for (int round = 0; round < 200; ++round) {
@@ -106,16 +87,4 @@ TEST(StateImages, LookUpsAfterTheFirstAllocateNothing) {
     for (std::int64_t raw = 0; raw < 256; ++raw)
         images.image({raw});
     EXPECT_EQ(counter.allocations(), 0);
-}
-
-TEST(StateImages, OfTheStylesPreferWhatTheUserSees) {
-    const tidepool::CheckBoxCellStyle box;
-    EXPECT_EQ(box.buttonImage(State::on | State::highlighted | State::disabled),
-              box.buttonImage(State::on | State::highlighted));
-    EXPECT_NE(box.buttonImage(State::on | State::highlighted), box.buttonImage(State::on));
-    EXPECT_EQ(box.buttonImage(State::disabled), box.buttonImage(State::defaultState));
-
-    const tidepool::TextFieldCellStyle field;
-    EXPECT_NE(field.bezelImage(State::focused), field.bezelImage(State::focused | State::invalid));
-    EXPECT_EQ(tidepool::TextLabelCellStyle().bezelImage(State::focused), nullptr) << "labels draw no frame";
 }

@@ -1,6 +1,6 @@
 #include "Tidepool/Windows/ConfirmationAlert.h"
+#include "tests/support/Find.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
@@ -19,21 +19,11 @@ protected:
         tidepool::showConfirmationAlert(parent, QStringLiteral("Delete <b>all</b>?"),
                                         QStringLiteral("There is <i>no</i> way back."),
                                         QStringLiteral("Delete"), [this] { ++m_deletions; });
-        alert = nullptr;
-        const auto widgets = QApplication::topLevelWidgets();
-        for (QWidget* widget : widgets)
-            if (auto* box = qobject_cast<QMessageBox*>(widget); box != nullptr && box->isVisible())
-                alert = box;
+        alert = shownWindow<QMessageBox>();
         ASSERT_NE(alert, nullptr);
     }
 
-    QAbstractButton* button(const QString& title) const {
-        const auto buttons = alert->buttons();
-        for (auto* each : buttons)
-            if (each->text() == title)
-                return each;
-        return nullptr;
-    }
+    QAbstractButton* button(const QString& title) const { return withText(alert->buttons(), title); }
 
     bool isDeleted() {
         return QTest::qWaitFor([this] { return !alert; }, 1000);
