@@ -199,3 +199,24 @@ TEST_F(ParameterDialTest, FollowsTheHostOnScreenAndForAssistiveTechnology) {
     ASSERT_NE(interface->valueInterface(), nullptr);
     EXPECT_EQ(interface->valueInterface()->currentValue(), 880.F);
 }
+
+TEST_F(ParameterDialTest, ACoarseHostsEchoesLeaveUnfinishedStepsAlone) {
+    HostWatch host;
+    host.echo = [](float value) { return std::round(value / 4) * 4; };
+    show(host).setDecimalPlaces(0);
+    for (int i = 0; i < 20; ++i) {
+        wheel(120);
+        HostWatch::turn();
+    }
+    EXPECT_EQ(host.take().back(), "release 25");
+}
+
+TEST_F(ParameterDialTest, AWheelSendsWhatTheLabelShows) {
+    HostWatch host(AudioUnitParameterUnit::percent, 200, 101.4F);
+    show(host).setDecimalPlaces(0);
+    wheel(120);
+    EXPECT_THAT(host.take(), ElementsAre("touch 101.4", "value 102", "release 102"));
+    for (int i = 0; i < 10; ++i)
+        wheel(120, Qt::ShiftModifier);
+    EXPECT_THAT(host.take(), ElementsAre("touch 102", "value 103", "release 103")) << "ten fine steps";
+}

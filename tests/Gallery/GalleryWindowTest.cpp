@@ -12,8 +12,6 @@
 #include <QCheckBox>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
-#include <QLineEdit>
-#include <QListView>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -71,16 +69,6 @@ protected:
         find<platform::PopUpButton>(setting)->itemArray()[index]->trigger();
     }
 
-    QLineEdit& search() { return *find<QLineEdit>("Search pages"); }
-
-    QStringList listed() {
-        const auto* const model = find<QListView>("Pages")->model();
-        QStringList titles;
-        for (int row = 0; row < model->rowCount(); ++row)
-            titles << model->index(row, 0).data().toString();
-        return titles;
-    }
-
     std::vector<GalleryPage> m_pages{
         page(QStringLiteral("Foundations"), QStringLiteral("Colours"), {QStringLiteral("palette")}),
         page(QStringLiteral("Controls"), QStringLiteral("Buttons"), {QStringLiteral("StyledButton")}),
@@ -92,18 +80,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(GalleryWindowTest, SearchesTitlesControlsAndKeywordsInAnyCase) {
-    QTest::keyClick(&m_window, Qt::Key_F, Qt::ControlModifier);
-    EXPECT_TRUE(search().hasFocus());
-    QTest::keyClicks(&search(), QStringLiteral("styled"));
-    EXPECT_EQ(listed(), QStringList({QStringLiteral("Buttons"), QStringLiteral("Boxes")}));
-    EXPECT_EQ(m_window.currentTitle(), QStringLiteral("Buttons")) << "the first that is found";
-    QTest::keyClicks(&search(), QStringLiteral(" favour"));
-    EXPECT_EQ(listed(), QStringList(QStringLiteral("Boxes")));
-    search().setText(QStringLiteral("PALETTE"));
-    EXPECT_EQ(listed(), QStringList(QStringLiteral("Colours")));
-}
 
 TEST_F(GalleryWindowTest, SettingsReachThePageAtOnceAndKeepItsPlace) {
     m_window.showPage(QStringLiteral("Buttons"));

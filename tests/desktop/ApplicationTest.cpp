@@ -268,3 +268,17 @@ TEST_F(ApplicationTest, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(startAgain({QStringLiteral("--no-such-option")}), 2);
     EXPECT_EQ(startAgain({QStringLiteral("--screenshot")}), 2);
 }
+
+TEST_F(ApplicationTest, ShowsTheAddressOfALinkThatNothingCanOpen) {
+    auto variables = environment();
+    variables.remove(QStringLiteral("BROWSER"));
+    variables.insert(QStringLiteral("XDG_DATA_DIRS"), m_runtime.path());
+    m_first.setProcessEnvironment(variables);
+    m_first.start(program, QStringList());
+    ASSERT_TRUE(isActive(title));
+    Desktop::wait(200);
+    m_desktop.press(Key::f1);
+    EXPECT_TRUE(Desktop::waitUntil([this] { return m_desktop.windowTitles().size() == 2; }));
+    m_desktop.press(Key::escape);
+    EXPECT_TRUE(windowsBecome({title}));
+}

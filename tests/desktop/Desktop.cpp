@@ -72,6 +72,12 @@ void Desktop::click(QPoint position) {
     releasePointer(position);
 }
 
+void Desktop::clickSecondary(QPoint position) {
+    movePointer(position);
+    send(XCB_BUTTON_PRESS, 3);
+    send(XCB_BUTTON_RELEASE, 3);
+}
+
 void Desktop::drag(QPoint from, QPoint to) {
     constexpr int steps = 10;
     pressPointer(from);
@@ -135,6 +141,15 @@ QString Desktop::activeTitle() {
 
 QString Desktop::ownerOf(const QString& title) {
     return titleOf(windowIn(windowNamed(title), "WM_TRANSIENT_FOR"));
+}
+
+bool Desktop::offers(const char* feature) {
+    const QByteArray supported = property(m_root, atom("_NET_SUPPORTED"));
+    const std::uint32_t wanted = atom(feature);
+    for (qsizetype at = 0; at + 4 <= supported.size(); at += 4)
+        if (std::memcmp(supported.constData() + at, &wanted, 4) == 0)
+            return true;
+    return false;
 }
 
 QRect Desktop::placeOf(const QString& title) {

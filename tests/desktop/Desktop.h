@@ -21,6 +21,7 @@ enum class Key : std::uint8_t {
     w = 25,
     enter = 36,
     control = 37,
+    m = 58,
     down = 116,
     space = 65,
     f1 = 67,
@@ -43,6 +44,7 @@ public:
     void pressPointer(QPoint position);
     void releasePointer(QPoint position);
     void click(QPoint position);
+    void clickSecondary(QPoint position);
     void drag(QPoint from, QPoint to);
 
     QStringList windowTitles();
@@ -52,6 +54,9 @@ public:
 
     /// The title of the window that the one with this title belongs to and stays above; empty for none.
     QString ownerOf(const QString& title);
+
+    /// True if the window manager offers what EWMH or another convention calls `feature`.
+    bool offers(const char* feature);
 
     /// Where the window is on the screen, without its frame, in pixels.
     QRect placeOf(const QString& title);

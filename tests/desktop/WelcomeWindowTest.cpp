@@ -173,3 +173,17 @@ TEST_F(WelcomeWindowTest, ButtonsOfTheWindowAppearWithThePointerAndWork) {
     m_desktop.click(inWindow(400 - 8 - 12, 20));
     EXPECT_TRUE(Desktop::waitUntil([this] { return !window().isVisible(); }));
 }
+
+TEST_F(WelcomeWindowTest, SecondaryClickOpensTheMenuOfItsPlace) {
+    const auto ownMenu = [] { return QApplication::activePopupWidget() != nullptr; };
+    m_desktop.clickSecondary(inWindow(200, 420));
+    EXPECT_TRUE(Desktop::waitUntil(ownMenu));
+    m_desktop.press(Key::escape);
+    EXPECT_TRUE(Desktop::waitUntil([&] { return !ownMenu(); }));
+    m_desktop.clickSecondary(inWindow(200, 12));
+    Desktop::wait(300);
+    EXPECT_EQ(ownMenu(), !m_desktop.offers("_GTK_SHOW_WINDOW_MENU"))
+        << "the upper edge is the window manager's";
+    m_desktop.press(Key::escape);
+    Desktop::wait(100);
+}

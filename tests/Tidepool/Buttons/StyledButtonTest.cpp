@@ -243,3 +243,14 @@ TEST(StyledButtonStyle, AccessorsThatAMakerOverridesReachTheScreen) {
         isRed = isRed || difference(image.pixel(x, 13), qRgb(255, 0, 0)) < 60;
     EXPECT_TRUE(isRed);
 }
+
+TEST(StyledButtonCellDeathTest, ProgrammingErrorsStopTheProgram) {
+    StyledButton button;
+    button.setImage(square());
+    button.cell().setImageScaling(static_cast<platform::ImageScaling>(4));
+    EXPECT_DEATH(picture(button), "^Unhandled image scaling value\n$");
+    StyledCheckBox box;
+    StyledButton& base = box;
+    EXPECT_DEATH(base.cell().setStyle(std::make_shared<ButtonCellStyle>()),
+                 "^A cell was given a style of another class\n$");
+}

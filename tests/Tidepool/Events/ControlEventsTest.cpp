@@ -92,3 +92,17 @@ TEST(FocusOnOutput, GivesTheKeyboardToAViewThatIsShown) {
     subject->send(4);
     EXPECT_FALSE(first.isHidden());
 }
+
+TEST(NSControlPublisher, IsOneWhateverTypeItsControlIsKnownBy) {
+    StyledCheckBox box;
+    int published = 0;
+    const auto former = statePublisher(box)->sink([&](ControlState) { published += 1; });
+    const auto general =
+        publisher<platform::PushButton>(box)->sink([&](platform::PushButton* const&) { published += 10; });
+    box.click();
+    EXPECT_EQ(published, 11);
+    const auto made = std::make_shared<NSControlPublisher<StyledCheckBox>>(box);
+    const auto latest = made->sink([&](StyledCheckBox* const&) { published += 100; });
+    box.click();
+    EXPECT_EQ(published, 111) << "one that is made directly takes the place of the others";
+}
