@@ -44,7 +44,7 @@ void BaseButton::hideEvent(QHideEvent* event) {
 
 /// Qt clicks a while after Return or the mnemonic, also if the button was disabled or hidden meanwhile.
 void BaseButton::timerEvent(QTimerEvent* event) {
-    const CurrentEventScope scope(m_returnPress);
+    const CurrentEventScope scope(std::exchange(m_returnPress, std::nullopt)); // the next click is another's
     if (isDown()) {
         QAbstractButton::timerEvent(event);
         return;

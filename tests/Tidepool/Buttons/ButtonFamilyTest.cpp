@@ -12,8 +12,10 @@
 #include "tests/support/Pixels.h"
 
 #include <QAccessible>
+#include <QEventLoop>
 #include <QMenu>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -156,6 +158,18 @@ TEST(PopUpCyclingButton, StepsItsPopUpButtonAndTreatsOthersAsUsual) {
     };
     EXPECT_EQ(pressReturn({}, Qt::ShiftModifier), QStringLiteral("B")) << "Shift came after the key";
     EXPECT_EQ(pressReturn(Qt::ShiftModifier, {}), QStringLiteral("A")) << "Shift has gone since";
+    const auto stepsOnAfter = [&](auto&& click) {
+        QEventLoop loop; // which blocks: the event with Shift is over
+        QTimer::singleShot(1, &loop, &QEventLoop::quit);
+        loop.exec();
+        popUp.selectItem(0);
+        click();
+        return QTest::qWaitFor([&] { return popUp.indexOfSelectedItem() != 0; }) && popUp.indexOfSelectedItem() == 1;
+    };
+    EXPECT_TRUE(stepsOnAfter([&] { button.animateClick(); })) << "a mnemonic's click";
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_TRUE(stepsOnAfter([&] { button.click(); }));
+    popUp.selectItem(0);
     QTest::mousePress(&button, Qt::LeftButton, Qt::ShiftModifier);
     QTest::mouseRelease(&button, Qt::LeftButton);
     EXPECT_EQ(popUp.titleOfSelectedItem(), QStringLiteral("B")) << "the release is the click";
