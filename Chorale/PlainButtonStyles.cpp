@@ -15,7 +15,7 @@ constexpr qreal focusRadius = 4;
 
 /// What all buttons without a bezel do.
 void prepare(QPainter& painter, const platform::ButtonConfiguration& configuration) {
-    painter.setOpacity(configuration.isPressed() ? pressedOpacity : 1);
+    painter.setOpacity(painter.opacity() * (configuration.isPressed() ? pressedOpacity : 1));
     if (configuration.isFocused())
         platform::drawFocusRing(painter, configuration.frame, {.radius = focusRadius});
 }

@@ -27,7 +27,7 @@ QSizeF UpdateButtonStyle::size(QSizeF label) const {
 }
 
 void UpdateButtonStyle::paint(QPainter& painter, const platform::ButtonConfiguration& configuration) const {
-    painter.setOpacity(configuration.isPressed() ? pressedOpacity : 1);
+    painter.setOpacity(painter.opacity() * (configuration.isPressed() ? pressedOpacity : 1));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Colors::updateBackground.color());

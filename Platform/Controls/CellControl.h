@@ -57,6 +57,8 @@ protected:
     virtual void draw(QPainter& painter) { m_cell->draw(painter, QRectF(this->rect()), context()); }
 
     void paintEvent(QPaintEvent*) override {
+        if (alphaValue() <= 0) // buttons over an animation are painted with each of its frames
+            return;
         m_isMakingPainter = true;
         QPainter painter(this);
         m_isMakingPainter = false;

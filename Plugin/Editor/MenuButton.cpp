@@ -29,7 +29,7 @@ public:
         if (configuration.isFocused())
             platform::drawFocusRing(painter, configuration.frame, {.radius = 4 * m_scale});
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setOpacity(configuration.isPressed() ? 0.7 : 1);
+        painter.setOpacity(painter.opacity() * (configuration.isPressed() ? 0.7 : 1));
         painter.setPen(platform::roundPen(Colors::value, 1.5 * m_scale));
         painter.translate(configuration.frame.center());
         for (const int line : {-1, 0, 1})

@@ -164,7 +164,8 @@ TEST(PopUpCyclingButton, StepsItsPopUpButtonAndTreatsOthersAsUsual) {
         loop.exec();
         popUp.selectItem(0);
         click();
-        return QTest::qWaitFor([&] { return popUp.indexOfSelectedItem() != 0; }) && popUp.indexOfSelectedItem() == 1;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return popUp.indexOfSelectedItem() != 0; }));
+        return popUp.indexOfSelectedItem() == 1;
     };
     EXPECT_TRUE(stepsOnAfter([&] { button.animateClick(); })) << "a mnemonic's click";
     QTest::mouseClick(&button, Qt::LeftButton, Qt::ShiftModifier);
