@@ -6,6 +6,7 @@
 #include "Platform/Windows/Browser.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -31,13 +32,23 @@ SPUStandardUserDriver::~SPUStandardUserDriver() {
 }
 
 QMessageBox& SPUStandardUserDriver::replaceDialog(const QString& text, const QString& information) {
-    const bool isElsewhere = m_dialog && QApplication::activeWindow() == nullptr;
+    // The desktop may not have given the keyboard yet.
+    const bool isExpected =
+        m_dialog && !m_hadKeyboard && !m_dialog->testAttribute(Qt::WA_ShowWithoutActivating);
+    const bool isElsewhere = m_dialog && !isExpected && QApplication::activeWindow() == nullptr;
     delete m_dialog;
     m_isChecking = false;
     m_dialog = makeAlert(text, information);
     m_dialog->setWindowTitle(QStringLiteral("Software Update"));
     m_dialog->setAttribute(Qt::WA_ShowWithoutActivating, isElsewhere);
+    m_dialog->installEventFilter(this);
+    m_hadKeyboard = false;
     return *m_dialog;
+}
+
+bool SPUStandardUserDriver::eventFilter(QObject*, QEvent* event) {
+    m_hadKeyboard = m_hadKeyboard || event->type() == QEvent::WindowActivate;
+    return false;
 }
 
 void SPUStandardUserDriver::showMessage(const QString& text, const QString& information) {

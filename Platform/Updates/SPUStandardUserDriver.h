@@ -35,6 +35,9 @@ public:
     /// Brings the dialog that is shown before the other windows.
     void showInFront();
 
+protected:
+    bool eventFilter(QObject* dialog, QEvent* event) override;
+
 private:
     QMessageBox& replaceDialog(const QString& text, const QString& information);
     void showMessage(const QString& text, const QString& information);
@@ -43,6 +46,7 @@ private:
     SPUStandardUserDriverDelegate* m_delegate;
     QPointer<QMessageBox> m_dialog;
     bool m_isChecking = false;
+    bool m_hadKeyboard = false; // the dialog, at any time
 };
 
 } // namespace platform

@@ -174,7 +174,10 @@ TEST_F(UpdaterTest, ResultsTakeTheKeyboardOnlyFromTheApplicationItself) {
     shownDialog()->close();
 
     platform::SPUStandardUserDriver driver(nullptr);
+    QApplication::setActiveWindow(nullptr);
     driver.showUserInitiatedUpdateCheck([] {});
+    driver.showUpdateNotFound();
+    EXPECT_FALSE(shownDialog()->testAttribute(Qt::WA_ShowWithoutActivating)) << "sooner than the keyboard";
     ASSERT_TRUE(QTest::qWaitForWindowActive(shownDialog()));
     QApplication::setActiveWindow(nullptr);
     driver.showUpdateNotFound();
