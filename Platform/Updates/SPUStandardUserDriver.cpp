@@ -46,6 +46,13 @@ QMessageBox& SPUStandardUserDriver::replaceDialog(const QString& text, const QSt
     return *m_dialog;
 }
 
+void SPUStandardUserDriver::showDialog() {
+    m_dialog->show();
+    // A window that was shown just before may still get what it has asked for.
+    if (!m_dialog->testAttribute(Qt::WA_ShowWithoutActivating))
+        m_dialog->activateWindow();
+}
+
 bool SPUStandardUserDriver::eventFilter(QObject*, QEvent* event) {
     m_hadKeyboard = m_hadKeyboard || event->type() == QEvent::WindowActivate;
     return false;
@@ -54,7 +61,7 @@ bool SPUStandardUserDriver::eventFilter(QObject*, QEvent* event) {
 void SPUStandardUserDriver::showMessage(const QString& text, const QString& information) {
     QMessageBox& dialog = replaceDialog(text, information);
     dialog.setEscapeButton(dialog.addButton(QMessageBox::tr("OK"), QMessageBox::AcceptRole));
-    dialog.show();
+    showDialog();
 }
 
 void SPUStandardUserDriver::showUserInitiatedUpdateCheck(std::function<void()> cancel) {
@@ -62,7 +69,7 @@ void SPUStandardUserDriver::showUserInitiatedUpdateCheck(std::function<void()> c
     m_isChecking = true;
     dialog.setEscapeButton(dialog.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole));
     connect(&dialog, &QDialog::finished, this, [cancel = std::move(cancel)] { cancel(); });
-    dialog.show();
+    showDialog();
 }
 
 void SPUStandardUserDriver::showUpdateFound(const AppcastItem& update) {
@@ -78,7 +85,7 @@ void SPUStandardUserDriver::showUpdateFound(const AppcastItem& update) {
             update.releaseNotesUrl.isEmpty() ? update.link : update.releaseNotesUrl);
     m_dialog->setEscapeButton(
         m_dialog->addButton(QStringLiteral("Remind Me Later"), QMessageBox::RejectRole));
-    m_dialog->show();
+    showDialog();
 }
 
 void SPUStandardUserDriver::addLink(const QString& title, const QUrl& url) {

@@ -40,6 +40,7 @@ protected:
 
 private:
     QMessageBox& replaceDialog(const QString& text, const QString& information);
+    void showDialog();
     void showMessage(const QString& text, const QString& information);
     void addLink(const QString& title, const QUrl& url);
 
