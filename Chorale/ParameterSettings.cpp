@@ -29,7 +29,7 @@ void ParameterSettings::setupParameters(QList<std::shared_ptr<AudioParameter>> p
 
 void ParameterSettings::configureAudioUnit(const std::shared_ptr<ChoraleAudioUnit>& audioUnit) {
     setAudioUnit(audioUnit);
-    QList<std::shared_ptr<platform::AUParameterNode>> hostParameters;
+    QList<std::shared_ptr<platform::AUParameter>> hostParameters;
     for (const auto& parameter : std::as_const(m_parameters))
         hostParameters.append(parameter->auParameter());
     audioUnit->setParameterTree(platform::AUParameterTree::createTree(std::move(hostParameters)));

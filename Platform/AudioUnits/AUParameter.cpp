@@ -4,8 +4,7 @@
 
 namespace platform {
 
-AUParameter::AUParameter(AUParameterDescription description)
-    : AUParameterNode(description.identifier, description.name), m_description(std::move(description)) {}
+AUParameter::AUParameter(AUParameterDescription description) : m_description(std::move(description)) {}
 
 void AUParameter::setValue(AUValue value, AUParameterObserverToken originator, std::uint64_t atHostTime,
                            AUParameterAutomationEventType eventType) {

@@ -32,6 +32,12 @@ class AUParameter : public AUParameterNode {
 public:
     explicit AUParameter(AUParameterDescription description);
 
+    /// Unique in a tree.
+    const QString& identifier() const { return m_description.identifier; }
+
+    /// For people.
+    const QString& displayName() const { return m_description.name; }
+
     AUParameterAddress address() const { return m_description.address; }
 
     AUValue minValue() const { return m_description.min; }

@@ -17,11 +17,8 @@ AUParameterObserverToken nextToken() {
 
 } // namespace
 
-AUParameterNode::AUParameterNode(QString identifier, QString displayName)
-    : m_identifier(std::move(identifier)), m_displayName(std::move(displayName)) {}
-
-void AUParameterNode::setParent(const std::weak_ptr<const AUParameterNode>& parent) {
-    m_links.edit([&parent](Links& links) { links.parent = parent; });
+void AUParameterNode::setTree(const std::weak_ptr<const AUParameterNode>& tree) {
+    m_links.edit([&tree](Links& links) { links.tree = tree; });
 }
 
 void AUParameterNode::setImplementorValueObserver(AUImplementorValueObserver observer) {
@@ -57,73 +54,49 @@ void AUParameterNode::removeParameterObserver(AUParameterObserverToken token) {
 }
 
 template <typename Callback, typename Use>
-bool AUParameterNode::withNearest(Callback Links::*callback, Use use) const {
-    return m_links.read([&](const Links& links) {
-        if (links.*callback) {
+void AUParameterNode::withNearest(Callback Links::*callback, Use use) const {
+    m_links.read([&](const Links& links) {
+        if (links.*callback)
             use(links.*callback);
-            return true;
-        }
-        const auto parent = links.parent.lock();
-        return parent && parent->withNearest(callback, use);
+        else if (const auto tree = links.tree.lock())
+            tree->withNearest(callback, use);
     });
 }
 
-struct AUParameterNode::Step {
-    Step(const AUParameterNode& node, const Step* stepBelow) : below(stepBelow), reading(node.m_links) {}
-
-    // The nearest one.
-    bool tellImplementor(AUParameter& parameter, AUValue value) const {
-        if (below != nullptr && below->tellImplementor(parameter, value))
-            return true;
-        const auto& observe = reading.value().observeValue;
-        if (observe)
-            observe(parameter, value);
-        return observe != nullptr;
-    }
-
-    // Upwards.
-    void tellObservers(AUParameterAutomationEvent& event, std::optional<std::uint64_t>& hostTime,
-                       AUParameterObserverToken originator) const {
-        if (below != nullptr)
-            below->tellObservers(event, hostTime, originator);
-        const Links& links = reading.value();
-        for (const Observer& observer : links.observers) {
-            if (observer.token == originator || !isStillThere(links, observer))
-                continue;
-            if (!hostTime)
-                hostTime = audioGetCurrentHostTime();
-            event.hostTime = *hostTime;
-            observer.tell(event);
-        }
-    }
-
+void AUParameterNode::tellObservers(const Reading& reading, AUParameterAutomationEvent& event,
+                                    std::optional<std::uint64_t>& hostTime,
+                                    AUParameterObserverToken originator) {
+    const Links& links = reading.value();
     // The observers before it may have removed it.
-    bool isStillThere(const Links& links, const Observer& observer) const {
+    const auto isStillThere = [&](AUParameterObserverToken token) {
         const Links& now = reading.value();
-        return &now == &links ||
-               std::any_of(now.observers.begin(), now.observers.end(),
-                           [&](const Observer& one) { return one.token == observer.token; });
+        return &now == &links || std::any_of(now.observers.begin(), now.observers.end(),
+                                             [&](const Observer& one) { return one.token == token; });
+    };
+    for (const Observer& observer : links.observers) {
+        if (observer.token == originator || !isStillThere(observer.token))
+            continue;
+        if (!hostTime)
+            hostTime = audioGetCurrentHostTime();
+        event.hostTime = *hostTime;
+        observer.tell(event);
     }
-
-    const Step* const below;
-    const Snapshot<Links>::Reading reading;
-};
-
-template <typename Use>
-void AUParameterNode::climb(const Step* below, Use use) const {
-    const Step here(*this, below);
-    if (const auto parent = here.reading.value().parent.lock())
-        parent->climb(&here, use);
-    else
-        use(here);
 }
 
 void AUParameterNode::tell(AUParameter& parameter, AUParameterAutomationEvent event,
                            std::optional<std::uint64_t> hostTime, AUParameterObserverToken originator) const {
-    climb(nullptr, [&](const Step& last) {
-        last.tellImplementor(parameter, event.value);
-        last.tellObservers(event, hostTime, originator);
-    });
+    const Reading own(m_links);
+    const auto tree = own.value().tree.lock();
+    std::optional<Reading> trees;
+    if (tree)
+        trees.emplace(tree->m_links);
+    if (const auto& observe = own.value().observeValue)
+        observe(parameter, event.value);
+    else if (trees && trees->value().observeValue)
+        trees->value().observeValue(parameter, event.value);
+    tellObservers(own, event, hostTime, originator);
+    if (trees)
+        tellObservers(*trees, event, hostTime, originator);
 }
 
 std::optional<QString> AUParameterNode::implementorString(AUParameter& parameter,

@@ -23,7 +23,7 @@ using AUImplementorValueFromStringCallback =
 using AUParameterObserver = std::function<void(AUParameterAddress address, AUValue value)>;
 using AUParameterAutomationObserver = std::function<void(const AUParameterAutomationEvent& event)>;
 
-/// A parameter or a group of them. It has callbacks and observers, which hold for everything in it too. They
+/// A parameter or a tree of them. It has callbacks and observers; a tree's hold for all its parameters. They
 /// run on the thread that sets a value, which may render audio: there they must not allocate, lock or block.
 /// Whoever replaces or removes one waits until it no longer runs, unless this happens while the same thread
 /// sets a value in the node. Add, replace and remove on the main thread.
@@ -33,30 +33,20 @@ public:
     AUParameterNode(const AUParameterNode&) = delete;
     AUParameterNode& operator=(const AUParameterNode&) = delete;
 
-    /// Unique among its siblings; empty for a tree.
-    const QString& identifier() const { return m_identifier; }
-
-    /// For people.
-    const QString& displayName() const { return m_displayName; }
-
-    /// Of the callbacks of a parameter and of the groups that it is in, the nearest one of a kind is called.
-    /// Null for none.
+    /// A parameter's own callback of a kind is called in place of its tree's. Null for none.
     void setImplementorValueObserver(AUImplementorValueObserver observer);
     void setImplementorStringFromValueCallback(AUImplementorStringFromValueCallback callback);
     void setImplementorValueFromStringCallback(AUImplementorValueFromStringCallback callback);
 
     /// Observers are called after the implementor's, in the order in which they were added, those of a
-    /// parameter before those of its groups; never with what was set with their own token as originator.
+    /// parameter before those of its tree; never with what was set with their own token as originator.
     AUParameterObserverToken tokenByAddingParameterObserver(AUParameterObserver observer);
     AUParameterObserverToken tokenByAddingParameterAutomationObserver(AUParameterAutomationObserver observer);
 
     void removeParameterObserver(AUParameterObserverToken token);
 
 protected:
-    AUParameterNode(QString identifier, QString displayName);
-
-    /// A node is in the group that it was put into last.
-    void setParent(const std::weak_ptr<const AUParameterNode>& parent);
+    AUParameterNode() = default;
 
     /// Tells the implementor, then the observers. Without a host time these get the current one, which is
     /// read only if there is an observer.
@@ -66,7 +56,7 @@ protected:
     std::optional<AUValue> implementorValue(AUParameter& parameter, const QString& text) const;
 
 private:
-    friend class AUParameterGroup;
+    friend class AUParameterTree;
 
     struct Observer {
         AUParameterObserverToken token;
@@ -74,26 +64,24 @@ private:
     };
 
     struct Links {
-        std::weak_ptr<const AUParameterNode> parent;
+        std::weak_ptr<const AUParameterNode> tree; // a parameter's
         AUImplementorValueObserver observeValue;
         AUImplementorStringFromValueCallback stringFromValue;
         AUImplementorValueFromStringCallback valueFromString;
         std::vector<Observer> observers;
     };
 
-    /// Calls `use` with the nearest callback; false if there is none.
+    /// A parameter is in the tree that it was put into last.
+    void setTree(const std::weak_ptr<const AUParameterNode>& tree);
+
+    /// Calls `use` with the callback of this node, else with its tree's.
     template <typename Callback, typename Use>
-    bool withNearest(Callback Links::*callback, Use use) const;
+    void withNearest(Callback Links::*callback, Use use) const;
 
-    /// A node between a parameter and the root, while its links are read.
-    struct Step;
+    using Reading = Snapshot<Links>::Reading;
+    static void tellObservers(const Reading& reading, AUParameterAutomationEvent& event,
+                              std::optional<std::uint64_t>& hostTime, AUParameterObserverToken originator);
 
-    /// Reads the links of this node and of all above it, then calls `use` with the last step.
-    template <typename Use>
-    void climb(const Step* below, Use use) const;
-
-    const QString m_identifier;
-    const QString m_displayName;
     Snapshot<Links> m_links; // written on the main thread, read on any
 };
 

@@ -1,7 +1,6 @@
 #include "Platform/AudioUnits/AUParameterTree.h"
 #include "Platform/AudioUnits/HostTime.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -13,7 +12,6 @@ using platform::AUParameterAutomationEvent;
 using platform::AUParameterAutomationEventType;
 using platform::AUParameterObserverToken;
 using platform::AUParameterTree;
-using testing::ElementsAre;
 
 namespace {
 
@@ -24,47 +22,35 @@ std::shared_ptr<AUParameter> parameter(const char* identifier, std::uint64_t add
 
 } // namespace
 
-TEST(AUParameterTree, ListsItsGroupsInOrderAndFindsTheFirst) {
+TEST(AUParameterTree, FindsTheFirstOfAnAddress) {
     const auto first = parameter("first", 7);
-    const auto second = parameter("second", 3);
-    const auto shadowed = parameter("second", 7);
-    const auto inner =
-        AUParameterTree::createGroup(QStringLiteral("inner"), QStringLiteral("Inner"), {second});
-    const auto outer =
-        AUParameterTree::createGroup(QStringLiteral("outer"), QStringLiteral("Outer"), {inner, shadowed});
-    const auto tree = AUParameterTree::createTree({first, outer});
-
-    EXPECT_THAT(tree->allParameters(), ElementsAre(first, second, shadowed));
-    EXPECT_EQ(tree->children().size(), 2);
+    const auto tree = AUParameterTree::createTree({first, parameter("second", 3), parameter("third", 7)});
     EXPECT_EQ(tree->parameterWithAddress(7), first);
-    EXPECT_EQ(tree->parameterWithIdentifier(QStringLiteral("second")), second);
     EXPECT_EQ(tree->parameterWithAddress(4), nullptr);
-    EXPECT_EQ(tree->parameterWithIdentifier(QStringLiteral("outer")), nullptr) << "a group is no parameter";
 }
 
 TEST(AUParameterTree, TellsTheImplementorFirstThenObserversUpwardsExceptTheOriginator) {
     const auto level = parameter("level", 5);
-    const auto group = AUParameterTree::createGroup({}, {}, {level});
-    const auto tree = AUParameterTree::createTree({group});
+    const auto tree = AUParameterTree::createTree({level});
     std::string order;
     tree->setImplementorValueObserver([&](AUParameter& changed, float value) {
         EXPECT_EQ(&changed, level.get());
         EXPECT_EQ(changed.value(), value) << "the value is there before anybody hears of it";
         order += 'i';
     });
-    tree->tokenByAddingParameterObserver([&](auto, float) { order += 't'; });
-    const auto own = group->tokenByAddingParameterObserver([&](auto, float) { order += 'g'; });
+    const auto own = tree->tokenByAddingParameterObserver([&](auto, float) { order += 't'; });
+    tree->tokenByAddingParameterObserver([&](auto, float) { order += 'u'; });
     level->tokenByAddingParameterObserver([&](auto, float) { order += 'p'; });
 
     level->setValue(0.5F);
-    EXPECT_EQ(order, "ipgt");
+    EXPECT_EQ(order, "iptu");
     order.clear();
     level->setValue(0.5F, own);
-    EXPECT_EQ(order, "ipt") << "an equal value is told as well, but not to whom it comes from";
+    EXPECT_EQ(order, "ipu") << "an equal value is told as well, but not to whom it comes from";
     order.clear();
-    group->removeParameterObserver(own);
+    tree->removeParameterObserver(own);
     level->setValue(0.5F);
-    EXPECT_EQ(order, "ipt");
+    EXPECT_EQ(order, "ipu");
 }
 
 TEST(AUParameterTree, NearestImplementorAnswers) {
