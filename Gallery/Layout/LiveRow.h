@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Core/Action.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -15,6 +17,8 @@ class LiveRow : public QWidget {
     Q_OBJECT
 
 public:
+    static constexpr platform::Selector hold{"sayHeld"};
+
     /// `hint` stands in the line until a control was used.
     explicit LiveRow(const QString& hint, QWidget* parent = nullptr);
 
@@ -26,6 +30,8 @@ public:
     }
 
     void say(const QString& text);
+
+    Q_INVOKABLE void sayHeld(QObject*) { say(QStringLiteral("Held")); }
 
 private:
     void take(QWidget* control);

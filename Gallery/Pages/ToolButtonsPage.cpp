@@ -4,7 +4,6 @@
 #include "Gallery/Layout/LiveRow.h"
 #include "Gallery/Layout/PageBody.h"
 #include "Gallery/Layout/Section.h"
-#include "Gallery/Pages/HeldTarget.h"
 #include "Platform/Controls/Menu.h"
 #include "Tidepool/Assets.h"
 #include "Tidepool/Buttons/BackButton.h"
@@ -35,9 +34,8 @@ QWidget* makeLiveRow(const GallerySettings& settings) {
     tool.cell().setButtonType(ButtonCell::ButtonType::momentaryPushIn);
     tool.setAccessibleName(QStringLiteral("Tool"));
     tool.setShowMoreIcon(true);
-    auto* const held = new HeldTarget(*row);
-    tool.setSecondaryAction(HeldTarget::hold);
-    tool.setSecondaryTarget(held);
+    tool.setSecondaryAction(LiveRow::hold);
+    tool.setSecondaryTarget(row);
     QObject::connect(&tool, &ToolButton::clicked, row, [row] { row->say(QStringLiteral("Clicked")); });
 
     CornerButton& corner = row->add(new CornerButton);
