@@ -18,6 +18,13 @@ qreal onPixel(qreal points, qreal scale) {
     return std::round(points * scale) / scale;
 }
 
+QPointF onDevicePixel(const QPainter& painter, QPointF point) {
+    constexpr qreal half = 0.5001; // what lies between two goes the same way from wherever it was mapped
+    const QTransform& device = painter.deviceTransform();
+    const QPointF pixel = device.map(point) + QPointF(half, half);
+    return device.inverted().map(QPointF(std::floor(pixel.x()), std::floor(pixel.y())));
+}
+
 void drawPixels(QPainter& painter, QPointF origin, const QImage& image) {
     const qreal scale = image.devicePixelRatio();
     const QTransform& transform = painter.deviceTransform();

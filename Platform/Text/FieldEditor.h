@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace platform {
+
+/// The editor that a text field brings up over its text while the keyboard is on it.
+class FieldEditor : public QLineEdit {
+    Q_OBJECT
+
+public:
+    /// What it keeps free on both sides of its line, in points.
+    static constexpr int margin = 2;
+
+    /// How far a text that fits lies from the left edge of its line, in points. `alignment` is the visual
+    /// one.
+    static int offsetInLine(qreal textWidth, int lineWidth, Qt::Alignment alignment);
+
+    explicit FieldEditor(QWidget& field);
+
+    /// Puts the line there, as exactly as the screen's pixels allow, in points of the field.
+    void setLine(const QRectF& line);
+
+    /// Deletes it, if it is just handling an event once it has done so.
+    void dispose();
+
+    /// Takes the text, as one that nobody has edited.
+    void begin(const QString& text);
+
+Q_SIGNALS:
+    /// The keyboard has gone elsewhere.
+    void left();
+    /// Escape.
+    void cancelled();
+
+protected:
+    bool event(QEvent* event) override;
+    void initPainter(QPainter* painter) const override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    qreal m_shift = 0;
+    int m_events = 0; // that it is handling
+};
+
+} // namespace platform
