@@ -14,17 +14,20 @@ class Formatter {
 public:
     /// What a text was read as.
     struct ObjectValue {
-        QVariant object; ///< Invalid where there is none, which need not be a failure.
-        std::optional<QString> errorDescription; ///< Why reading failed, for people; none on success.
+        /// Invalid where there is none, which need not be a failure.
+        QVariant object;
+        /// Why reading failed, for people; none on success.
+        std::optional<QString> errorDescription;
 
         bool isValid() const { return !errorDescription; }
     };
 
     /// Whether a text may stand in a field while it is being typed.
     struct PartialString {
-        std::optional<QString>
-            newEditingString; ///< What the field is to show; without one, what it showed before.
-        std::optional<QString> errorDescription; ///< Why the text is refused, for people; none if it is not.
+        /// What the field is to show; without one, what it showed before.
+        std::optional<QString> newEditingString;
+        /// Why the text is refused, for people; none if it is not.
+        std::optional<QString> errorDescription;
 
         bool isValid() const { return !errorDescription; }
     };
