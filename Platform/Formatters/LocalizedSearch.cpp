@@ -14,15 +14,14 @@ namespace {
 /// Primary strength leaves case and accents out. Some locales leave out punctuation as well, unless told;
 /// others would sort the marks on a letter, in a time that grows with the square of their number.
 std::unique_ptr<icu::RuleBasedCollator> searchCollator(UErrorCode& status) {
-    std::unique_ptr<icu::Collator> made(icu::Collator::createInstance(icuLocale(QLocale()), status));
-    auto* const collator = dynamic_cast<icu::RuleBasedCollator*>(made.get());
-    if (collator == nullptr)
+    std::unique_ptr<icu::RuleBasedCollator> collator(
+        dynamic_cast<icu::RuleBasedCollator*>(icu::Collator::createInstance(icuLocale(QLocale()), status)));
+    if (!collator)
         return nullptr;
-    made.release();
     collator->setStrength(icu::Collator::PRIMARY);
     collator->setAttribute(UCOL_ALTERNATE_HANDLING, UCOL_NON_IGNORABLE, status);
     collator->setAttribute(UCOL_NORMALIZATION_MODE, UCOL_OFF, status);
-    return std::unique_ptr<icu::RuleBasedCollator>(collator);
+    return collator;
 }
 
 } // namespace

@@ -20,19 +20,17 @@ constexpr qsizetype longestNumber = 1200;
 
 std::unique_ptr<icu::DecimalFormat> formatOfStyle(NumberFormatterStyle style, const QLocale& locale) {
     UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::NumberFormat> made(
+    std::unique_ptr<icu::DecimalFormat> format(dynamic_cast<icu::DecimalFormat*>(
         style == NumberFormatterStyle::percent
             ? icu::NumberFormat::createPercentInstance(icuLocale(locale), status)
-            : icu::NumberFormat::createInstance(icuLocale(locale), status));
-    auto* const format = dynamic_cast<icu::DecimalFormat*>(made.get());
-    if (format == nullptr)
+            : icu::NumberFormat::createInstance(icuLocale(locale), status)));
+    if (!format)
         fatalError("ICU has no format for numbers");
-    made.release();
     if (style == NumberFormatterStyle::none) {
         format->setGroupingUsed(false);
         format->setMaximumFractionDigits(mostFractionDigits);
     }
-    return std::unique_ptr<icu::DecimalFormat>(format);
+    return format;
 }
 
 void applyAffixes(icu::DecimalFormat& format, const NumberSettings& settings) {
@@ -52,7 +50,7 @@ void applyDigits(icu::DecimalFormat& format, const NumberSettings& settings) {
     if (settings.maximumFractionDigits)
         format.setMaximumFractionDigits(std::clamp(*settings.maximumFractionDigits, 0, mostFractionDigits));
     if (settings.usesGroupingSeparator)
-        format.setGroupingUsed(*settings.usesGroupingSeparator);
+        format.setGroupingUsed(*settings.usesGroupingSeparator ? 1 : 0);
 }
 
 std::unique_ptr<icu::DecimalFormat> copyOf(const icu::DecimalFormat& format) {

@@ -37,7 +37,7 @@ std::optional<QString> ExpressionFormatter::stringForObjectValue(const QVariant&
 std::optional<QString> ExpressionFormatter::editingStringForObjectValue(const QVariant& object) const {
     if (isFreeText(object))
         return object.toString();
-    const auto text = NumberFormatter::editingStringForObjectValue(object);
+    auto text = NumberFormatter::editingStringForObjectValue(object);
     if (!text || formatterBehavior() == Behavior::oldest)
         return text;
     const auto suffix = platform::localizedStandardRange(*text, positiveSuffix());
