@@ -96,6 +96,20 @@ std::optional<icu::Formattable> number(const QVariant& object) {
     }
 }
 
+QString symbol(const icu::DecimalFormat& format, icu::DecimalFormatSymbols::ENumberFormatSymbol which) {
+    return fromIcuText(format.getDecimalFormatSymbols()->getConstSymbol(which));
+}
+
+/// Without what stands before and after a number, but for the minus.
+std::unique_ptr<icu::DecimalFormat> bareCopyOf(const icu::DecimalFormat& format) {
+    NumberSettings bare;
+    bare.positivePrefix = bare.positiveSuffix = bare.negativeSuffix = QString();
+    bare.negativePrefix = symbol(format, icu::DecimalFormatSymbols::kMinusSignSymbol);
+    auto copy = copyOf(format);
+    applyAffixes(*copy, bare);
+    return copy;
+}
+
 std::optional<double> wholeNumber(const icu::DecimalFormat& format, const QString& text) {
     const icu::UnicodeString all = icuText(text);
     icu::Formattable result;
@@ -104,6 +118,15 @@ std::optional<double> wholeNumber(const icu::DecimalFormat& format, const QStrin
     format.parse(all, result, end);
     const double value = result.getDouble(status);
     return end.getIndex() == all.length() && U_SUCCESS(status) ? std::optional(value) : std::nullopt;
+}
+
+/// ICU takes a point for the grouping even where people write a space, so that "1.234" would be a thousand.
+std::optional<double> readAsWritten(const icu::DecimalFormat& format, const QString& text) {
+    if (text.contains(symbol(format, icu::DecimalFormatSymbols::kGroupingSeparatorSymbol)))
+        return wholeNumber(format, text);
+    const auto ungrouped = copyOf(format);
+    ungrouped->setGroupingUsed(false);
+    return wholeNumber(*ungrouped, text);
 }
 
 } // namespace
@@ -115,10 +138,6 @@ NumberFormat::NumberFormat(const NumberSettings& settings)
       m_format(formatOfStyle(settings.style, m_locale)) {
     applyAffixes(*m_format, settings);
     applyDigits(*m_format, settings);
-    m_ungrouped = copyOf(*m_format);
-    m_ungrouped->setGroupingUsed(false);
-    m_lenient = copyOf(*m_format);
-    m_lenient->setLenient(true);
 }
 
 std::optional<QString> NumberFormat::write(const QVariant& object) const {
@@ -132,23 +151,21 @@ std::optional<QString> NumberFormat::write(const QVariant& object) const {
 }
 
 std::optional<double> NumberFormat::read(const QString& text) const {
-    const bool isShort = text.size() <= longestNumber;
-    std::optional<double> value;
-    if (isShort)
-        value = readAsWritten(text);
-    if (!value && m_isLenient)
-        value = readPlain(text);
-    if (!value && m_isLenient && isShort)
-        value = wholeNumber(*m_lenient, text);
-    return value;
+    if (text.size() > longestNumber)
+        return m_isLenient ? readPlain(text) : std::nullopt;
+    const auto value = readAsWritten(*m_format, text);
+    return value || !m_isLenient ? value : readLeniently(text);
 }
 
-/// ICU takes a point for the grouping even where people write a space, so that "1.234" would be a thousand.
-std::optional<double> NumberFormat::readAsWritten(const QString& text) const {
-    const auto& symbols = *m_format->getDecimalFormatSymbols();
-    const QString separator =
-        fromIcuText(symbols.getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol));
-    return wholeNumber(text.contains(separator) ? *m_format : *m_ungrouped, text);
+/// What a field holds without its suffix is still written as in the locale: in German "1.000" is a thousand.
+std::optional<double> NumberFormat::readLeniently(const QString& text) const {
+    if (const auto value = readAsWritten(*bareCopyOf(*m_format), text))
+        return value;
+    if (const auto value = readPlain(text))
+        return value;
+    const auto lenient = copyOf(*m_format);
+    lenient->setLenient(true);
+    return wholeNumber(*lenient, text);
 }
 
 std::optional<double> NumberFormat::readPlain(const QString& text) const {

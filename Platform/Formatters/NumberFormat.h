@@ -28,15 +28,13 @@ public:
     std::optional<double> read(const QString& text) const;
 
 private:
-    std::optional<double> readAsWritten(const QString& text) const;
+    std::optional<double> readLeniently(const QString& text) const;
     std::optional<double> readPlain(const QString& text) const;
 
     const QLocale m_locale;
     const bool m_isLenient;
-    const double m_plainUnit;                        // how many of a plain number make 1
-    std::unique_ptr<icu::DecimalFormat> m_format;    // with the settings
-    std::unique_ptr<icu::DecimalFormat> m_ungrouped; // the same, for texts without the locale's separator
-    std::unique_ptr<icu::DecimalFormat> m_lenient;
+    const double m_plainUnit;                     // how many of a plain number make 1
+    std::unique_ptr<icu::DecimalFormat> m_format; // with the settings
 };
 
 } // namespace platform

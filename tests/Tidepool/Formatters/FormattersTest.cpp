@@ -120,6 +120,7 @@ TEST_F(ExpressionFormatterTest, WhateverIsTypedIsKeptOrRefused) {
         ExpressionFormatter formatter;
         for (int i = 0; i < 2000; ++i) {
             formatter.setPositiveSuffix(i % 2 == 0 ? std::optional(QStringLiteral("%")) : std::nullopt);
+            formatter.setUsesGroupingSeparator(i % 4 < 2);
             const QString typed = randomText(random);
             const auto result = formatter.getObjectValue(typed);
             const auto show = formatter.stringForObjectValue(result.object);
