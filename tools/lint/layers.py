@@ -25,8 +25,9 @@ BELOW = {
 BELOW_FOLDER = {"Plugin/Editor": {"Platform", "Chorale", "Tidepool"}}
 # The rooms of a module from the bottom up.
 ROOMS = {
-    "Platform": ["Core", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Windows", "AudioUnits", "Updates"],
-    "Tidepool": ["Palette", "Styles", "Events", "Menus", "Buttons", "Views", "Windows"],
+    "Platform": ["Core", "Formatters", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Windows", "AudioUnits",
+                 "Updates"],
+    "Tidepool": ["Palette", "Formatters", "Styles", "Events", "Menus", "Buttons", "Views", "Windows"],
 }
 # Implementations for one operating system serve every room.
 BESIDE_THE_ROOMS = {"Platform/Linux"}
