@@ -26,7 +26,7 @@ BELOW_FOLDER = {"Plugin/Editor": {"Platform", "Chorale", "Tidepool"}}
 # The rooms of a module from the bottom up.
 ROOMS = {
     "Platform": ["Core", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Windows", "AudioUnits", "Updates"],
-    "Tidepool": ["Palette", "Styles", "Events", "Menus", "Buttons", "Views", "Windows"],
+    "Tidepool": ["Palette", "Styles", "Events", "Menus", "Buttons", "Choices", "Views", "Windows"],
 }
 # Implementations for one operating system serve every room.
 BESIDE_THE_ROOMS = {"Platform/Linux"}
