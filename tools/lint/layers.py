@@ -37,7 +37,9 @@ SHOWS_VIEWS = """
     Chorale/ParameterAccessibility Chorale/ParameterView Chorale/RocketFontModifier
     VantorShaders/MetalShaderRenderer VantorShaders/MetalShaderViewController
     Tidepool/Buttons Tidepool/Events Tidepool/Menus Tidepool/Views Tidepool/Windows Tidepool/Styles/StyleSet
-    Tidepool/Styles/Validating
+    Tidepool/Styles/Validating Tidepool/Choices/Segment Tidepool/Choices/SegmentAnnouncements
+    Tidepool/Choices/SegmentInterface Tidepool/Choices/SegmentedButtonStyle Tidepool/Choices/SegmentedCell
+    Tidepool/Choices/StyledSegmentedCell Tidepool/Choices/StyledSegmentedControlAccessibility
     Noteloft/InterFontModifier Noteloft/NoteloftApp Noteloft/main
     Plugin/Editor/EmbeddedAccessibility Plugin/Editor/EmbeddedEditor Plugin/Editor/HostKeyboard
     Plugin/Editor/UiDescriptor
