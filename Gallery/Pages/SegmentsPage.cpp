@@ -125,7 +125,7 @@ void addStyledStates(Section& section, const GallerySettings& settings) {
     });
     add(QStringLiteral("One disabled"), [](StyledSegmentedControl& control) {
         setLabels(control);
-        control.cell().setEnabled(false, 1);
+        control.cell().setEnabled(false, 0);
     });
     add(QStringLiteral("Images"), setImages);
     add(QStringLiteral("Image and label"), [](StyledSegmentedControl& control) {

@@ -24,6 +24,10 @@ const Segment& SegmentedCell::segment(int index) const {
     return m_segments[static_cast<std::size_t>(index)];
 }
 
+Segment& SegmentedCell::mutableSegment(int index) {
+    return const_cast<Segment&>(segment(index));
+}
+
 void SegmentedCell::setSegmentCount(int count) {
     if (count < 0)
         platform::fatalError("The number of segments cannot be negative");
@@ -142,7 +146,7 @@ qreal SegmentedCell::naturalWidth(int segment, const platform::CellContext& cont
 }
 
 QSizeF SegmentedCell::cellSize(const platform::CellContext& context) const {
-    QSizeF size;
+    QSizeF size(0, 0);
     for (int i = 0; i < segmentCount(); ++i)
         size = {size.width() + naturalWidth(i, context),
                 std::max(size.height(), contentSize(i, context).height())};

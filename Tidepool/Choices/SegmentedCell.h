@@ -16,15 +16,12 @@ class SegmentedCell : public platform::Cell {
 public:
     int segmentCount() const { return static_cast<int>(m_segments.size()); }
 
-    /// New segments come last and are empty.
-    void setSegmentCount(int count);
+    void setSegmentCount(int count); // new ones come last and are empty
 
     const Segment& segment(int index) const;
 
     void setLabel(const QString& label, int forSegment);
-
-    /// Beside the label; a template takes the colour of the text.
-    void setImage(platform::Image image, int forSegment);
+    void setImage(platform::Image image, int forSegment); // beside the label
 
     /// 0 for the width of the content, which may also grow with the control.
     virtual void setWidth(qreal width, int forSegment);
@@ -35,22 +32,18 @@ public:
 
     SegmentTracking trackingMode() const { return m_trackingMode; }
 
-    /// Selects nothing that the new mode does not allow.
-    void setTrackingMode(SegmentTracking mode);
+    void setTrackingMode(SegmentTracking mode); // takes a selection away that it does not allow
 
-    /// False in any case for momentary segments.
     bool isSelected(int segment) const { return this->segment(segment).isSelected; }
 
-    void setSelected(bool selected, int forSegment);
+    void setSelected(bool selected, int forSegment); // momentary ones never are
 
     /// The last one that was selected and still is; of momentary ones, the last that was pressed.
     int selectedSegment() const { return m_selectedSegment; }
 
-    /// The only one from now on.
+    /// That one alone from now on.
     void setSelectedSegment(int segment);
-
-    /// What a click on the segment does to the selection.
-    void select(int segment);
+    void select(int segment); // as a click on it does
 
     /// The one that the keys act on.
     int keySegment() const { return m_keySegment; }
@@ -83,8 +76,7 @@ protected:
     const platform::PreparedText& preparedLabel(int segment, const platform::CellStyle& style) const;
 
 private:
-    Segment& mutableSegment(int index) { return const_cast<Segment&>(segment(index)); }
-
+    Segment& mutableSegment(int index);
     void mark(int segment, bool selected);
     qreal naturalWidth(int segment, const platform::CellContext& context) const;
 

@@ -1,6 +1,7 @@
 #include "Tidepool/Choices/StyledSegmentedCell.h"
 
 #include "Platform/Controls/CellLayout.h"
+#include "Platform/Graphics/Dimming.h"
 #include "Tidepool/Assets.h"
 #include "Tidepool/Buttons/CellDrawing.h"
 #include "Tidepool/Choices/TabFocus.h"
@@ -16,11 +17,11 @@ using platform::CellContext;
 namespace {
 
 /// What content that is too long keeps free at either side.
-constexpr qreal leastPadding = 6;
+constexpr qreal leastPadding = 8;
 
 platform::CellContent contentOf(const Segment& segment, const platform::PreparedText& label,
                                 Qt::LayoutDirection direction) {
-    return {.image = segment.image.size(),
+    return {.image = segment.image.isNull() ? QSizeF(0, 0) : segment.image.size(),
             .title = segment.label.isEmpty() ? QSizeF(0, 0) : label.size(),
             .direction = direction};
 }
@@ -29,7 +30,8 @@ void drawMenuMark(QPainter& painter, const QRectF& bezel, const QColor& color, f
                   Qt::LayoutDirection direction) {
     const platform::Image& more = Images::cornerToolMore;
     QRectF mark(QPointF(), more.size());
-    mark.moveBottomRight(bezel.bottomRight() - QPointF(leastPadding - 2, leastPadding - 1));
+    constexpr QPointF margin(4, 5); // inside the bezel's edge
+    mark.moveBottomRight(bezel.bottomRight() - margin);
     painter.save();
     if (direction == Qt::RightToLeft)
         mirror(painter, bezel);
@@ -57,9 +59,9 @@ StyledControlState StyledSegmentedCell::segmentState(int segment, const CellCont
     using State = StyledControlState;
     const HighlightPhase phase = highlightPhase(segment);
     const bool isDisabled = context.state.contains(State::disabled) || !this->segment(segment).isEnabled;
+    const bool isPressed = phase == HighlightPhase::pressed || phase == HighlightPhase::pressedWhileSelected;
     return State::defaultState.with(State::disabled, isDisabled)
-        .with(State::highlighted,
-              phase == HighlightPhase::pressed || phase == HighlightPhase::pressedWhileSelected)
+        .with(State::highlighted, isPressed && !isDisabled)
         .with(State::selected, isSelected(segment) && !m_hideSelection);
 }
 
@@ -116,7 +118,10 @@ void StyledSegmentedCell::drawContent(QPainter& painter, int index, const QRectF
                                       const CellContext& context) const {
     const Segment& segment = this->segment(index);
     const StyledControlState state = segmentState(index, context);
-    const QColor& color = styleOf(context).textColor(state);
+    // The bezel of a selected segment looks the same while it is pressed; its content says so.
+    const bool isDimmed = state.contains(StyledControlState::selected | StyledControlState::highlighted);
+    const QColor& text = styleOf(context).textColor(state);
+    const QColor color = isDimmed ? platform::dimmed(text) : text;
     const platform::PreparedText& label = preparedLabel(index, context.style);
     const platform::CellFrames frames = arrange(contentOf(segment, label, context.direction),
                                                 frame.adjusted(leastPadding, 0, -leastPadding, 0));

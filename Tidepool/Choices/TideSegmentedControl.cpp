@@ -52,6 +52,7 @@ void TideSegmentedControl::showItems() {
         m_buttons << button;
     }
     for (TideSegmentButton* const gone : old) {
+        m_row->removeWidget(gone);
         gone->hide();        // the keyboard goes on to a neighbour
         gone->deleteLater(); // its click may be what took the item away
     }
