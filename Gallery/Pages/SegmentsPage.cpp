@@ -20,7 +20,6 @@ using tidepool::StyledSegmentedControl;
 using tidepool::TideSegmentButton;
 using tidepool::TideSegmentedControl;
 using tidepool::TideSegmentedControlModel;
-using tidepool::TideSegmentItem;
 
 const QStringList& views() {
     static const QStringList labels{QStringLiteral("Keys"), QStringLiteral("List"), QStringLiteral("Mixer")};
@@ -30,7 +29,7 @@ const QStringList& views() {
 std::shared_ptr<TideSegmentedControlModel> makeModel() {
     tidepool::TideSegmentItems items;
     for (const QString& title : views())
-        items << std::make_shared<TideSegmentItem>(static_cast<int>(items.size()), title);
+        items << std::make_shared<tidepool::TideSegmentItem>(static_cast<int>(items.size()), title);
     return std::make_shared<TideSegmentedControlModel>(items);
 }
 
@@ -51,23 +50,27 @@ StyledSegmentedControl& addStyled(LiveRow& row, const QStringList& labels, Segme
     return control;
 }
 
-QWidget* makeLiveRow(const GallerySettings& settings) {
-    auto* const row = new LiveRow(QStringLiteral(
-        "Click, or go with the arrow keys and press Space. A second click on the row at the end clears it."));
+QWidget* makeStyledRow(const GallerySettings& settings) {
+    auto* const row = new LiveRow(
+        QStringLiteral("Click, or go with the arrow keys and press Space. Hold Add for its menu."));
     addStyled(*row, views(), SegmentTracking::selectOne).setSelectedSegment(0);
     addStyled(*row, {QStringLiteral("Snap"), QStringLiteral("Loop")}, SegmentTracking::selectAny);
     auto& commands =
         addStyled(*row, {QStringLiteral("Undo"), QStringLiteral("Add")}, SegmentTracking::momentary);
     commands.cell().setMenu(makeMenu(commands), 1);
+    for (StyledSegmentedControl* const control : row->findChildren<StyledSegmentedControl*>())
+        control->setEnabled(settings.isEnabled);
+    return row;
+}
+
+QWidget* makeTideRow(const GallerySettings& settings) {
+    auto* const row = new LiveRow(QStringLiteral("A second click takes the selection away."));
     const auto model = makeModel();
     model->select(0);
     model->setOnSelectionChanged([row](const tidepool::TideSegmentItemPointer& item) {
         row->say(item ? item->title() : QStringLiteral("Nothing"));
     });
-    row->add(new TideSegmentedControl(model));
-    for (QWidget* const control : row->findChildren<QWidget*>())
-        if (qobject_cast<StyledSegmentedControl*>(control) || qobject_cast<TideSegmentedControl*>(control))
-            control->setEnabled(settings.isEnabled);
+    row->add(new TideSegmentedControl(model)).setEnabled(settings.isEnabled);
     return row;
 }
 
@@ -161,7 +164,7 @@ void addTideStates(Section& section, const GallerySettings& settings) {
         model.select(0);
         model.setHideSelection(true);
     });
-    const auto item = std::make_shared<TideSegmentItem>(0, QStringLiteral("Keys"));
+    const auto item = std::make_shared<tidepool::TideSegmentItem>(0, QStringLiteral("Keys"));
     auto* const focused = new Focused<TideSegmentButton>(item);
     auto* const selected = new Focused<TideSegmentButton>(item);
     selected->setSelected(true);
@@ -170,7 +173,9 @@ void addTideStates(Section& section, const GallerySettings& settings) {
 
 QWidget* makePage(const GallerySettings& settings) {
     auto* const page = new PageBody;
-    page->addSection(QStringLiteral("Live")).add(makeLiveRow(settings));
+    Section& live = page->addSection(QStringLiteral("Live"));
+    live.add(makeStyledRow(settings));
+    live.add(makeTideRow(settings));
     addStyledStates(page->addSection(QStringLiteral("StyledSegmentedControl")), settings);
     addTideStates(page->addSection(QStringLiteral("TideSegmentedControl")), settings);
     return page;

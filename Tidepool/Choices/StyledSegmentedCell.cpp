@@ -129,7 +129,7 @@ void StyledSegmentedCell::drawContent(QPainter& painter, int index, const QRectF
         drawTinted(painter,
                    imageFrame(segment.image.size(), frames.image, platform::ImageScaling::proportionallyDown,
                               backingScale()),
-                   segment.image, color, opacityOfBezel(state));
+                   segment.image, text, isDimmed ? platform::dimmedOpacity : opacityOfBezel(state));
     if (!segment.label.isEmpty())
         label.draw(painter, frames.title, {.color = color.rgba()});
 }

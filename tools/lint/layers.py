@@ -40,6 +40,7 @@ SHOWS_VIEWS = """
     Tidepool/Styles/Validating Tidepool/Choices/Segment Tidepool/Choices/SegmentAnnouncements
     Tidepool/Choices/SegmentInterface Tidepool/Choices/SegmentedButtonStyle Tidepool/Choices/SegmentedCell
     Tidepool/Choices/StyledSegmentedCell Tidepool/Choices/StyledSegmentedControlAccessibility
+    Tidepool/Choices/StyledSegmentedControlInput
     Noteloft/InterFontModifier Noteloft/NoteloftApp Noteloft/main
     Plugin/Editor/EmbeddedAccessibility Plugin/Editor/EmbeddedEditor Plugin/Editor/HostKeyboard
     Plugin/Editor/UiDescriptor
