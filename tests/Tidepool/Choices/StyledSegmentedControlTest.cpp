@@ -188,6 +188,7 @@ TEST_F(StyledSegmentedControlTest, SizesFollowTheLabelsAndTheBezel) {
     EXPECT_EQ(m_control->segmentFrame(2).right(), 300) << "the rest goes to widths that are not set";
     m_control->resize(61, 24);
     EXPECT_EQ(m_control->segmentFrame(2).right(), 61);
+    EXPECT_EQ(m_control->segmentFrame(1), m_control->segmentFrame(1).toRect()) << "on whole points";
     cell().setSegmentCount(1);
     cell().setLabel({}, 0);
     cell().setWidth(10, 0);
