@@ -27,7 +27,7 @@ BELOW_FOLDER = {"Plugin/Editor": {"Platform", "Chorale", "Tidepool"}}
 ROOMS = {
     "Platform": ["Core", "Formatters", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Windows", "AudioUnits",
                  "Updates"],
-    "Tidepool": ["Palette", "Formatters", "Styles", "Events", "Menus", "Buttons", "Views", "Windows"],
+    "Tidepool": ["Palette", "Formatters", "Styles", "Events", "Menus", "Buttons", "Choices", "Views", "Windows"],
 }
 # Implementations for one operating system serve every room.
 BESIDE_THE_ROOMS = {"Platform/Linux"}
@@ -38,7 +38,10 @@ SHOWS_VIEWS = """
     Chorale/ParameterAccessibility Chorale/ParameterView Chorale/RocketFontModifier
     VantorShaders/MetalShaderRenderer VantorShaders/MetalShaderViewController
     Tidepool/Buttons Tidepool/Events Tidepool/Menus Tidepool/Views Tidepool/Windows Tidepool/Styles/StyleSet
-    Tidepool/Styles/Validating
+    Tidepool/Styles/Validating Tidepool/Choices/Segment Tidepool/Choices/SegmentAnnouncements
+    Tidepool/Choices/SegmentInterface Tidepool/Choices/SegmentedButtonStyle Tidepool/Choices/SegmentedCell
+    Tidepool/Choices/StyledSegmentedCell Tidepool/Choices/StyledSegmentedControlAccessibility
+    Tidepool/Choices/StyledSegmentedControlInput
     Noteloft/InterFontModifier Noteloft/NoteloftApp Noteloft/main
     Plugin/Editor/EmbeddedAccessibility Plugin/Editor/EmbeddedEditor Plugin/Editor/HostKeyboard
     Plugin/Editor/UiDescriptor
