@@ -6,6 +6,7 @@
 #include "Gallery/Pages/ImagesPage.h"
 #include "Gallery/Pages/MenusPage.h"
 #include "Gallery/Pages/PushButtonsPage.h"
+#include "Gallery/Pages/SegmentsPage.h"
 #include "Gallery/Pages/StatesPage.h"
 #include "Gallery/Pages/ToolButtonsPage.h"
 
@@ -13,8 +14,8 @@ namespace gallery {
 
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
-        colorsPage(),     imagesPage(),      statesPage(),       pushButtonsPage(),
-        checkBoxesPage(), toolButtonsPage(), imageButtonsPage(), menusPage(),
+        colorsPage(),      imagesPage(),       statesPage(), pushButtonsPage(), checkBoxesPage(),
+        toolButtonsPage(), imageButtonsPage(), menusPage(),  segmentsPage(),
     };
     return pages;
 }

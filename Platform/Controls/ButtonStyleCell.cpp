@@ -8,6 +8,12 @@ namespace platform {
 ButtonStyleCell::ButtonStyleCell(std::unique_ptr<ButtonStyle> style)
     : m_style(std::move(style)), m_font(m_style->font()) {}
 
+void ButtonStyleCell::setStyle(std::unique_ptr<ButtonStyle> style) {
+    m_style = std::move(style);
+    m_font = m_style->font();
+    changed();
+}
+
 const QFont& ButtonStyleCell::titleFont(const QFont&, const CellStyle&) const {
     return m_font;
 }

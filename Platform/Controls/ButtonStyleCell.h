@@ -12,6 +12,9 @@ class ButtonStyleCell : public ButtonCell {
 public:
     explicit ButtonStyleCell(std::unique_ptr<ButtonStyle> style);
 
+    /// Another look from now on.
+    void setStyle(std::unique_ptr<ButtonStyle> style);
+
     const QFont& titleFont(const QFont& ofControl, const CellStyle& style) const override;
     QSizeF cellSize(const CellContext& context) const override;
     void draw(QPainter& painter, const QRectF& frame, const CellContext& context) const override;
@@ -20,8 +23,8 @@ public:
     void drawFocus(QPainter&, const QRectF&, const CellContext&) const override {}
 
 private:
-    const std::unique_ptr<ButtonStyle> m_style;
-    const QFont m_font;
+    std::unique_ptr<ButtonStyle> m_style;
+    QFont m_font;
 };
 
 } // namespace platform

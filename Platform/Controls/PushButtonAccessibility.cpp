@@ -19,6 +19,8 @@ public:
     QAccessible::Role role() const override {
         if (!m_button.showsState())
             return m_button.offeredMenu() != nullptr ? QAccessible::ButtonMenu : QAccessible::Button;
+        if (m_button.autoExclusive())
+            return QAccessible::RadioButton;
         return m_button.cell().isFramed() ? QAccessible::Button : QAccessible::CheckBox;
     }
 

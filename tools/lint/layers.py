@@ -25,8 +25,9 @@ BELOW = {
 BELOW_FOLDER = {"Plugin/Editor": {"Platform", "Chorale", "Tidepool"}}
 # The rooms of a module from the bottom up.
 ROOMS = {
-    "Platform": ["Core", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Text", "Windows", "AudioUnits", "Updates"],
-    "Tidepool": ["Palette", "Styles", "Events", "Menus", "Buttons", "Views", "Text", "Windows"],
+    "Platform": ["Core", "Formatters", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Text", "Windows",
+                 "AudioUnits", "Updates"],
+    "Tidepool": ["Palette", "Formatters", "Styles", "Events", "Menus", "Buttons", "Choices", "Views", "Text", "Windows"],
 }
 # Implementations for one operating system serve every room.
 BESIDE_THE_ROOMS = {"Platform/Linux"}
@@ -37,7 +38,10 @@ SHOWS_VIEWS = """
     Chorale/ParameterAccessibility Chorale/ParameterView Chorale/RocketFontModifier
     VantorShaders/MetalShaderRenderer VantorShaders/MetalShaderViewController
     Tidepool/Buttons Tidepool/Text Tidepool/Events Tidepool/Menus Tidepool/Views Tidepool/Windows Tidepool/Styles/StyleSet
-    Tidepool/Styles/Validating
+    Tidepool/Styles/Validating Tidepool/Choices/Segment Tidepool/Choices/SegmentAnnouncements
+    Tidepool/Choices/SegmentInterface Tidepool/Choices/SegmentedButtonStyle Tidepool/Choices/SegmentedCell
+    Tidepool/Choices/StyledSegmentedCell Tidepool/Choices/StyledSegmentedControlAccessibility
+    Tidepool/Choices/StyledSegmentedControlInput
     Noteloft/InterFontModifier Noteloft/NoteloftApp Noteloft/main
     Plugin/Editor/EmbeddedAccessibility Plugin/Editor/EmbeddedEditor Plugin/Editor/HostKeyboard
     Plugin/Editor/UiDescriptor
