@@ -78,7 +78,7 @@ void PreparedText::make(const Made& made) const {
     QPainter painter(&line);
     painter.setFont(m_font);
     painter.setPen(QColor::fromRgba(made.color));
-    const QPointF baseline(overhang, onPixel(overhang + m_ascent, made.scale));
+    const QPointF baseline = onPixel(QPointF(overhang, overhang + m_ascent), made.scale);
     painter.drawText(baseline, shown);
     if (made.showsMnemonic && hasMnemonic())
         underlineMnemonic(painter, baseline);
@@ -102,12 +102,12 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look)
         x = rect.right() - m_shownWidth;
     qreal line = onPixel(baseline(rect), scale);
     if (look.isOnLine) {
-        const QPointF start = onDevicePixel(painter, {x, rect.top()});
-        x = start.x();
-        line = start.y() + onPixel(m_ascent, scale);
+        const QPointF top = onDevicePixel(painter, {x, rect.top()});
+        x = top.x();
+        line = top.y() + onPixel(m_ascent, scale);
     }
-    const qreal top = line - onPixel(overhang + m_ascent, scale);
-    m_picture.draw(painter, QPointF(onPixel(x - overhang, scale), top) + QPointF(m_inkOrigin) / scale);
+    const QPointF start = onPixel(QPointF(overhang, overhang + m_ascent), scale);
+    m_picture.draw(painter, QPointF(onPixel(x, scale), line) - start + QPointF(m_inkOrigin) / scale);
 }
 
 void PreparedText::underlineMnemonic(QPainter& painter, QPointF baseline) const {

@@ -9,10 +9,26 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QTextLayout>
 
 #include <cmath>
 
 namespace platform {
+
+namespace {
+
+/// Where a line edit draws the baseline of `text` below the top of its line. It rounds the line's height,
+/// which differs where another font stands in for missing letters.
+qreal baselineInLine(const QString& text, const QFont& font) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    const qreal ascent = line.ascent();
+    return QFontMetrics(font).ascent() - std::round(ascent) + ascent;
+}
+
+} // namespace
 
 FieldEditor::FieldEditor(QWidget& field) : QLineEdit(&field) {
     setFrame(false);
@@ -52,15 +68,21 @@ void FieldEditor::setLine(const QRectF& line) {
     const QPoint origin(static_cast<int>(std::ceil(line.left())), static_cast<int>(line.top()));
     m_shift = line.left() - origin.x();
     const QRect room(origin, QSize(static_cast<int>(line.width()), static_cast<int>(line.height())));
-    setGeometry(room.adjusted(-margin, -margin, margin, margin));
+    setGeometry(room.adjusted(-margin, -marginAbove, margin, marginAbove));
 }
 
-/// The text begins with a whole pixel, where it stood before there was an editor.
+/// The text begins with a whole pixel of the window, where it stood before there was an editor. The painter
+/// does not know yet where in the window it is.
 void FieldEditor::initPainter(QPainter* painter) const {
     QLineEdit::initPainter(painter);
+    const qreal scale = pixelsPerPoint(*painter);
     const qreal advance = QFontMetricsF(font()).horizontalAdvance(text());
-    const QPointF start(margin + offsetInLine(advance, width() - 2 * margin, alignment()), margin);
-    painter->translate(onDevicePixel(*painter, start + QPointF(m_shift, 0)) - start);
+    const QPointF start(margin + offsetInLine(advance, width() - 2 * margin, alignment()), marginAbove);
+    const QPointF inWindow = mapTo(window(), start) + QPointF(m_shift, 0);
+    const QPointF shift = onPixel(inWindow, scale) - inWindow + QPointF(m_shift, 0);
+    const qreal baseline =
+        onPixel(QFontMetricsF(font()).ascent(), scale) + 0.25 / scale; // on no pixel's edge
+    painter->translate(shift + QPointF(0, baseline - baselineInLine(text(), font())));
 }
 
 void FieldEditor::focusOutEvent(QFocusEvent* event) {

@@ -11,6 +11,8 @@ class FieldEditor : public QLineEdit {
 public:
     /// What it keeps free on both sides of its line, in points.
     static constexpr int margin = 2;
+    /// What a line edit keeps free above its line.
+    static constexpr int marginAbove = 1;
 
     /// How far a text that fits lies from the left edge of its line, in points. `alignment` is the visual
     /// one.

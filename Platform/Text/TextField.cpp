@@ -155,7 +155,7 @@ void TextField::cancel() {
 void TextField::setUpFieldEditor(FieldEditor& editor) {
     const CellContext own = context();
     editor.setFont(own.title.font());
-    editor.setAlignment(QStyle::visualAlignment(own.direction, cell().alignment()) | Qt::AlignVCenter |
+    editor.setAlignment(QStyle::visualAlignment(own.direction, cell().alignment()) | Qt::AlignTop |
                         Qt::AlignAbsolute);
     editor.setPlaceholderText(cell().placeholderString());
     editor.setAccessibleName(accessibleName());

@@ -33,11 +33,12 @@ protected:
     }
 
     QImage drawn(qreal scale) {
-        QImage image(field.size() * scale, QImage::Format_RGB32);
+        QImage image(window.size() * scale, QImage::Format_RGB32);
         image.setDevicePixelRatio(scale);
         image.fill(QColor(20, 20, 30));
-        field.render(&image, {}, {}, QWidget::DrawChildren);
-        return image;
+        window.render(&image, {}, {}, QWidget::DrawChildren);
+        const QRectF part(field.geometry());
+        return image.copy(QRectF(part.topLeft() * scale, part.size() * scale).toAlignedRect());
     }
 
     void type(const char* text) {
