@@ -100,14 +100,11 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look)
         x += (rect.width() - m_shownWidth) / 2;
     else if (look.alignment & Qt::AlignRight)
         x = rect.right() - m_shownWidth;
-    qreal line = onPixel(baseline(rect), scale);
-    if (look.isOnLine) {
-        const QPointF top = onDevicePixel(painter, {x, rect.top()});
-        x = top.x();
-        line = top.y() + onPixel(m_ascent, scale);
-    }
+    const QPointF origin = look.isOnLine
+                               ? onDevicePixel(painter, {x, rect.top()}) + QPointF(0, onPixel(m_ascent, scale))
+                               : QPointF(onPixel(x, scale), onPixel(baseline(rect), scale));
     const QPointF start = onPixel(QPointF(overhang, overhang + m_ascent), scale);
-    m_picture.draw(painter, QPointF(onPixel(x, scale), line) - start + QPointF(m_inkOrigin) / scale);
+    m_picture.draw(painter, origin - start + QPointF(m_inkOrigin) / scale);
 }
 
 void PreparedText::underlineMnemonic(QPainter& painter, QPointF baseline) const {
