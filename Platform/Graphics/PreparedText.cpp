@@ -100,9 +100,9 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look)
         x += (rect.width() - m_shownWidth) / 2;
     else if (look.alignment & Qt::AlignRight)
         x = rect.right() - m_shownWidth;
-    const QPointF origin = look.isOnLine
-                               ? onDevicePixel(painter, {x, rect.top()}) + QPointF(0, onPixel(m_ascent, scale))
-                               : QPointF(onPixel(x, scale), onPixel(baseline(rect), scale));
+    const QPointF origin =
+        look.isOnLine ? onDevicePixel(painter, {x, rect.top()}) + QPointF(0, onPixel(m_ascent, scale))
+                      : QPointF(onPixel(x, scale), onPixel(baseline(rect), scale));
     const QPointF start = onPixel(QPointF(overhang, overhang + m_ascent), scale);
     m_picture.draw(painter, origin - start + QPointF(m_inkOrigin) / scale);
 }

@@ -2,6 +2,8 @@
 
 #include "Platform/Controls/MenuStyle.h"
 #include "Platform/Graphics/DevicePixels.h"
+#include "Platform/Text/FormattedValue.h"
+#include "Platform/Text/TextField.h"
 
 #include <QContextMenuEvent>
 #include <QFocusEvent>
@@ -10,8 +12,12 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QTextLayout>
+#include <QValidator>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace platform {
 
@@ -28,11 +34,50 @@ qreal baselineInLine(const QString& text, const QFont& font) {
     return QFontMetrics(font).ascent() - std::round(ascent) + ascent;
 }
 
+/// Lets a line edit refuse what a formatter does not let stand, and keeps why.
+class PartialValidator : public QValidator {
+public:
+    PartialValidator(std::shared_ptr<const FormattedValue> value, QString& refusal, QObject* parent)
+        : QValidator(parent), m_value(std::move(value)), m_refusal(refusal) {}
+
+    State validate(QString& text, int& position) const override {
+        const Formatter::PartialString partial = m_value->partial(text);
+        if (!partial.isValid())
+            m_refusal = *partial.errorDescription;
+        const bool isReplaced = partial.newEditingString && *partial.newEditingString != text;
+        if (!partial.isValid() && !isReplaced)
+            return Invalid;
+        if (isReplaced)
+            text = *partial.newEditingString;
+        position = std::min(position, static_cast<int>(text.size()));
+        return Acceptable;
+    }
+
+private:
+    const std::shared_ptr<const FormattedValue> m_value;
+    QString& m_refusal;
+};
+
 } // namespace
 
-FieldEditor::FieldEditor(QWidget& field) : QLineEdit(&field) {
+FieldEditor::FieldEditor(TextField& field) : QLineEdit(&field), m_field(field) {
     setFrame(false);
     setAttribute(Qt::WA_MacShowFocusRect, false);
+    setMaxLength(std::numeric_limits<int>::max()); // to begin must not cut what is there
+    connect(this, &QLineEdit::inputRejected, this, &FieldEditor::tellRefusal);
+}
+
+void FieldEditor::setFormattedValue(std::shared_ptr<const FormattedValue> value) {
+    if (value == m_value)
+        return;
+    m_value = std::move(value);
+    const QValidator* const former = validator();
+    setValidator(m_value ? new PartialValidator(m_value, m_refusal, this) : nullptr);
+    delete former;
+}
+
+void FieldEditor::tellRefusal() {
+    Q_EMIT refused(std::exchange(m_refusal, {}));
 }
 
 bool FieldEditor::event(QEvent* event) {
@@ -93,9 +138,7 @@ void FieldEditor::focusOutEvent(QFocusEvent* event) {
 }
 
 void FieldEditor::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && isModified())
-        Q_EMIT cancelled();
-    else
+    if (!m_field.keyDown(*event))
         QLineEdit::keyPressEvent(event);
 }
 

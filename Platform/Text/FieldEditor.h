@@ -2,7 +2,12 @@
 
 #include <QLineEdit>
 
+#include <memory>
+
 namespace platform {
+
+class FormattedValue;
+class TextField;
 
 /// The editor that a text field brings up over its text while the keyboard is on it.
 class FieldEditor : public QLineEdit {
@@ -18,7 +23,7 @@ public:
     /// one.
     static int offsetInLine(qreal textWidth, int lineWidth, Qt::Alignment alignment);
 
-    explicit FieldEditor(QWidget& field);
+    explicit FieldEditor(TextField& field);
 
     /// Puts the line there, as exactly as the screen's pixels allow, in points of the field.
     void setLine(const QRectF& line);
@@ -29,11 +34,14 @@ public:
     /// Takes the text, as one that nobody has edited.
     void begin(const QString& text);
 
+    /// What is typed must be acceptable to it. Null for no restriction.
+    void setFormattedValue(std::shared_ptr<const FormattedValue> value);
+
 Q_SIGNALS:
     /// The keyboard has gone elsewhere.
     void left();
-    /// Escape.
-    void cancelled();
+    /// What was typed or pasted was not taken, and why, for people.
+    void refused(const QString& reason);
 
 protected:
     bool event(QEvent* event) override;
@@ -43,6 +51,11 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void tellRefusal();
+
+    TextField& m_field;
+    std::shared_ptr<const FormattedValue> m_value;
+    QString m_refusal;
     qreal m_shift = 0;
     int m_events = 0; // that it is handling
 };

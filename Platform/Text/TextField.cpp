@@ -1,13 +1,14 @@
 #include "Platform/Text/TextField.h"
 
 #include "Platform/Text/FieldEditor.h"
+#include "Platform/Text/FormattedValue.h"
 #include "Platform/Text/TextFieldAccessibility.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QMouseEvent>
-#include <QStyle>
+#include <QPointer>
 
 #include <utility>
 
@@ -31,6 +32,55 @@ TextField::~TextField() {
 }
 
 void TextField::setStringValue(const QString& text) {
+    if (!m_formatted)
+        return showText(text);
+    const auto formatted = m_formatted;
+    const QPointer<TextField> self(this);
+    if (!formatted->read(text))
+        formatted->setObject(text);
+    if (self)
+        showObject();
+}
+
+const std::shared_ptr<const Formatter>& TextField::formatter() const {
+    static const std::shared_ptr<const Formatter> none;
+    return m_formatted ? m_formatted->formatter() : none;
+}
+
+void TextField::setFormatter(std::shared_ptr<const Formatter> formatter) {
+    const QVariant object = objectValue();
+    m_formatted = formatter ? std::make_shared<FormattedValue>(std::move(formatter)) : nullptr;
+    if (m_isEditing)
+        m_editor->setFormattedValue(m_formatted);
+    setObjectValue(object);
+}
+
+QVariant TextField::objectValue() const {
+    return m_formatted ? m_formatted->object() : QVariant(m_text);
+}
+
+void TextField::setObjectValue(const QVariant& object) {
+    if (!m_formatted)
+        return showText(object.toString());
+    m_formatted->setObject(object);
+    showObject();
+}
+
+std::optional<QString> TextField::formattingError() const {
+    return m_formatted ? m_formatted->error() : std::nullopt;
+}
+
+void TextField::showObject() {
+    const auto formatted = m_formatted;
+    const QPointer<TextField> self(this);
+    const QString text = m_isEditing ? formatted->editingText() : formatted->displayText();
+    if (!self)
+        return;
+    showText(text);
+    formattingErrorDidChange();
+}
+
+void TextField::showText(const QString& text) {
     if (m_isEditing && m_editor->text() != text)
         m_editor->setText(text);
     m_sentText = text;
@@ -41,23 +91,14 @@ void TextField::replaceText(const QString& text) {
     if (!m_isEditable || !isEnabled())
         return;
     const QPointer<TextField> self(this);
-    if (m_isEditing)
-        m_editor->setText(text);
-    takeUserText(text);
+    if (!m_isEditing) {
+        takeUserText(text);
+    } else {
+        m_editor->selectAll();
+        m_editor->insert(text); // and can be undone
+    }
     if (self)
-        sendIfChanged();
-}
-
-void TextField::takeUserText(const QString& text) {
-    const QPointer<TextField> self(this);
-    takeText(text);
-    textDidChange();
-    if (self)
-        Q_EMIT textChanged(text);
-}
-
-bool TextField::sendIfChanged() {
-    return std::exchange(m_sentText, m_text) != m_text && sendAction();
+        finishText();
 }
 
 void TextField::takeText(const QString& text) {
@@ -92,87 +133,6 @@ std::optional<qreal> TextField::baseline(qreal height) const {
     const CellContext own = context();
     const QRectF line = cell().titleRect(QRectF(0, 0, width(), height), own);
     return line.top() + QFontMetricsF(own.title.font()).ascent();
-}
-
-void TextField::makeEditor() {
-    m_editor = new FieldEditor(*this);
-    setTabOrder(this, m_editor);
-    connect(m_editor, &FieldEditor::textEdited, this, &TextField::takeUserText);
-    connect(m_editor, &FieldEditor::returnPressed, this, &TextField::commit);
-    connect(m_editor, &FieldEditor::cancelled, this, &TextField::cancel);
-    connect(m_editor, &FieldEditor::left, this, &TextField::endEditing);
-}
-
-void TextField::beginEditing(Qt::FocusReason reason) {
-    if (m_isEditing || !m_isEditable || !isEnabled())
-        return;
-    if (m_editor == nullptr)
-        makeEditor();
-    m_isEditing = true;
-    m_sentText = m_text;
-    setUpFieldEditor(*m_editor);
-    m_editor->begin(m_text);
-    placeEditor();
-    m_editor->show();
-    setFocusPolicy(Qt::NoFocus); // the editor stands for the field among the others
-    m_editor->setFocus(reason);
-    cell().setShowsFirstResponder(true);
-    firstResponderDidChange();
-}
-
-void TextField::endEditing() {
-    if (!std::exchange(m_isEditing, false))
-        return;
-    const QPointer<TextField> self(this);
-    setFocusPolicy(m_isEditable ? Qt::StrongFocus : Qt::NoFocus);
-    m_editor->hide();
-    cell().setShowsFirstResponder(false);
-    firstResponderDidChange();
-    if (self)
-        sendIfChanged();
-    if (self)
-        Q_EMIT editingEnded();
-}
-
-/// Return.
-void TextField::commit() {
-    const QPointer<TextField> self(this);
-    m_sentText = m_text;
-    m_editor->setModified(false);
-    m_editor->selectAll();
-    sendAction();
-    if (self)
-        Q_EMIT editingEnded();
-}
-
-/// Escape: the text is again what was sent last.
-void TextField::cancel() {
-    m_editor->begin(m_sentText);
-    m_editor->selectAll();
-    takeUserText(m_sentText);
-}
-
-void TextField::setUpFieldEditor(FieldEditor& editor) {
-    const CellContext own = context();
-    editor.setFont(own.title.font());
-    editor.setAlignment(QStyle::visualAlignment(own.direction, cell().alignment()) | Qt::AlignTop |
-                        Qt::AlignAbsolute);
-    editor.setPlaceholderText(cell().placeholderString());
-    editor.setAccessibleName(accessibleName());
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Base, Qt::transparent);
-    palette.setColor(QPalette::Text, cell().textColor(own));
-    palette.setColor(QPalette::PlaceholderText, cell().placeholderColor(own));
-    editor.setPalette(palette);
-}
-
-QRectF TextField::editorLine() const {
-    return cell().lineRect(QRectF(rect()), context());
-}
-
-void TextField::placeEditor() {
-    if (m_isEditing)
-        m_editor->setLine(editorLine());
 }
 
 void TextField::changeEvent(QEvent* event) {

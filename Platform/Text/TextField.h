@@ -3,14 +3,20 @@
 #include "Platform/Controls/CellControl.h"
 #include "Platform/Text/TextFieldCell.h"
 
-#include <QPointer>
+#include <QVariant>
 
 namespace platform {
 
 class FieldEditor;
+class FormattedValue;
+class Formatter;
 
 /// A line of text. While the keyboard is on an editable one, an editor shows the text, on the same pixels;
 /// otherwise there is none, and the field costs as much as a label.
+///
+/// With a formatter the field has an object: it shows the formatter's text for it, gives the user another to
+/// edit if the formatter has one, refuses what may not be typed, and reads the text when the editing ends. A
+/// text that cannot be read stays, and no action is sent.
 class TextField : public CellControl<QWidget, TextFieldCell> {
     Q_OBJECT
 
@@ -21,13 +27,28 @@ public:
     /// What is shown, also while it is edited.
     const QString& stringValue() const { return m_text; }
 
-    /// Ends no editing: the editor shows the new text.
+    /// Ends no editing: the editor shows the new text. A formatter reads it; what it cannot read becomes the
+    /// object as it is.
     void setStringValue(const QString& text);
+
+    /// Null for none. The object stays.
+    const std::shared_ptr<const Formatter>& formatter() const;
+    void setFormatter(std::shared_ptr<const Formatter> formatter);
+
+    /// Without a formatter, the text.
+    QVariant objectValue() const;
+
+    /// Ends no editing: the editor shows the new object.
+    void setObjectValue(const QVariant& object);
+
+    /// Why the text that the user has left could not be read, for people.
+    std::optional<QString> formattingError() const;
 
     /// As if the user had typed it and gone on. Nothing happens to a field that is not editable or disabled.
     void replaceText(const QString& text);
 
-    double doubleValue() const override { return m_text.toDouble(); }
+    /// 0 for what is no number.
+    double doubleValue() const override { return objectValue().toDouble(); }
 
     bool isEditable() const { return m_isEditable; }
 
@@ -50,6 +71,9 @@ Q_SIGNALS:
     /// changed.
     void editingEnded();
 
+    /// The formatter has not let stand what was typed or pasted, and why, for people.
+    void refused(const QString& reason);
+
 protected:
     TextField(const QString& text, std::unique_ptr<TextFieldCell> cell, QWidget* parent);
 
@@ -65,8 +89,18 @@ protected:
     /// Where the line of the editor lies.
     virtual QRectF editorLine() const;
 
+    /// A key for the editor, before it sees it. True if the field has used it: Escape takes back what was
+    /// typed.
+    virtual bool keyDown(const QKeyEvent& event);
+
+    /// Sends the action. It is not sent again until the text is another.
+    void sendNow();
+
     /// After the user has changed the text.
     virtual void textDidChange() {}
+
+    /// After the error has come or gone.
+    virtual void formattingErrorDidChange() {}
 
     /// The keyboard came to the field, or has left it.
     virtual void firstResponderDidChange() {}
@@ -81,17 +115,24 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    friend FieldEditor;
+
     void makeEditor();
     void beginEditing(Qt::FocusReason reason);
     void endEditing();
     void placeEditor();
+    void showText(const QString& text);
+    void showObject();
     void takeText(const QString& text);
     void takeUserText(const QString& text);
+    void forgive();
     void commit();
     void cancel();
-    bool sendIfChanged();
+    bool readText();
+    void finishText();
     bool sendToEditor(QMouseEvent& event);
 
+    std::shared_ptr<FormattedValue> m_formatted; // null without a formatter
     QString m_text;
     QString m_sentText; // when the action was sent last, or the editing began
     FieldEditor* m_editor = nullptr;
