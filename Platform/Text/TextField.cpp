@@ -70,6 +70,11 @@ std::optional<QString> TextField::formattingError() const {
     return m_formatted ? m_formatted->error() : std::nullopt;
 }
 
+StyledControlState TextField::controlFlags() const {
+    const bool isWrong = m_formatted && m_formatted->error();
+    return CellControl::controlFlags().with(StyledControlState::invalid, isWrong);
+}
+
 void TextField::showObject() {
     const auto formatted = m_formatted;
     const QPointer<TextField> self(this);
@@ -77,7 +82,7 @@ void TextField::showObject() {
     if (!self)
         return;
     showText(text);
-    formattingErrorDidChange();
+    errorChanged();
 }
 
 void TextField::showText(const QString& text) {
@@ -127,6 +132,15 @@ FieldEditor* TextField::currentEditor() const {
 
 bool TextField::isFirstResponder() const {
     return hasFocus() || (m_isEditing && m_editor->hasFocus());
+}
+
+QMarginsF TextField::alignmentRectInsets() const {
+    constexpr qreal margin = FieldEditor::margin;
+    return cell().isFramed() ? QMarginsF() : QMarginsF(margin, 0, margin, 0);
+}
+
+QSizeF TextField::intrinsicContentSize() const {
+    return CellControl::intrinsicContentSize().shrunkBy(alignmentRectInsets());
 }
 
 std::optional<qreal> TextField::baseline(qreal height) const {

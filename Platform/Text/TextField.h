@@ -61,6 +61,9 @@ public:
     /// True while the keyboard is on the field or its editor.
     bool isFirstResponder() const;
 
+    /// Of a field without a frame, what its cell keeps free beside the text.
+    QMarginsF alignmentRectInsets() const override;
+    QSizeF intrinsicContentSize() const override;
     std::optional<qreal> baseline(qreal height) const override;
 
 Q_SIGNALS:
@@ -81,13 +84,12 @@ protected:
 
     PreparedText::Ampersands ampersands() const override { return PreparedText::Ampersands::areText; }
 
+    StyledControlState controlFlags() const override;
+
     bool showsFocus() const override { return isFirstResponder() && isActiveWindow(); }
 
     /// Gives the editor its font and colours.
     virtual void setUpFieldEditor(FieldEditor& editor);
-
-    /// Where the line of the editor lies.
-    virtual QRectF editorLine() const;
 
     /// A key for the editor, before it sees it. True if the field has used it: Escape takes back what was
     /// typed.
@@ -126,6 +128,7 @@ private:
     void takeText(const QString& text);
     void takeUserText(const QString& text);
     void forgive();
+    void errorChanged();
     void commit();
     void cancel();
     bool readText();

@@ -13,7 +13,10 @@
 namespace platform {
 
 QRectF TextFieldCell::titleRect(const QRectF& bounds, const CellContext& context) const {
+    constexpr qreal margin = FieldEditor::margin;
     QRectF room = drawingRect(bounds, context);
+    if (!isFramed())
+        room.adjust(margin, 0, -margin, 0); // letters may reach to the left of where they begin
     const qreal height = context.title.lineHeight();
     room.setTop(std::trunc(bounds.center().y() - height / 2));
     room.setHeight(height);

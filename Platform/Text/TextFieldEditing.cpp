@@ -40,6 +40,7 @@ void TextField::beginEditing(Qt::FocusReason reason) {
     m_editor->show();
     setFocusPolicy(Qt::NoFocus); // the editor stands for the field among the others
     m_editor->setFocus(reason);
+    setFocusProxy(m_editor);
     cell().setShowsFirstResponder(true);
     firstResponderDidChange();
 }
@@ -48,6 +49,7 @@ void TextField::endEditing() {
     if (!std::exchange(m_isEditing, false))
         return;
     const QPointer<TextField> self(this);
+    setFocusProxy(nullptr);
     setFocusPolicy(m_isEditable ? Qt::StrongFocus : Qt::NoFocus);
     m_editor->hide();
     cell().setShowsFirstResponder(false);
@@ -107,7 +109,12 @@ void TextField::forgive() {
     const QPointer<TextField> self(this);
     formatted->forgive(m_text);
     if (self && !formatted->error())
-        formattingErrorDidChange();
+        errorChanged();
+}
+
+void TextField::errorChanged() {
+    update();
+    formattingErrorDidChange();
 }
 
 /// Takes the object from the text. False if there is none, or no field any more.
@@ -117,12 +124,12 @@ bool TextField::readText() {
         return true;
     const QPointer<TextField> self(this);
     const bool isRead = formatted->read(m_text);
-    if (!self)
-        return false;
+    if (!self || m_formatted != formatted) // a formatter may do either
+        return self != nullptr;
     if (isRead)
         showObject();
     else
-        formattingErrorDidChange();
+        errorChanged();
     return self && isRead;
 }
 
@@ -156,13 +163,9 @@ void TextField::setUpFieldEditor(FieldEditor& editor) {
     editor.setPalette(palette);
 }
 
-QRectF TextField::editorLine() const {
-    return cell().lineRect(QRectF(rect()), context());
-}
-
 void TextField::placeEditor() {
     if (m_isEditing)
-        m_editor->setLine(editorLine());
+        m_editor->setLine(cell().lineRect(QRectF(rect()), context()));
 }
 
 } // namespace platform

@@ -14,8 +14,9 @@ namespace {
 // Of the parts, in points, as they lie from left to right.
 constexpr qreal glassLeft = 7;
 constexpr qreal menuMarkLeft = 18;
+constexpr qreal menuMarkWidth = 7;
 constexpr qreal crossRight = 19;        // its left edge, from the right
-constexpr qreal searchButtonRight = 30; // the text begins 10 before, and a line edit's margin further
+constexpr qreal searchButtonWidth = 30; // the text begins 10 before, and a line edit's margin further
 constexpr qreal cancelButtonWidth = 20;
 constexpr qreal textLeftWithoutGlass = 4;
 
@@ -33,10 +34,14 @@ void StyledSearchFieldCell::setPlaceholderString(const std::optional<QString>& t
         StyledTextFieldCell::setPlaceholderString(*text);
 }
 
+qreal StyledSearchFieldCell::searchButtonRight() const {
+    return searchButtonWidth + (m_showsMenuMark ? menuMarkWidth : 0);
+}
+
 QRectF StyledSearchFieldCell::searchButtonRect(const QRectF& bounds, const CellContext& context) const {
     if (!m_showsSearchIcon)
         return {};
-    return mirrored({bounds.left(), bounds.top(), searchButtonRight, bounds.height()}, bounds, context);
+    return mirrored({bounds.left(), bounds.top(), searchButtonRight(), bounds.height()}, bounds, context);
 }
 
 QRectF StyledSearchFieldCell::cancelButtonRect(const QRectF& bounds, const CellContext& context) const {
@@ -47,7 +52,7 @@ QRectF StyledSearchFieldCell::cancelButtonRect(const QRectF& bounds, const CellC
 }
 
 QRectF StyledSearchFieldCell::searchTextRect(const QRectF& bounds, const CellContext& context) const {
-    const qreal left = bounds.left() + (m_showsSearchIcon ? searchButtonRight - 10 : textLeftWithoutGlass);
+    const qreal left = bounds.left() + (m_showsSearchIcon ? searchButtonRight() - 10 : textLeftWithoutGlass);
     qreal right = bounds.right() - textLeftWithoutGlass;
     if (!context.title.text().isEmpty())
         right = bounds.right() - cancelButtonWidth;
@@ -70,7 +75,7 @@ QRectF StyledSearchFieldCell::titleRect(const QRectF& bounds, const CellContext&
 
 void StyledSearchFieldCell::drawFrame(QPainter& painter, const QRectF& frame,
                                       const CellContext& context) const {
-    StyledTextFieldCell::drawFrame(painter, frame, context);
+    drawBezel(painter, frame, context); // whose image shows the focus
     const float opacity = opacityOfBezel(context.state);
     const bool isLit = context.state.contains(StyledControlState::focused) || m_pressed == Part::searchButton;
     const QColor color = isLit ? controlTextColor(context) : placeholderColor(context);

@@ -43,6 +43,8 @@ protected:
                    const platform::CellContext& context) const override;
 
 private:
+    qreal searchButtonRight() const;
+
     std::optional<QString> m_internalPlaceholder;
     Part m_pressed = Part::text;
     bool m_showsSearchIcon = true;

@@ -32,8 +32,7 @@ QSizeF StyledTextField::intrinsicContentSize() const {
     const platform::Image* bezel = cell().bezel(own);
     const QSizeF framed(isEditable() ? fieldWidth : natural.width(),
                         bezel != nullptr ? bezel->size().height() : natural.height());
-    const QMarginsF insets = alignmentRectInsets();
-    return bezel != nullptr ? framed.shrunkBy(insets) : framed;
+    return framed.shrunkBy(alignmentRectInsets());
 }
 
 void StyledTextField::setUpFieldEditor(platform::FieldEditor& editor) {
@@ -46,15 +45,6 @@ void StyledTextField::setUpFieldEditor(platform::FieldEditor& editor) {
     palette.setColor(QPalette::Highlight, style.selectedBackgroundColor());
     palette.setColor(QPalette::HighlightedText, style.selectedTextColor());
     editor.setPalette(palette);
-}
-
-QRectF StyledTextField::editorLine() const {
-    const CellContext own = context();
-    const QRectF title = cell().titleRect(QRectF(rect()), own);
-    cell().setBeingEdited(true); // the padding is kept free already
-    const QRectF line = cell().lineRect(title, own);
-    cell().setBeingEdited(false);
-    return line;
 }
 
 } // namespace tidepool

@@ -39,7 +39,6 @@ protected:
     StyledTextField(const QString& text, std::unique_ptr<StyledTextFieldCell> cell, QWidget* parent);
 
     void setUpFieldEditor(platform::FieldEditor& editor) override;
-    QRectF editorLine() const override;
 
 private:
     double m_verticalInset = 0;

@@ -19,16 +19,13 @@ const platform::Image* StyledTextFieldCell::bezel(const CellContext& context) co
 }
 
 QRectF StyledTextFieldCell::drawingRect(const QRectF& bounds, const CellContext& context) const {
-    if (m_isBeingEdited || m_isBeingSelected || !isFramed())
-        return bounds;
-    return integral(bounds.marginsRemoved(styleOf(context).padding()));
+    return isFramed() ? integral(bounds.marginsRemoved(styleOf(context).padding())) : bounds;
 }
 
 QRectF StyledTextFieldCell::titleRect(const QRectF& bounds, const CellContext& context) const {
-    if (m_verticallyCenter)
-        return TextFieldCell::titleRect(bounds, context);
-    QRectF line = drawingRect(bounds, context);
-    line.setHeight(context.title.lineHeight());
+    QRectF line = TextFieldCell::titleRect(bounds, context);
+    if (!m_verticallyCenter)
+        line.moveTop(drawingRect(bounds, context).top());
     return line;
 }
 
@@ -41,10 +38,12 @@ QColor StyledTextFieldCell::textColor(const CellContext& context) const {
 }
 
 QColor StyledTextFieldCell::placeholderColor(const CellContext& context) const {
-    return styleOf(context).placeholderTextColor();
+    QColor color = styleOf(context).placeholderTextColor();
+    color.setAlphaF(color.alphaF() * opacityOfBezel(context.state));
+    return color;
 }
 
-void StyledTextFieldCell::drawFrame(QPainter& painter, const QRectF& frame,
+void StyledTextFieldCell::drawBezel(QPainter& painter, const QRectF& frame,
                                     const CellContext& context) const {
     if (!isFramed())
         painter.fillRect(frame, styleOf(context).textBackgroundColor());
@@ -52,11 +51,13 @@ void StyledTextFieldCell::drawFrame(QPainter& painter, const QRectF& frame,
         drawTinted(painter, frame, *image, controlTextColor(context), opacityOfBezel(context.state));
 }
 
-void StyledTextFieldCell::drawFocus(QPainter& painter, const QRectF& bounds,
+void StyledTextFieldCell::drawFrame(QPainter& painter, const QRectF& frame,
                                     const CellContext& context) const {
+    drawBezel(painter, frame, context);
     constexpr QMarginsF inset(2, 2, 2, 2);
-    drawFocusRing(painter, bounds.marginsRemoved(inset),
-                  kitFocusRing(styleOf(context).focusRingColor(context.state)));
+    if (context.state.contains(StyledControlState::focused))
+        drawFocusRing(painter, frame.marginsRemoved(inset),
+                      kitFocusRing(styleOf(context).focusRingColor(context.state)));
 }
 
 } // namespace tidepool

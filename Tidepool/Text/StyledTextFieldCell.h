@@ -16,15 +16,6 @@ public:
 
     void setVerticallyCenter(bool centers) { set(m_verticallyCenter, centers); }
 
-    /// While the editor is being placed: it gets all of the room that it is given.
-    bool isBeingEdited() const { return m_isBeingEdited; }
-
-    bool isBeingSelected() const { return m_isBeingSelected; }
-
-    void setBeingEdited(bool edited) { m_isBeingEdited = edited; }
-
-    void setBeingSelected(bool selected) { m_isBeingSelected = selected; }
-
     /// The image of a framed cell's bezel; null for none.
     const platform::Image* bezel(const platform::CellContext& context) const;
 
@@ -34,17 +25,19 @@ public:
     qreal titleShift(const platform::CellContext& context) const override;
     QColor textColor(const platform::CellContext& context) const override;
     QColor placeholderColor(const platform::CellContext& context) const override;
-    void drawFocus(QPainter& painter, const QRectF& bounds,
-                   const platform::CellContext& context) const override;
+
+    /// The frame shows the focus, below the text.
+    void drawFocus(QPainter&, const QRectF&, const platform::CellContext&) const override {}
 
 protected:
     void drawFrame(QPainter& painter, const QRectF& frame,
                    const platform::CellContext& context) const override;
 
+    /// The frame with its bezel only.
+    void drawBezel(QPainter& painter, const QRectF& frame, const platform::CellContext& context) const;
+
 private:
     bool m_verticallyCenter = true;
-    bool m_isBeingEdited = false;
-    bool m_isBeingSelected = false;
 };
 
 } // namespace tidepool
