@@ -8,6 +8,7 @@
 #include "Gallery/Pages/PushButtonsPage.h"
 #include "Gallery/Pages/SegmentsPage.h"
 #include "Gallery/Pages/StatesPage.h"
+#include "Gallery/Pages/TextFieldsPage.h"
 #include "Gallery/Pages/ToolButtonsPage.h"
 
 namespace gallery {
@@ -15,7 +16,7 @@ namespace gallery {
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
         colorsPage(),      imagesPage(),       statesPage(), pushButtonsPage(), checkBoxesPage(),
-        toolButtonsPage(), imageButtonsPage(), menusPage(),  segmentsPage(),
+        toolButtonsPage(), imageButtonsPage(), menusPage(),  segmentsPage(),    textFieldsPage(),
     };
     return pages;
 }

@@ -22,7 +22,7 @@ public:
     /// What the control tells its cell, until either changes.
     CellContext context() const {
         const CellStyle& style = m_cell->style();
-        m_title.set(cellTitle(), m_cell->titleFont(this->font(), style));
+        m_title.set(cellTitle(), m_cell->titleFont(this->font(), style), ampersands());
         return {m_cell->controlState(controlFlags()), m_title, this->layoutDirection(), style};
     }
 
@@ -40,8 +40,11 @@ protected:
         m_cell->setControlView(this);
     }
 
-    /// The text that the cell draws, which may have a mnemonic.
+    /// The text that the cell draws.
     virtual QString cellTitle() const { return {}; }
+
+    /// Whether the text may have a mnemonic.
+    virtual PreparedText::Ampersands ampersands() const { return PreparedText::Ampersands::markMnemonic; }
 
     /// The flags that the control knows; an override adds its own to these.
     virtual StyledControlState controlFlags() const {

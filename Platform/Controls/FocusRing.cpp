@@ -14,7 +14,7 @@ QColor FocusRing::systemColor() {
 
 void drawFocusRing(QPainter& painter, const QRectF& frame, const FocusRing& ring) {
     QColor fill = ring.color;
-    fill.setAlphaF(ring.fill);
+    fill.setAlphaF(ring.color.alphaF() * ring.fill);
     const qreal inset = ring.width / 2;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -86,6 +86,7 @@ void Menu::removeAllItems() {
 }
 
 void Menu::updateItems() {
+    m_typeAhead = {};
     if (m_delegate)
         m_delegate->menuNeedsUpdate(*this);
     if (!m_autoenablesItems)

@@ -18,6 +18,24 @@ qreal onPixel(qreal points, qreal scale) {
     return std::round(points * scale) / scale;
 }
 
+namespace {
+
+QPointF nextPixel(QPointF pixels) {
+    constexpr qreal half = 0.5001; // what lies between two goes the same way from wherever it was mapped
+    return {std::floor(pixels.x() + half), std::floor(pixels.y() + half)};
+}
+
+} // namespace
+
+QPointF onPixel(QPointF points, qreal scale) {
+    return nextPixel(points * scale) / scale;
+}
+
+QPointF onDevicePixel(const QPainter& painter, QPointF point) {
+    const QTransform& device = painter.deviceTransform();
+    return device.inverted().map(nextPixel(device.map(point)));
+}
+
 void drawPixels(QPainter& painter, QPointF origin, const QImage& image) {
     const qreal scale = image.devicePixelRatio();
     const QTransform& transform = painter.deviceTransform();

@@ -48,17 +48,19 @@ PlainText withoutMnemonic(const QString& source) {
     return result;
 }
 
-void PreparedText::set(const QString& text, const QFont& font) {
+void PreparedText::set(const QString& text, const QFont& font, Ampersands ampersands) {
     if (text == m_source && font == m_font && m_size.height() > 0)
         return;
     m_source = text;
     m_font = font;
-    const PlainText plain = withoutMnemonic(text);
+    const PlainText plain = ampersands == Ampersands::areText ? PlainText{text} : withoutMnemonic(text);
     m_text = plain.text;
     m_mnemonic = plain.mnemonic;
     const QFontMetricsF metrics(font);
     // An even height has its middle on a whole point.
-    m_size = {std::ceil(metrics.horizontalAdvance(m_text)), 2 * std::ceil(metrics.height() / 2)};
+    m_advance = metrics.horizontalAdvance(m_text);
+    m_size = {std::ceil(m_advance), 2 * std::ceil(metrics.height() / 2)};
+    m_lineHeight = QFontMetrics(font).height();
     m_ascent = metrics.ascent();
     m_capHeight = metrics.capHeight();
     m_made.reset();
@@ -76,7 +78,7 @@ void PreparedText::make(const Made& made) const {
     QPainter painter(&line);
     painter.setFont(m_font);
     painter.setPen(QColor::fromRgba(made.color));
-    const QPointF baseline(overhang, onPixel(overhang + m_ascent, made.scale));
+    const QPointF baseline = onPixel(QPointF(overhang, overhang + m_ascent), made.scale);
     painter.drawText(baseline, shown);
     if (made.showsMnemonic && hasMnemonic())
         underlineMnemonic(painter, baseline);
@@ -98,9 +100,11 @@ void PreparedText::draw(QPainter& painter, const QRectF& rect, const Look& look)
         x += (rect.width() - m_shownWidth) / 2;
     else if (look.alignment & Qt::AlignRight)
         x = rect.right() - m_shownWidth;
-    const qreal line = onPixel(baseline(rect), scale);
-    const qreal top = line - onPixel(overhang + m_ascent, scale);
-    m_picture.draw(painter, QPointF(onPixel(x - overhang, scale), top) + QPointF(m_inkOrigin) / scale);
+    const QPointF origin =
+        look.isOnLine ? onDevicePixel(painter, {x, rect.top()}) + QPointF(0, onPixel(m_ascent, scale))
+                      : QPointF(onPixel(x, scale), onPixel(baseline(rect), scale));
+    const QPointF start = onPixel(QPointF(overhang, overhang + m_ascent), scale);
+    m_picture.draw(painter, origin - start + QPointF(m_inkOrigin) / scale);
 }
 
 void PreparedText::underlineMnemonic(QPainter& painter, QPointF baseline) const {

@@ -30,10 +30,13 @@ public:
         Qt::Alignment alignment = Qt::AlignHCenter;
         /// Underlines the mnemonic.
         bool showsMnemonic = false;
+        /// Places the line, in place of its capitals: at the top of the room, where a line edit draws it.
+        bool isOnLine = false;
     };
 
-    /// `text` may have a mnemonic.
-    void set(const QString& text, const QFont& font);
+    enum class Ampersands { markMnemonic, areText };
+
+    void set(const QString& text, const QFont& font, Ampersands ampersands = Ampersands::markMnemonic);
 
     const QString& text() const { return m_text; }
 
@@ -41,6 +44,13 @@ public:
 
     /// In points; the height is the font's line height, made even.
     QSizeF size() const { return m_size; }
+
+    const QFont& font() const { return m_font; }
+
+    /// How far the text reaches, in points, and how high its line is where a line edit draws it.
+    qreal advance() const { return m_advance; }
+
+    int lineHeight() const { return m_lineHeight; }
 
     /// The y on which the text stands when it is drawn into `rect`.
     qreal baseline(const QRectF& rect) const { return rect.center().y() + m_capHeight / 2; }
@@ -67,6 +77,8 @@ private:
     QString m_text;
     QFont m_font;
     QSizeF m_size;
+    qreal m_advance = 0;
+    int m_lineHeight = 0;
     qreal m_ascent = 0;
     qreal m_capHeight = 0;
     qsizetype m_mnemonic = -1;

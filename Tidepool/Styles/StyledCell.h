@@ -37,9 +37,9 @@ public:
     void setSelected(bool selected) { this->set(m_selected, selected); }
 
     StyledControlState controlState(StyledControlState ofControl) const override {
-        return Base::controlState(ofControl)
-            .with(StyledControlState::selected, m_selected)
-            .with(StyledControlState::invalid, isInvalid(this->controlView()));
+        const StyledControlState state =
+            Base::controlState(ofControl).with(StyledControlState::selected, m_selected);
+        return isInvalid(this->controlView()) ? state.with(StyledControlState::invalid) : state;
     }
 
     QColor controlTextColor(const platform::CellContext& context) const override {

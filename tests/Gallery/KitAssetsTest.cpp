@@ -30,7 +30,7 @@ QRect extent(const QImage& picture) {
 } // namespace
 
 TEST(KitAssets, LightDrawingsHaveTheShapeOfTheDarkOnes) {
-    EXPECT_EQ(gallery::kitImages().size(), 51);
+    ASSERT_GT(gallery::kitImages().size(), 50);
     for (const auto& asset : gallery::kitImages()) {
         const QImage dark = pixels(asset.name, Appearance::dark);
         const QImage light = pixels(asset.name, Appearance::light);

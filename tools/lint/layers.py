@@ -25,19 +25,19 @@ BELOW = {
 BELOW_FOLDER = {"Plugin/Editor": {"Platform", "Chorale", "Tidepool"}}
 # The rooms of a module from the bottom up.
 ROOMS = {
-    "Platform": ["Core", "Formatters", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Windows", "AudioUnits",
-                 "Updates"],
-    "Tidepool": ["Palette", "Formatters", "Styles", "Events", "Menus", "Buttons", "Choices", "Views", "Windows"],
+    "Platform": ["Core", "Formatters", "Graphics", "Gpu", "Publishing", "Display", "Controls", "Text", "Windows",
+                 "AudioUnits", "Updates"],
+    "Tidepool": ["Palette", "Formatters", "Styles", "Events", "Menus", "Buttons", "Choices", "Views", "Text", "Windows"],
 }
 # Implementations for one operating system serve every room.
 BESIDE_THE_ROOMS = {"Platform/Linux"}
 # Neither models nor views: what brings views up, looks into them or works for them. Folders and names without endings.
 SHOWS_VIEWS = """
-    Platform/Controls Platform/Windows Platform/Linux Platform/Core/Action Platform/Core/Environment
+    Platform/Controls Platform/Text Platform/Windows Platform/Linux Platform/Core/Action Platform/Core/Environment
     Platform/Display/DisplayPump Platform/Graphics/Appearance Platform/Updates/SPUStandardUserDriver
     Chorale/ParameterAccessibility Chorale/ParameterView Chorale/RocketFontModifier
     VantorShaders/MetalShaderRenderer VantorShaders/MetalShaderViewController
-    Tidepool/Buttons Tidepool/Events Tidepool/Menus Tidepool/Views Tidepool/Windows Tidepool/Styles/StyleSet
+    Tidepool/Buttons Tidepool/Text Tidepool/Events Tidepool/Menus Tidepool/Views Tidepool/Windows Tidepool/Styles/StyleSet
     Tidepool/Styles/Validating Tidepool/Choices/Segment Tidepool/Choices/SegmentAnnouncements
     Tidepool/Choices/SegmentInterface Tidepool/Choices/SegmentedButtonStyle Tidepool/Choices/SegmentedCell
     Tidepool/Choices/StyledSegmentedCell Tidepool/Choices/StyledSegmentedControlAccessibility

@@ -1,0 +1,69 @@
+#include "Platform/Text/FormattedValue.h"
+
+#include <exception>
+
+namespace platform {
+
+namespace {
+
+/// What `ask` answers, or what `refuse` makes of the reason why it threw.
+template <typename Ask, typename Refuse>
+auto answered(Ask ask, Refuse refuse) {
+    try {
+        return ask();
+    } catch (const std::exception& exception) {
+        return refuse(QString::fromUtf8(exception.what()));
+    } catch (...) {
+        return refuse(QStringLiteral("This text cannot be used here."));
+    }
+}
+
+std::optional<QString> noText(const QString&) {
+    return {};
+}
+
+} // namespace
+
+void FormattedValue::setObject(const QVariant& object) {
+    m_object = object;
+    m_error.reset();
+}
+
+QString FormattedValue::displayText() const {
+    const auto text = answered([this] { return m_formatter->stringForObjectValue(m_object); }, noText);
+    return text.value_or(m_object.toString());
+}
+
+QString FormattedValue::editingText() const {
+    const auto text = answered([this] { return m_formatter->editingStringForObjectValue(m_object); }, noText);
+    return text.value_or(m_object.toString());
+}
+
+Formatter::ObjectValue FormattedValue::answer(const QString& text) const {
+    return answered([&] { return m_formatter->getObjectValue(text); },
+                    [](const QString& reason) {
+                        return Formatter::ObjectValue{{}, reason};
+                    });
+}
+
+bool FormattedValue::read(const QString& text) {
+    const Formatter::ObjectValue result = answer(text);
+    if (result.isValid())
+        m_object = result.object;
+    m_error = result.errorDescription;
+    return result.isValid();
+}
+
+void FormattedValue::forgive(const QString& text) {
+    if (m_error && answer(text).isValid())
+        m_error.reset();
+}
+
+Formatter::PartialString FormattedValue::partial(const QString& text) const {
+    return answered([&] { return m_formatter->isPartialStringValid(text); },
+                    [](const QString& reason) {
+                        return Formatter::PartialString{{}, reason};
+                    });
+}
+
+} // namespace platform
