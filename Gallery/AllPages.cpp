@@ -6,6 +6,7 @@
 #include "Gallery/Pages/ImagesPage.h"
 #include "Gallery/Pages/MenusPage.h"
 #include "Gallery/Pages/PushButtonsPage.h"
+#include "Gallery/Pages/ScrollBarsPage.h"
 #include "Gallery/Pages/SegmentsPage.h"
 #include "Gallery/Pages/StatesPage.h"
 #include "Gallery/Pages/TextFieldsPage.h"
@@ -15,8 +16,9 @@ namespace gallery {
 
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
-        colorsPage(),      imagesPage(),       statesPage(), pushButtonsPage(), checkBoxesPage(),
-        toolButtonsPage(), imageButtonsPage(), menusPage(),  segmentsPage(),    textFieldsPage(),
+        colorsPage(),     imagesPage(),      statesPage(),       pushButtonsPage(),
+        checkBoxesPage(), toolButtonsPage(), imageButtonsPage(), menusPage(),
+        segmentsPage(),   textFieldsPage(),  scrollBarsPage(),
     };
     return pages;
 }

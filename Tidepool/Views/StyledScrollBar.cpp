@@ -141,6 +141,7 @@ void StyledScrollBar::paintEvent(QPaintEvent*) {
 void setStyledScrollBars(QAbstractScrollArea& area) {
     area.setVerticalScrollBar(new StyledScrollBar(Qt::Vertical));
     area.setHorizontalScrollBar(new StyledScrollBar(Qt::Horizontal));
+    area.setCornerWidget(new QWidget); // in place of the desktop's
 }
 
 } // namespace tidepool
