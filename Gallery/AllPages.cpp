@@ -5,6 +5,7 @@
 #include "Gallery/Pages/ImageButtonsPage.h"
 #include "Gallery/Pages/ImagesPage.h"
 #include "Gallery/Pages/MenusPage.h"
+#include "Gallery/Pages/PopoversPage.h"
 #include "Gallery/Pages/PushButtonsPage.h"
 #include "Gallery/Pages/ScrollBarsPage.h"
 #include "Gallery/Pages/SegmentsPage.h"
@@ -18,7 +19,7 @@ const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
         colorsPage(),     imagesPage(),      statesPage(),       pushButtonsPage(),
         checkBoxesPage(), toolButtonsPage(), imageButtonsPage(), menusPage(),
-        segmentsPage(),   textFieldsPage(),  scrollBarsPage(),
+        segmentsPage(),   textFieldsPage(),  popoversPage(),     scrollBarsPage(),
     };
     return pages;
 }

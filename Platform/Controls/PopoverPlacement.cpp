@@ -66,18 +66,21 @@ PopoverPlacement PopoverPlacement::beside(const QRect& anchor, QSize bubble, Rec
     return {edge, QRect(origin, bubble), tip};
 }
 
-QPainterPath PopoverPlacement::outline() const {
+QPainterPath PopoverPlacement::outline(qreal inset) const {
     QPainterPath path;
-    path.addRoundedRect(QRectF(bubble), cornerRadius, cornerRadius);
+    path.addRoundedRect(QRectF(bubble).adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
+                        cornerRadius - inset);
     const QPointF along = isVertical(edge) ? QPointF(arrowWidth / 2.0, 0) : QPointF(0, arrowWidth / 2.0);
-    const qreal away = edge == RectEdge::maxX || edge == RectEdge::maxY ? arrowLength : -arrowLength;
-    const QPointF base = tip + (isVertical(edge) ? QPointF(0, away) : QPointF(away, 0));
-    const QPointF inside = base + (base - tip); // so that the parts overlap
+    const qreal away = edge == RectEdge::maxX || edge == RectEdge::maxY ? 1 : -1;
+    const QPointF step = isVertical(edge) ? QPointF(0, away) : QPointF(away, 0);
+    const QPointF point = tip + step * inset;
+    const QPointF base = point + step * arrowLength;
+    const QPointF inside = base + (base - point); // so that the parts overlap
     QPainterPath arrow;
-    const QPointF shoulder = tip + (base - tip) * 0.2;
+    const QPointF shoulder = point + (base - point) * 0.2;
     arrow.moveTo(base - along);
     arrow.lineTo(shoulder - along * 0.2);
-    arrow.quadTo(tip, shoulder + along * 0.2);
+    arrow.quadTo(point, shoulder + along * 0.2);
     arrow.lineTo(base + along);
     arrow.lineTo(inside + along);
     arrow.lineTo(inside - along);

@@ -26,8 +26,8 @@ struct PopoverPlacement {
     static PopoverPlacement beside(const QRect& anchor, QSize bubble, RectEdge preferred,
                                    const QRect& screen);
 
-    /// The bubble with its arrow.
-    QPainterPath outline() const;
+    /// The bubble with its arrow, or what lies `inset` points inside of it.
+    QPainterPath outline(qreal inset = 0) const;
 
     PopoverPlacement translated(QPoint offset) const;
 

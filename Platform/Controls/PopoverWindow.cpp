@@ -28,10 +28,6 @@ public:
         : QAccessibleWidget(&window, QAccessible::AlertMessage) {}
 };
 
-int marginAround() {
-    return PopoverPlacement::arrowLength + (isCompositing() ? shadowReach : 0);
-}
-
 } // namespace
 
 PopoverWindow::PopoverWindow()
@@ -70,7 +66,7 @@ void PopoverWindow::setColors(const QColor& background, const QColor& edge) {
 }
 
 void PopoverWindow::place(const PopoverPlacement& placement) {
-    const int margin = marginAround();
+    const int margin = PopoverPlacement::arrowLength + (isTranslucent() ? shadowReach : 0);
     const QRect place = placement.bubble.adjusted(-margin, -margin, margin, margin);
     const PopoverPlacement own = placement.translated(-place.topLeft());
     if (own != m_placement)
@@ -81,7 +77,7 @@ void PopoverWindow::place(const PopoverPlacement& placement) {
         hide();
     setGeometry(place);
     m_content->setGeometry(own.bubble);
-    if (!testAttribute(Qt::WA_TranslucentBackground))
+    if (!isTranslucent())
         setMask(QRegion(own.outline().toFillPolygon().toPolygon()));
 }
 
@@ -111,7 +107,7 @@ void PopoverWindow::dismiss(bool animates) {
 }
 
 void PopoverWindow::animate(bool appears) {
-    if (prefersReducedMotion() || !testAttribute(Qt::WA_TranslucentBackground)) {
+    if (prefersReducedMotion() || !isTranslucent()) {
         if (!appears)
             hide();
         return;
@@ -139,7 +135,7 @@ QImage PopoverWindow::frameWithShadow() const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_edge, 1));
     painter.setBrush(m_background);
-    painter.drawPath(m_placement.outline());
+    painter.drawPath(m_placement.outline(0.5)); // on whole pixels
     painter.end();
     return withDropShadow(shape, {QColor(0, 0, 0, 110), 12, {0, 3}});
 }

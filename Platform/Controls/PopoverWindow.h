@@ -23,7 +23,10 @@ public:
 
     void setColors(const QColor& background, const QColor& edge);
 
-    /// Goes to where it belongs on the screen, and appears there if it was hidden.
+    /// Takes its place, in the coordinates of what it is in: the screen.
+    void place(const PopoverPlacement& placement);
+
+    /// Goes to its place, and appears there if it was hidden.
     void present(const PopoverPlacement& placement, QWidget& owner, bool animates);
 
     void dismiss(bool animates);
@@ -32,7 +35,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void place(const PopoverPlacement& placement);
+    bool isTranslucent() const { return testAttribute(Qt::WA_TranslucentBackground); }
+
     void animate(bool appears);
     void drawFrame(QPainter& painter) const;
     QImage frameWithShadow() const;
