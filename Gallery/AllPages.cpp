@@ -5,6 +5,7 @@
 #include "Gallery/Pages/ImageButtonsPage.h"
 #include "Gallery/Pages/ImagesPage.h"
 #include "Gallery/Pages/MenusPage.h"
+#include "Gallery/Pages/PopUpsPage.h"
 #include "Gallery/Pages/PushButtonsPage.h"
 #include "Gallery/Pages/SegmentsPage.h"
 #include "Gallery/Pages/StatesPage.h"
@@ -15,7 +16,7 @@ namespace gallery {
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
         colorsPage(),      imagesPage(),       statesPage(), pushButtonsPage(), checkBoxesPage(),
-        toolButtonsPage(), imageButtonsPage(), menusPage(),  segmentsPage(),
+        toolButtonsPage(), imageButtonsPage(), menusPage(),  segmentsPage(),    popUpsPage(),
     };
     return pages;
 }

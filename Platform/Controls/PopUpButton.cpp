@@ -110,7 +110,14 @@ void PopUpButton::selectItem(int index) {
     selectItem(itemArray().value(index));
 }
 
+void PopUpButton::setStandingTitle(std::optional<QString> title) {
+    m_standingTitle = std::move(title);
+    itemsChanged();
+}
+
 QString PopUpButton::title() const {
+    if (m_standingTitle)
+        return *m_standingTitle;
     const auto items = itemArray();
     return m_pullsDown ? (items.isEmpty() ? QString() : items.front()->title()) : titleOfSelectedItem();
 }
@@ -136,7 +143,7 @@ void PopUpButton::itemAdded(MenuItem& item) {
 }
 
 void PopUpButton::hideTitleItem() {
-    MenuItem* const first = m_pullsDown ? itemArray().value(0) : nullptr;
+    MenuItem* const first = m_pullsDown && !m_standingTitle ? itemArray().value(0) : nullptr;
     if (first == m_titleItem)
         return;
     // Both are told of before they change, for each change comes back here.

@@ -55,6 +55,9 @@ public:
     /// What the button shows.
     virtual QString title() const;
 
+    /// What names the button for assistive technology if nothing else does.
+    virtual QString nameBesideTitle() const { return {}; }
+
     /// Opens the menu: with the selected item over the button, or below it when the button pulls down.
     void openMenu();
 
@@ -74,6 +77,9 @@ Q_SIGNALS:
 protected:
     /// For subclasses with a cell of their own.
     PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent);
+
+    /// A title that stays, whatever is selected; absent for that of an item. With it the menu shows all items.
+    void setStandingTitle(std::optional<QString> title);
 
     void performClick() override;
     void beginTracking(QMouseEvent& event) override;
@@ -100,6 +106,7 @@ private:
     QPointer<QAction> m_selected;   // what is left of an item that is being destroyed is no item
     QPointer<QAction> m_titleItem;  // of one that pulls down, whose menu does not show it
     bool m_isTitleItemShown = true; // unless it is the title
+    std::optional<QString> m_standingTitle;
     TypeAhead m_typeAhead;
 };
 

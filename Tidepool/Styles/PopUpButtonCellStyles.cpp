@@ -21,13 +21,15 @@ ComboBoxStyle::ComboBoxStyle() {
     setTitleEdgeInsets(insets(3, 7, 2, 0));
 }
 
-PopUpButtonCellStyle::PopUpButtonCellStyle() {
+MenuButtonCellStyle::MenuButtonCellStyle() {
     setPopUpMetrics(*this);
+}
+
+PopUpButtonCellStyle::PopUpButtonCellStyle() {
     setBezelImages({{normal, Images::tpkPopup}, {highlighted, Images::tpkPopupDown}});
 }
 
 StyledPopDownButtonCellStyle::StyledPopDownButtonCellStyle() {
-    setPopUpMetrics(*this);
     setBezelImages({{normal, Images::tpkPopdown}, {highlighted, Images::tpkPopdownDown}});
 }
 
