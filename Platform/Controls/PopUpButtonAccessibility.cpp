@@ -24,7 +24,7 @@ public:
 
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
-        const bool isOpen = m_button.menu() != nullptr && m_button.menu()->isVisible();
+        const bool isOpen = m_button.isMenuOpen();
         state.hasPopup = true;
         state.expandable = true;
         state.expanded = isOpen;
