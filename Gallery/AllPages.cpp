@@ -2,6 +2,7 @@
 
 #include "Gallery/Pages/CheckBoxesPage.h"
 #include "Gallery/Pages/ColorsPage.h"
+#include "Gallery/Pages/ComboBoxesPage.h"
 #include "Gallery/Pages/ImageButtonsPage.h"
 #include "Gallery/Pages/ImagesPage.h"
 #include "Gallery/Pages/MenusPage.h"
@@ -15,8 +16,9 @@ namespace gallery {
 
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
-        colorsPage(),      imagesPage(),       statesPage(), pushButtonsPage(), checkBoxesPage(),
-        toolButtonsPage(), imageButtonsPage(), menusPage(),  segmentsPage(),    popUpsPage(),
+        colorsPage(),     imagesPage(),      statesPage(),       pushButtonsPage(),
+        checkBoxesPage(), toolButtonsPage(), imageButtonsPage(), menusPage(),
+        segmentsPage(),   popUpsPage(),      comboBoxesPage(),
     };
     return pages;
 }

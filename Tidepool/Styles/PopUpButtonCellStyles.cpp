@@ -19,6 +19,8 @@ void setPopUpMetrics(ButtonCellStyle& style) {
 ComboBoxStyle::ComboBoxStyle() {
     setPopUpMetrics(*this);
     setTitleEdgeInsets(insets(3, 7, 2, 0));
+    setFieldImage(Images::tpkCombobox);
+    setArrowImages({{normal, Images::tpkComboboxUp}, {on, Images::tpkCombobox}});
 }
 
 MenuButtonCellStyle::MenuButtonCellStyle() {

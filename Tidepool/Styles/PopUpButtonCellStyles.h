@@ -8,6 +8,10 @@ namespace tidepool {
 class ComboBoxStyle : public ButtonCellStyle {
 public:
     ComboBoxStyle();
+
+    /// The field, and what opens the list: `on` while it is open.
+    TP_STYLE_FIELD(platform::Image, fieldImage, setFieldImage)
+    TP_STYLE_FIELD(StateImages, arrowImages, setArrowImages)
 };
 
 /// Buttons with a menu, whose title may follow a label.
