@@ -4,8 +4,9 @@
 #include "Gallery/Layout/LiveRow.h"
 #include "Gallery/Layout/PageBody.h"
 #include "Gallery/Layout/Section.h"
+#include "Tidepool/Assets.h"
 #include "Tidepool/Choices/StyledPopDownButton.h"
-#include "Tidepool/Choices/StyledPopUpButton.h"
+#include "Tidepool/Choices/StyledPopUpButtonWrapper.h"
 
 namespace gallery {
 
@@ -14,6 +15,7 @@ namespace {
 using tidepool::StyledMenuButton;
 using tidepool::StyledPopDownButton;
 using tidepool::StyledPopUpButton;
+using tidepool::StyledPopUpButtonWrapper;
 using tidepool::ToolPopUpButton;
 
 const ButtonStates& states() {
@@ -37,6 +39,24 @@ void sayChoices(LiveRow& row, StyledMenuButton& button, const GallerySettings& s
                      [&row](const platform::MenuItem* item) { row.say(item->title()); });
 }
 
+/// Items with an image, a line, one that is disabled and a submenu, bound to a number of the row.
+void addGrid(LiveRow& row) {
+    using tidepool::PopupItem;
+    using tidepool::PopupObject;
+    const auto number = std::make_shared<PopupObject>(4);
+    const std::vector<PopupItem> triplets{{.object = 6, .title = QStringLiteral("Quarter triplet")},
+                                          {.object = 12, .title = QStringLiteral("Eighth triplet")}};
+    row.add(new StyledPopUpButtonWrapper(
+        {{.title = QStringLiteral("Off")},
+         PopupItem::divider(),
+         {.object = 4, .title = QStringLiteral("Quarter"), .image = tidepool::Images::organiserIconStar},
+         {.object = 8, .title = QStringLiteral("Eighth")},
+         {.object = 64, .title = QStringLiteral("64th"), .isEnabled = false},
+         {.title = QStringLiteral("Triplets"), .subMenu = triplets}},
+        {[=] { return *number; }, [=](const PopupObject& chosen) { *number = chosen; }},
+        QStringLiteral("Grid")));
+}
+
 QWidget* makeLiveRow(const GallerySettings& settings) {
     auto* const row = new LiveRow(QStringLiteral(
         "Press, or step with the arrow keys and letters. Space, F4, Alt and Down open the menu."));
@@ -45,11 +65,12 @@ QWidget* makeLiveRow(const GallerySettings& settings) {
     auto& labelled = row->add(new StyledPopUpButton);
     addWaves(labelled);
     labelled.setLabel(QStringLiteral("Wave"));
+    addGrid(*row);
     auto& small = row->add(new ToolPopUpButton);
     addWaves(small);
     auto& patch = row->add(new StyledPopUpButton);
     auto patches = std::make_unique<platform::Menu>();
-    for (int number = 1; number <= 1000; ++number)
+    for (int number = 1; number <= 2000; ++number)
         patches->addItem(QStringLiteral("Patch %1").arg(number));
     patch.setMenu(std::move(patches));
     patch.setAccessibleName(QStringLiteral("Patch"));
@@ -122,8 +143,9 @@ GalleryPage popUpsPage() {
             .keywords = {QStringLiteral("StyledPopUpButton"), QStringLiteral("StyledPopUpButtonCell"),
                          QStringLiteral("ToolPopUpButton"), QStringLiteral("ToolPopUpButtonCell"),
                          QStringLiteral("StyledPopDownButton"), QStringLiteral("StyledPopDownButtonCell"),
-                         QStringLiteral("PopUpButtonCellStyle"), QStringLiteral("pull-down"),
-                         QStringLiteral("label"), QStringLiteral("fixedWidth")},
+                         QStringLiteral("PopUpButtonCellStyle"), QStringLiteral("StyledPopUpButtonWrapper"),
+                         QStringLiteral("PopupItem"), QStringLiteral("pull-down"), QStringLiteral("label"),
+                         QStringLiteral("fixedWidth")},
             .make = makePage,
             .hasStates = true};
 }
