@@ -1,5 +1,6 @@
 #include "Platform/Controls/PopUpButton.h"
 
+#include "Platform/Controls/MenuList.h"
 #include "Platform/Controls/MenuStyle.h"
 #include "Platform/Controls/PopUpButtonAccessibility.h"
 #include "Platform/Core/FatalError.h"
@@ -53,10 +54,12 @@ PopUpButton::PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent)
 }
 
 PopUpButton::~PopUpButton() {
+    delete m_list.data();
     delete std::exchange(m_menu, nullptr);
 }
 
 void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
+    delete m_list.data();
     delete std::exchange(m_menu, nullptr);
     m_selected = nullptr;
     m_menu = menu.release();
@@ -64,11 +67,11 @@ void PopUpButton::setMenu(std::unique_ptr<Menu> menu) {
     if (m_menu != nullptr) {
         // A child, which goes with the button, and yet a window of its own.
         m_menu->setParent(this, m_menu->windowFlags());
-        m_menu->installEventFilter(this);
         connect(m_menu, &Menu::willSendAction, this, &PopUpButton::choose);
         connect(m_menu, &Menu::didSendAction, this, &PopUpButton::finishChoice);
         for (MenuItem* item : m_menu->items())
             makeRoomForMark(*item);
+        m_menu->installEventFilter(this); // no sooner: each item would be heard of
         selectFirstItem();
     }
     itemsChanged();
@@ -110,9 +113,21 @@ void PopUpButton::selectItem(int index) {
     selectItem(itemArray().value(index));
 }
 
+void PopUpButton::setStandingTitle(std::optional<QString> title) {
+    m_standingTitle = std::move(title);
+    itemsChanged();
+}
+
 QString PopUpButton::title() const {
-    const auto items = itemArray();
-    return m_pullsDown ? (items.isEmpty() ? QString() : items.front()->title()) : titleOfSelectedItem();
+    if (m_standingTitle)
+        return *m_standingTitle;
+    if (!m_pullsDown)
+        return titleOfSelectedItem();
+    return firstItem() != nullptr ? firstItem()->title() : QString();
+}
+
+MenuItem* PopUpButton::firstItem() const {
+    return m_menu != nullptr ? qobject_cast<MenuItem*>(m_menu->actions().value(0)) : nullptr;
 }
 
 void PopUpButton::makeRoomForMark(MenuItem& item) const {
@@ -122,21 +137,22 @@ void PopUpButton::makeRoomForMark(MenuItem& item) const {
 
 /// Where there is a choice, something is chosen.
 void PopUpButton::selectFirstItem() {
-    const auto items = itemArray();
-    const auto first = std::find_if_not(items.begin(), items.end(), std::mem_fn(&QAction::isSeparator));
+    const auto items = m_menu->actions();
+    const auto first = std::ranges::find_if_not(items, &QAction::isSeparator);
     if (!m_pullsDown && first != items.end())
-        selectItem(*first);
+        selectItem(qobject_cast<MenuItem*>(*first));
 }
 
 void PopUpButton::itemAdded(MenuItem& item) {
     makeRoomForMark(item);
-    const auto items = itemArray();
-    if (std::count_if(items.begin(), items.end(), std::not_fn(std::mem_fn(&QAction::isSeparator))) == 1)
+    const auto items = m_menu->actions();
+    const auto isOther = [&](const QAction* other) { return other != &item && !other->isSeparator(); };
+    if (!item.isSeparator() && std::ranges::none_of(items, isOther))
         selectFirstItem();
 }
 
 void PopUpButton::hideTitleItem() {
-    MenuItem* const first = m_pullsDown ? itemArray().value(0) : nullptr;
+    MenuItem* const first = m_pullsDown && !m_standingTitle ? firstItem() : nullptr;
     if (first == m_titleItem)
         return;
     // Both are told of before they change, for each change comes back here.
@@ -241,6 +257,10 @@ int PopUpButton::titleOverhang() const {
 void PopUpButton::openMenu() {
     if (m_menu == nullptr)
         return;
+    if (MenuList::isBetterFor(*m_menu)) {
+        openList();
+        return;
+    }
     auto* const item = itemArray().value(indexOfSelectedItem());
     if (m_pullsDown || item == nullptr) {
         m_menu->setMinimumWidth(width());
@@ -253,6 +273,47 @@ void PopUpButton::openMenu() {
           {isRightToLeft() ? width() + overhang : -overhang,
            (height() - m_menu->actionGeometry(item).height()) / 2},
           item);
+}
+
+void PopUpButton::openList() {
+    if (!isEnabled() || isListOpen())
+        return;
+    m_menu->updateItems();
+    if (!m_list) {
+        m_list = new MenuList(*m_menu, *this);
+        connect(m_list, &ListPopup::closed, this, qOverload<>(&QWidget::update));
+        connect(m_list, &ListPopup::chosen, this, [this](int row) { m_list->itemOf(row)->trigger(); });
+    }
+    const QRect place(mapToGlobal(QPoint()), size());
+    m_list->setCurrentRow(m_pullsDown ? -1 : m_list->rowOf(selectedItem()));
+    if (m_pullsDown || m_list->currentRow() < 0) {
+        m_list->openBeside(place.adjusted(0, 0, 0, menuGap), INT_MAX);
+    } else {
+        const int overhang = titleOverhang();
+        m_list->openOver(place.adjusted(-overhang, 0, overhang, 0));
+    }
+    update();
+}
+
+bool PopUpButton::isListOpen() const {
+    return m_list && m_list->isVisible();
+}
+
+bool PopUpButton::isMenuOpen() const {
+    return isListOpen() || (m_menu != nullptr && m_menu->isVisible());
+}
+
+void PopUpButton::closeMenu() {
+    if (m_list)
+        m_list->close();
+    if (m_menu != nullptr)
+        m_menu->close();
+}
+
+StyledControlState PopUpButton::controlFlags() const {
+    const StyledControlState flags = PushButton::controlFlags();
+    return flags.with(StyledControlState::highlighted,
+                      flags.contains(StyledControlState::highlighted) || isListOpen());
 }
 
 void PopUpButton::keyPressEvent(QKeyEvent* event) {
@@ -307,12 +368,24 @@ void PopUpButton::contextMenuEvent(QContextMenuEvent* event) {
         event->ignore();
 }
 
+/// Of very many items those with most letters.
+QList<MenuItem*> PopUpButton::itemsToMeasure() const {
+    constexpr qsizetype enough = 64;
+    constexpr qsizetype veryMany = 1000;
+    auto items = itemArray();
+    if (items.size() <= veryMany)
+        return items;
+    const auto length = [](const MenuItem* item) { return item->title().size(); };
+    std::ranges::partial_sort(items, items.begin() + enough, std::greater(), length);
+    return items.first(enough);
+}
+
 QSizeF PopUpButton::intrinsicContentSize() const {
     QSizeF size = PushButton::intrinsicContentSize();
     if (m_pullsDown)
         return size;
     const CellContext own = context();
-    for (const MenuItem* item : itemArray()) {
+    for (const MenuItem* item : itemsToMeasure()) {
         PreparedText title;
         title.set(item->text(), cell().titleFont(font(), own.style));
         size = size.expandedTo(cell().cellSize({own.state, title, own.direction, own.style}));
