@@ -106,9 +106,10 @@ void PopUpButton::openMenu() {
 void PopUpButton::openList() {
     if (!isEnabled() || isListOpen())
         return;
-    m_menu->updateItems();
+    Q_EMIT m_menu->aboutToShow(); // fills it and enables its items
     if (!m_list) {
         m_list = new MenuList(*m_menu, *this);
+        connect(m_list, &ListPopup::closed, m_menu, &QMenu::aboutToHide);
         connect(m_list, &ListPopup::closed, this, qOverload<>(&QWidget::update));
         connect(m_list, &ListPopup::chosen, this, [this](int row) { m_list->itemOf(row)->trigger(); });
     }

@@ -5,6 +5,7 @@
 #include "Platform/Text/FieldEditor.h"
 #include "Platform/Text/ObjectValues.h"
 
+#include <QAccessible>
 #include <QLocale>
 
 #include <utility>
@@ -27,6 +28,14 @@ bool isNumber(const QVariant& value) {
     default:
         return false;
     }
+}
+
+void announceExpansion(ComboBox& box) {
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(&box, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace
@@ -137,7 +146,7 @@ void ComboBox::openList() {
     willPopUp();
     const QRectF place = QRectF(rect()).marginsRemoved(alignmentRectInsets());
     m_list->openBeside(place.toAlignedRect().translated(mapToGlobal(QPoint())), rowsInSight);
-    update();
+    announceExpansion(*this);
 }
 
 void ComboBox::closeList() {
@@ -148,7 +157,7 @@ void ComboBox::closeList() {
 void ComboBox::listClosed() {
     endPreview();
     willDismiss();
-    update();
+    announceExpansion(*this);
 }
 
 /// Shows a value in the field which is not chosen yet.
