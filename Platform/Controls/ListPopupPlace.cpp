@@ -26,6 +26,7 @@ constexpr int leastRowsInSight = 5;
 int ListPopup::naturalWidth() const {
     constexpr std::ptrdiff_t measured = 64;
     std::vector<QString> titles;
+    titles.reserve(static_cast<std::size_t>(rowCount()));
     for (int row = 0; row < rowCount(); ++row)
         titles.push_back(m_model.index(row, 0).data().toString());
     const auto last = titles.begin() + std::min(std::ssize(titles), measured);

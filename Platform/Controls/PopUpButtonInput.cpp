@@ -3,6 +3,7 @@
 #include "Platform/Controls/MenuList.h"
 #include "Platform/Controls/MenuStyle.h"
 #include "Platform/Controls/PopUpButton.h"
+#include "Platform/Controls/PressKey.h"
 #include "Platform/Core/FatalError.h"
 
 #include <QContextMenuEvent>
@@ -147,6 +148,10 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
         selectTyped(event->text());
         return;
     }
+    if (!pressOpensMenu() && isPressKey(*event)) {
+        PushButton::keyPressEvent(event);
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Space:
     case Qt::Key_Return:
@@ -173,11 +178,11 @@ void PopUpButton::keyPressEvent(QKeyEvent* event) {
 }
 
 void PopUpButton::performClick() {
-    openMenu();
+    pressOpensMenu() ? openMenu() : PushButton::performClick();
 }
 
-void PopUpButton::beginTracking(QMouseEvent&) {
-    openMenu();
+void PopUpButton::beginTracking(QMouseEvent& event) {
+    pressOpensMenu() ? openMenu() : PushButton::beginTracking(event);
 }
 
 bool PopUpButton::popUpMenu(const QMouseEvent&) {
