@@ -117,7 +117,7 @@ QRect MenuStyle::subControlRect(ComplexControl control, const QStyleOptionComple
     if (part == SC_ScrollBarGroove)
         return bar->rect;
     const int length = bar->rect.height();
-    const qint64 range = qint64(bar->maximum) - bar->minimum + bar->pageStep;
+    const qint64 range = std::max<qint64>(1, qint64(bar->maximum) - bar->minimum + bar->pageStep);
     const int handle = std::max<int>(leastHandle, static_cast<int>(length * qint64(bar->pageStep) / range));
     const int top = sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition, length - handle,
                                             bar->upsideDown);

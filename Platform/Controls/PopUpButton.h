@@ -89,6 +89,10 @@ protected:
     /// items.
     void setStandingTitle(std::optional<QString> title);
 
+    /// Whether a press opens the menu. Otherwise it is one like that of other buttons and sends the action;
+    /// F4, Down and the menu key still open the menu.
+    virtual bool pressOpensMenu() const { return true; }
+
     StyledControlState controlFlags() const override;
     void performClick() override;
     void beginTracking(QMouseEvent& event) override;

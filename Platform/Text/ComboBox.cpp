@@ -1,12 +1,11 @@
 #include "Platform/Text/ComboBox.h"
 
-#include "Platform/Controls/ListPopup.h"
 #include "Platform/Text/ComboBoxAccessibility.h"
+#include "Platform/Text/ComboBoxList.h"
 #include "Platform/Text/FieldEditor.h"
 #include "Platform/Text/ObjectValues.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
+#include <QAccessible>
 #include <QLocale>
 
 #include <utility>
@@ -31,45 +30,15 @@ bool isNumber(const QVariant& value) {
     }
 }
 
+void announceExpansion(ComboBox& box) {
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(&box, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 } // namespace
-
-/// Keys that are not for the list go to the editor, which has the keyboard all the time.
-class ComboBox::List : public ListPopup {
-public:
-    explicit List(ComboBox& box) : ListPopup(*box.m_model, box), m_box(box) {}
-
-protected:
-    bool event(QEvent* event) override {
-        if (event->type() != QEvent::KeyPress)
-            return ListPopup::event(event);
-        keyPressEvent(static_cast<QKeyEvent*>(event)); // Tab, too
-        return true;
-    }
-
-    void keyPressEvent(QKeyEvent* event) override {
-        const int before = currentRow();
-        if (!handleKey(*event))
-            passOn(*event);
-        else if (isVisible() && currentRow() != before)
-            m_box.preview(currentRow());
-    }
-
-    bool isOnlyClosedBy(QPoint press) const override { return m_box.isOnArrow(m_box.mapFromGlobal(press)); }
-
-private:
-    void passOn(QKeyEvent& event) {
-        const QPointer<FieldEditor> editor(m_box.currentEditor());
-        const bool goesOn = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
-        if (goesOn && m_box.m_isPreviewing)
-            choose(currentRow());
-        if (goesOn || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-            close();
-        if (editor)
-            QCoreApplication::sendEvent(editor, &event);
-    }
-
-    ComboBox& m_box;
-};
 
 ComboBox::ComboBox(std::unique_ptr<ComboBoxCell> cell, QWidget* parent)
     : TextField({}, std::move(cell), parent) {
@@ -177,7 +146,7 @@ void ComboBox::openList() {
     willPopUp();
     const QRectF place = QRectF(rect()).marginsRemoved(alignmentRectInsets());
     m_list->openBeside(place.toAlignedRect().translated(mapToGlobal(QPoint())), rowsInSight);
-    update();
+    announceExpansion(*this);
 }
 
 void ComboBox::closeList() {
@@ -188,7 +157,7 @@ void ComboBox::closeList() {
 void ComboBox::listClosed() {
     endPreview();
     willDismiss();
-    update();
+    announceExpansion(*this);
 }
 
 /// Shows a value in the field which is not chosen yet.

@@ -9,7 +9,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScopedValueRollback>
+#include <QSignalBlocker>
 
 namespace platform {
 
@@ -87,12 +87,14 @@ void ComboBox::complete(FieldEditor& editor) {
     const QString title = match >= 0 ? titleOf(match) : typed;
     if (title.size() == typed.size())
         return;
-    if (!title.startsWith(typed))
-        editor.selectAll(); // the value is written otherwise
-    const QPointer<FieldEditor> living(&editor);
-    editor.insert(title.startsWith(typed) ? title.mid(typed.size()) : title);
-    if (living && editor.text() == title)
+    {
+        const QSignalBlocker later(editor); // it may be destroyed by whoever hears of it
+        if (!title.startsWith(typed))
+            editor.selectAll(); // the value is written otherwise
+        editor.insert(title.startsWith(typed) ? title.mid(typed.size()) : title);
         editor.setSelection(static_cast<int>(title.size()), static_cast<int>(typed.size() - title.size()));
+    }
+    Q_EMIT editor.textEdited(editor.text());
 }
 
 bool ComboBox::isOnArrow(QPoint point) const {

@@ -1,7 +1,5 @@
 #include "Tidepool/Choices/StyledPopDownButton.h"
 
-#include "Platform/Controls/PressKey.h"
-
 #include <QApplication>
 #include <QMouseEvent>
 
@@ -16,36 +14,22 @@ StyledPopDownButton::StyledPopDownButton(QWidget* parent)
     });
 }
 
-void StyledPopDownButton::performClick() {
-    action() ? PushButton::performClick() : StyledMenuButton::performClick();
-}
-
 void StyledPopDownButton::beginTracking(QMouseEvent& event) {
-    if (!action()) {
-        StyledMenuButton::beginTracking(event);
-        return;
-    }
-    PushButton::beginTracking(event);
-    m_hold.start(QApplication::doubleClickInterval());
+    StyledMenuButton::beginTracking(event);
+    if (isTracking())
+        m_hold.start(QApplication::doubleClickInterval());
 }
 
 void StyledPopDownButton::endTracking() {
     m_hold.stop();
-    PushButton::endTracking();
+    StyledMenuButton::endTracking();
 }
 
 bool StyledPopDownButton::popUpMenu(const QMouseEvent& press) {
-    if (!action() || press.button() != Qt::RightButton)
+    if (pressOpensMenu() || press.button() != Qt::RightButton)
         return StyledMenuButton::popUpMenu(press);
     openMenu();
     return true;
-}
-
-void StyledPopDownButton::keyPressEvent(QKeyEvent* event) {
-    if (action() && platform::isPressKey(*event))
-        BaseButton::keyPressEvent(event);
-    else
-        StyledMenuButton::keyPressEvent(event);
 }
 
 } // namespace tidepool

@@ -26,11 +26,11 @@ public:
     void setTitle(const QString& title) { setStandingTitle(title); }
 
 protected:
-    void performClick() override;
+    bool pressOpensMenu() const override { return !action(); }
+
     void beginTracking(QMouseEvent& event) override;
     void endTracking() override;
     bool popUpMenu(const QMouseEvent& press) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QTimer m_hold;
