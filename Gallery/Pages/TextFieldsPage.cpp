@@ -8,6 +8,7 @@
 #include "Tidepool/Formatters/ExpressionFormatter.h"
 #include "Tidepool/Text/StyledSearchField.h"
 #include "Tidepool/Text/StyledTextLabels.h"
+#include "Tidepool/Text/ValidatingPropertiesField.h"
 
 namespace gallery {
 
@@ -152,6 +153,27 @@ void addSearchStates(Section& section, const GallerySettings& settings) {
     });
 }
 
+void addProperties(Section& section, const GallerySettings& settings) {
+    using tidepool::ValidatingPropertiesField;
+    StateGrid& grid =
+        section.addGrid({QStringLiteral("Inherited"), QStringLiteral("Overriding"), QStringLiteral("Invalid"),
+                         QStringLiteral("Selected"), QStringLiteral("Disabled")});
+    QList<QWidget*> cells;
+    const auto add = [&](auto change) {
+        auto* const field = new ValidatingPropertiesField(QStringLiteral("120 ms"));
+        field->setFixedWidth(118);
+        field->setEnabled(settings.isEnabled);
+        change(*field);
+        cells << field;
+    };
+    add([](ValidatingPropertiesField&) {});
+    add([](ValidatingPropertiesField& field) { field.setOverride(true); });
+    add([](ValidatingPropertiesField& field) { field.setValid(false); });
+    add([](ValidatingPropertiesField& field) { field.setSelected(true); });
+    add([](ValidatingPropertiesField& field) { field.setEnabled(false); });
+    grid.addRow(QStringLiteral("Attack"), cells);
+}
+
 void addLabels(Section& section, const GallerySettings& settings) {
     StateGrid& grid = section.addGrid({QStringLiteral("Normal"), QStringLiteral("Disabled")});
     const auto add = [&]<typename Label>(const QString& variant, Label* label, Label* disabled) {
@@ -174,6 +196,7 @@ QWidget* makePage(const GallerySettings& settings) {
     live.add(makeSearchRow(settings));
     addFieldStates(page->addSection(QStringLiteral("StyledTextField")), settings);
     addSearchStates(page->addSection(QStringLiteral("StyledSearchField")), settings);
+    addProperties(page->addSection(QStringLiteral("ValidatingPropertiesField")), settings);
     addLabels(page->addSection(QStringLiteral("Labels")), settings);
     return page;
 }
@@ -189,7 +212,8 @@ GalleryPage textFieldsPage() {
                          QStringLiteral("StyledSearchField"), QStringLiteral("StyledSearchFieldCell"),
                          QStringLiteral("StyledTextLabel"), QStringLiteral("StyledTableRowLabel"),
                          QStringLiteral("StyledTableGroupRowLabel"), QStringLiteral("WidthResizingTextField"),
-                         QStringLiteral("FirstResponderAwareTextField"), QStringLiteral("TextFieldCellStyle"),
+                         QStringLiteral("FirstResponderAwareTextField"),
+                         QStringLiteral("ValidatingPropertiesField"), QStringLiteral("TextFieldCellStyle"),
                          QStringLiteral("SearchFieldCellStyle"), QStringLiteral("Formatter"),
                          QStringLiteral("placeholder"), QStringLiteral("invalid")},
             .make = makePage,

@@ -3,15 +3,19 @@
 #include "Gallery/Layout/Text.h"
 #include "Gallery/Window/PageDelegate.h"
 #include "Gallery/Window/PageFilter.h"
+#include "Platform/Text/FieldEditor.h"
+#include "Tidepool/Text/StyledSearchField.h"
+#include "Tidepool/Views/StyledScrollBar.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QStackedWidget>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace gallery {
 
@@ -27,7 +31,7 @@ bool movesInList(int key) {
 
 PageList::PageList(const std::vector<GalleryPage>& pages, QWidget* parent)
     : QWidget(parent),
-      m_search(new QLineEdit),
+      m_search(new tidepool::StyledSearchField),
       m_results(new QStackedWidget),
       m_list(new QListView),
       m_nothing(makeText({}, TextRole::body)),
@@ -53,11 +57,9 @@ PageList::PageList(const std::vector<GalleryPage>& pages, QWidget* parent)
 }
 
 void PageList::makeSearch() {
-    m_search->setPlaceholderText(tr("Search"));
+    m_search->cell().setPlaceholderString(tr("Search"));
     m_search->setAccessibleName(tr("Search pages"));
-    m_search->setMinimumHeight(28);
-    m_search->installEventFilter(this);
-    connect(m_search, &QLineEdit::textChanged, this, &PageList::search);
+    connect(m_search, &tidepool::StyledSearchField::textChanged, this, &PageList::search);
 }
 
 void PageList::makeList(const std::vector<GalleryPage>& pages) {
@@ -74,6 +76,7 @@ void PageList::makeList(const std::vector<GalleryPage>& pages) {
     m_list->setItemDelegate(new PageDelegate(m_list));
     m_list->setAccessibleName(tr("Pages"));
     m_list->setFrameShape(QFrame::NoFrame);
+    tidepool::setStyledScrollBars(*m_list);
     m_list->viewport()->setBackgroundRole(QPalette::AlternateBase);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
@@ -92,32 +95,28 @@ void PageList::setCurrentPage(int page) {
 
 void PageList::beginSearch() {
     m_search->setFocus(Qt::ShortcutFocusReason);
-    m_search->selectAll();
+    m_search->currentEditor()->selectAll();
 }
 
 void PageList::search(const QString& text) {
     m_found->setSearch(text);
     const bool isEmpty = m_found->rowCount() == 0;
     m_nothing->setText(tr("No page matches “%1”.").arg(text.simplified()));
-    m_search->setAccessibleDescription(isEmpty ? m_nothing->text() : QString());
+    if (platform::FieldEditor* const editor = m_search->currentEditor())
+        editor->setAccessibleDescription(isEmpty ? m_nothing->text() : QString());
     m_results->setCurrentWidget(isEmpty ? static_cast<QWidget*>(m_nothing) : m_list);
     if (!isEmpty && currentPage() < 0)
         m_list->setCurrentIndex(m_found->index(0, 0));
 }
 
-bool PageList::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (movesInList(key)) {
+/// Those that the search field leaves over.
+void PageList::keyPressEvent(QKeyEvent* event) {
+    const bool isOnItsWayBack = std::exchange(m_isMoving, true);
+    if (!isOnItsWayBack && movesInList(event->key()))
         QCoreApplication::sendEvent(m_list, event);
-        return true;
-    }
-    if (key == Qt::Key_Escape) {
-        m_search->clear();
-        return true;
-    }
-    return false;
+    else
+        QWidget::keyPressEvent(event);
+    m_isMoving = isOnItsWayBack;
 }
 
 } // namespace gallery

@@ -7,10 +7,13 @@
 #include <vector>
 
 class QLabel;
-class QLineEdit;
 class QListView;
 class QStackedWidget;
 class QStandardItemModel;
+
+namespace tidepool {
+class StyledSearchField;
+}
 
 namespace gallery {
 
@@ -35,19 +38,20 @@ Q_SIGNALS:
     void currentPageChanged(int page);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void makeSearch();
     void makeList(const std::vector<GalleryPage>& pages);
     void search(const QString& text);
 
-    QLineEdit* m_search;
+    tidepool::StyledSearchField* m_search;
     QStackedWidget* m_results;
     QListView* m_list;
     QLabel* m_nothing;
     QStandardItemModel* m_pages;
     PageFilter* m_found;
+    bool m_isMoving = false;
 };
 
 } // namespace gallery

@@ -2,6 +2,7 @@
 
 #include "Gallery/Layout/PageView.h"
 #include "Gallery/Window/MagnifiedPage.h"
+#include "Tidepool/Views/StyledScrollBar.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -38,6 +39,7 @@ void PagePreview::show(const GalleryPage& page, const GallerySettings& settings)
     delete m_area;
     m_title = page.title;
     m_area = makeArea(new PageView(page, settings), settings.scale);
+    tidepool::setStyledScrollBars(*m_area);
     m_area->installEventFilter(this);
     layout()->addWidget(m_area);
     // The scroll bars have their range once the page is shown in its place.

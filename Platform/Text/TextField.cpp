@@ -110,6 +110,7 @@ void TextField::takeText(const QString& text) {
     if (text == m_text)
         return;
     m_text = text;
+    placeEditor(); // a cell may keep free room for what goes with a text
     updateGeometry();
     update();
     QAccessibleValueChangeEvent event(this, text);

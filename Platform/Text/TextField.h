@@ -98,8 +98,11 @@ protected:
     /// Sends the action. It is not sent again until the text is another.
     void sendNow();
 
-    /// After the user has changed the text.
+    /// After the user has changed the text, and whoever listens has heard of it.
     virtual void textDidChange() {}
+
+    /// After the formatter has not let stand what the user has typed; emits `refused`.
+    virtual void inputWasRefused(const QString& reason) { Q_EMIT refused(reason); }
 
     /// After the error has come or gone.
     virtual void formattingErrorDidChange() {}

@@ -17,7 +17,7 @@ void TextField::makeEditor() {
     connect(m_editor, &FieldEditor::textEdited, this, &TextField::takeUserText);
     connect(m_editor, &FieldEditor::returnPressed, this, &TextField::commit);
     connect(m_editor, &FieldEditor::left, this, &TextField::endEditing);
-    connect(m_editor, &FieldEditor::refused, this, &TextField::refused);
+    connect(m_editor, &FieldEditor::refused, this, &TextField::inputWasRefused);
 }
 
 void TextField::beginEditing(Qt::FocusReason reason) {
@@ -96,9 +96,9 @@ void TextField::takeUserText(const QString& text) {
     takeText(text);
     forgive();
     if (self)
-        textDidChange();
-    if (self)
         Q_EMIT textChanged(text);
+    if (self)
+        textDidChange();
 }
 
 /// What was wrong may be right by now.

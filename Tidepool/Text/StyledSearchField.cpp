@@ -62,6 +62,7 @@ void StyledSearchField::search(const QString& text) {
 }
 
 void StyledSearchField::textDidChange() {
+    StyledTextField::textDidChange();
     if (!m_sendsWholeSearchString || stringValue().isEmpty())
         sendNow();
 }

@@ -1,6 +1,7 @@
 #include "Tidepool/Text/StyledTextField.h"
 
 #include "Platform/Text/FieldEditor.h"
+#include "Tidepool/Views/Shake.h"
 
 #include <QPalette>
 
@@ -45,6 +46,16 @@ void StyledTextField::setUpFieldEditor(platform::FieldEditor& editor) {
     palette.setColor(QPalette::Highlight, style.selectedBackgroundColor());
     palette.setColor(QPalette::HighlightedText, style.selectedTextColor());
     editor.setPalette(palette);
+}
+
+void StyledTextField::updateMessage() {
+    m_popoverController.update(isFirstResponder() ? shownMessage() : std::nullopt, *this);
+}
+
+void StyledTextField::inputWasRefused(const QString& reason) {
+    shake(*this);
+    m_popoverController.update(reason, *this);
+    FirstResponderAwareTextField::inputWasRefused(reason);
 }
 
 } // namespace tidepool

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "Tidepool/Text/FirstResponderAwareTextField.h"
+#include "Tidepool/Text/SimpleTextViewPopover.h"
 #include "Tidepool/Text/StyledTextFieldCell.h"
 
 namespace tidepool {
 
-/// The kit's text field.
+/// The kit's text field. It shakes when its formatter refuses what is typed; that and what is wrong with the
+/// text stands in a popover while the keyboard is on the field.
 ///
 ///     auto* name = new StyledTextField(QStringLiteral("Bass"), this);
 ///     connect(name, &StyledTextField::editingEnded, this, [=] { rename(name->stringValue()); });
@@ -31,6 +33,9 @@ public:
 
     void setVerticalInset(double inset);
 
+    /// Of the messages about the text.
+    SimpleTextViewPopoverController& popoverController() { return m_popoverController; }
+
     QMarginsF alignmentRectInsets() const override;
     QSizeF intrinsicContentSize() const override;
 
@@ -40,7 +45,21 @@ protected:
 
     void setUpFieldEditor(platform::FieldEditor& editor) override;
 
+    /// What is wrong with the text.
+    virtual std::optional<QString> shownMessage() const { return formattingError(); }
+
+    void textDidChange() override { updateMessage(); }
+
+    void formattingErrorDidChange() override { updateMessage(); }
+
+    void firstResponderStatusChanged(bool) override { updateMessage(); }
+
+    void inputWasRefused(const QString& reason) override;
+
 private:
+    void updateMessage();
+
+    SimpleTextViewPopoverController m_popoverController;
     double m_verticalInset = 0;
 };
 

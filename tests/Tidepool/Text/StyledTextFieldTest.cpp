@@ -155,6 +155,9 @@ TEST_F(StyledTextFieldTest, WhatTheProgramSetsIsShownInTheEditor) {
     entry->setText(QAccessible::Value, QStringLiteral("spoken"));
     EXPECT_EQ(field.stringValue(), QStringLiteral("spoken"));
     EXPECT_EQ(field.currentEditor()->text(), QStringLiteral("spoken"));
+    other.setFocus();
+    entry->editableTextInterface()->insertText(2, QStringLiteral("ll"));
+    EXPECT_EQ(entry->textInterface()->text(0, 99), QStringLiteral("splloken"));
 }
 
 TEST(StyledTextLabels, AreTextsThatTakeNoKeyboard) {

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "Gallery/GalleryPage.h"
+
+namespace gallery {
+
+/// Scroll bars.
+GalleryPage scrollBarsPage();
+
+} // namespace gallery
