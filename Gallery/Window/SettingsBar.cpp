@@ -1,19 +1,18 @@
 #include "Gallery/Window/SettingsBar.h"
 
 #include "Gallery/StyleSet.h"
-#include "Platform/Controls/PopUpButton.h"
 #include "Tidepool/Buttons/StyledCheckBox.h"
+#include "Tidepool/Choices/StyledPopUpButton.h"
 #include "Tidepool/Palette/TPColors.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
 
 namespace gallery {
 
 using platform::ControlState;
-using platform::PopUpButton;
 using tidepool::StyledCheckBox;
+using tidepool::StyledPopUpButton;
 
 SettingsBar::SettingsBar(QWidget* parent) : QWidget(parent), m_row(new QHBoxLayout(this)) {
     m_row->setContentsMargins(20, 10, 20, 10);
@@ -37,19 +36,14 @@ StyledCheckBox* SettingsBar::addBox(const QString& title) {
     return box;
 }
 
-PopUpButton* SettingsBar::addChoice(const QString& title, const QStringList& choices) {
-    auto* const pair = new QHBoxLayout;
-    pair->setSpacing(8);
-    auto* const label = new QLabel(title);
-    auto* const choice = new PopUpButton;
+StyledPopUpButton* SettingsBar::addChoice(const QString& title, const QStringList& choices) {
+    auto* const choice = new StyledPopUpButton;
+    choice->setLabel(title);
+    choice->setAccessibleName(title);
     for (const QString& name : choices)
         choice->addItem(name);
-    choice->setAccessibleName(title);
-    label->setBuddy(choice);
-    pair->addWidget(label);
-    pair->addWidget(choice);
-    m_row->addLayout(pair);
-    connect(choice, &PopUpButton::itemChosen, this, &SettingsBar::noteChange);
+    m_row->addWidget(choice);
+    connect(choice, &StyledPopUpButton::itemChosen, this, &SettingsBar::noteChange);
     return choice;
 }
 

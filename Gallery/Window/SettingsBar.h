@@ -6,13 +6,10 @@
 
 class QHBoxLayout;
 
-namespace platform {
-class PopUpButton;
-}
-
 namespace tidepool {
 class StyledCheckBox;
-}
+class StyledPopUpButton;
+} // namespace tidepool
 
 namespace gallery {
 
@@ -36,16 +33,16 @@ protected:
 
 private:
     tidepool::StyledCheckBox* addBox(const QString& title);
-    platform::PopUpButton* addChoice(const QString& title, const QStringList& choices);
+    tidepool::StyledPopUpButton* addChoice(const QString& title, const QStringList& choices);
 
     void noteChange();
 
     QHBoxLayout* m_row;
     tidepool::StyledCheckBox* m_enabled;
     tidepool::StyledCheckBox* m_selected;
-    platform::PopUpButton* m_size;
-    platform::PopUpButton* m_styleSet;
-    platform::PopUpButton* m_scale;
+    tidepool::StyledPopUpButton* m_size;
+    tidepool::StyledPopUpButton* m_styleSet;
+    tidepool::StyledPopUpButton* m_scale;
     tidepool::StyledCheckBox* m_rightToLeft;
     GallerySettings m_noted;
 };
