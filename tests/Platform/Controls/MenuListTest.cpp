@@ -178,8 +178,9 @@ TEST_F(MenuListTest, FollowsTheMenuWhileItIsOpen) {
     MenuList& list = open(10);
     for (int i = 0; i < 5; ++i)
         delete &item(0);
-    picture(list);
+    EXPECT_EQ(list.currentRow(), 5);
     EXPECT_EQ(current(list), QStringLiteral("Patch 10"));
+    picture(list);
     item(6).setTitle(QStringLiteral("Renamed"));
     m_button->addItem(QStringLiteral("Last"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return list.rowOf(m_button->itemArray().last()) > 0; }));
