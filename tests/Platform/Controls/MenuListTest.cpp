@@ -102,7 +102,8 @@ TEST_F(MenuListTest, OpensWithTheSelectedItemOverTheButton) {
 
 TEST_F(MenuListTest, LooksLikeAMenuWithLinesBetweenGroups) {
     item(3).setState(MenuItem::State::on);
-    m_button->menu()->insertAction(&item(4), MenuItem::separator().release());
+    const auto separator = MenuItem::separator();
+    m_button->menu()->insertAction(&item(4), separator.get());
     item(5).setEnabled(false); // which is what stood fourth
     m_button->selectItem(2);
     MenuList& list = open(2);
