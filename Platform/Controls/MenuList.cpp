@@ -13,7 +13,7 @@ namespace platform {
 
 bool MenuList::isBetterFor(const Menu& menu) {
     // A menu measures all of its items whenever it opens, and again and again while they are made.
-    constexpr qsizetype longestMenu = 1000;
+    constexpr qsizetype longestMenu = 500;
     const auto items = menu.actions();
     return items.size() > longestMenu &&
            std::ranges::none_of(items, [](const QAction* item) { return item->menu() != nullptr; });

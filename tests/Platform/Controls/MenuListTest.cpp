@@ -102,7 +102,8 @@ TEST_F(MenuListTest, OpensWithTheSelectedItemOverTheButton) {
 
 TEST_F(MenuListTest, LooksLikeAMenuWithLinesBetweenGroups) {
     item(3).setState(MenuItem::State::on);
-    m_button->menu()->insertAction(&item(4), MenuItem::separator().release());
+    const auto separator = MenuItem::separator();
+    m_button->menu()->insertAction(&item(4), separator.get());
     item(5).setEnabled(false); // which is what stood fourth
     m_button->selectItem(2);
     MenuList& list = open(2);
@@ -178,8 +179,9 @@ TEST_F(MenuListTest, FollowsTheMenuWhileItIsOpen) {
     MenuList& list = open(10);
     for (int i = 0; i < 5; ++i)
         delete &item(0);
-    picture(list);
+    EXPECT_EQ(list.currentRow(), 5);
     EXPECT_EQ(current(list), QStringLiteral("Patch 10"));
+    picture(list);
     item(6).setTitle(QStringLiteral("Renamed"));
     m_button->addItem(QStringLiteral("Last"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return list.rowOf(m_button->itemArray().last()) > 0; }));
