@@ -192,8 +192,6 @@ TEST_F(StyledPopUpButtonTest, AClickOnAPullDownWithAnActionSendsItAndHoldingOpen
     QTest::mousePress(m_pullDown, Qt::LeftButton);
     QTest::mouseRelease(m_pullDown, Qt::LeftButton, {}, {-5, -5});
     QTest::qWait(QApplication::doubleClickInterval() + 50);
-    EXPECT_FALSE(isOpen()) << "disabled while it was held";
-    QTest::mouseRelease(m_pullDown, Qt::LeftButton);
-    QTest::mouseRelease(m_pullDown, Qt::RightButton);
+    EXPECT_FALSE(isOpen()) << "let go of in time";
     EXPECT_EQ(m_target.count, 2);
 }
