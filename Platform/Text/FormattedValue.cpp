@@ -30,13 +30,15 @@ void FormattedValue::setObject(const QVariant& object) {
 }
 
 QString FormattedValue::displayText() const {
-    const auto text = answered([this] { return m_formatter->stringForObjectValue(m_object); }, noText);
-    return text.value_or(m_object.toString());
+    const QVariant object = m_object; // which the formatter may change
+    const auto text = answered([&] { return m_formatter->stringForObjectValue(object); }, noText);
+    return text.value_or(object.toString());
 }
 
 QString FormattedValue::editingText() const {
-    const auto text = answered([this] { return m_formatter->editingStringForObjectValue(m_object); }, noText);
-    return text.value_or(m_object.toString());
+    const QVariant object = m_object;
+    const auto text = answered([&] { return m_formatter->editingStringForObjectValue(object); }, noText);
+    return text.value_or(object.toString());
 }
 
 Formatter::ObjectValue FormattedValue::answer(const QString& text) const {
@@ -46,7 +48,7 @@ Formatter::ObjectValue FormattedValue::answer(const QString& text) const {
                     });
 }
 
-bool FormattedValue::read(const QString& text) {
+bool FormattedValue::read(QString text) { // NOLINT(performance-unnecessary-value-param)
     const Formatter::ObjectValue result = answer(text);
     if (result.isValid())
         m_object = result.object;
@@ -54,7 +56,7 @@ bool FormattedValue::read(const QString& text) {
     return result.isValid();
 }
 
-void FormattedValue::forgive(const QString& text) {
+void FormattedValue::forgive(QString text) { // NOLINT(performance-unnecessary-value-param)
     if (m_error && answer(text).isValid())
         m_error.reset();
 }

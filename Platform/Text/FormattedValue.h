@@ -32,11 +32,12 @@ public:
     /// What the user begins to edit.
     QString editingText() const;
 
-    /// Takes what the text is read as. False if it cannot be read: then the object stays.
-    bool read(const QString& text);
+    /// Takes what the text is read as. False if it cannot be read: then the object stays. The text is a copy,
+    /// since its owner may go meanwhile.
+    bool read(QString text);
 
     /// Takes away the error, but not the object, if the text can be read.
-    void forgive(const QString& text);
+    void forgive(QString text);
 
     /// Why the last text could not be read, for people.
     const std::optional<QString>& error() const { return m_error; }
