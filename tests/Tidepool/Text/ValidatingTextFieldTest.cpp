@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
+#include <QVariantAnimation>
 
 #include <gtest/gtest.h>
 
@@ -82,10 +83,16 @@ TEST_F(ValidatingTextFieldTest, ShakesAndTellsWhyWhenItRefuses) {
     const QPoint rest = field.pos();
     type(" ");
     EXPECT_TRUE(shown().startsWith(u"Constant names must"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return field.pos() != rest; }));
+    const QPointer<QVariantAnimation> shaking = field.findChild<QVariantAnimation*>();
+    ASSERT_NE(shaking, nullptr);
+    shaking->pause();
+    shaking->setCurrentTime(30);
+    EXPECT_NE(field.pos(), rest);
     field.move(40, 30); // as a layout does meanwhile
-    EXPECT_TRUE(QTest::qWaitFor([&] { return field.pos() != QPoint(40, 30); }));
-    QTest::qWait(500);
+    shaking->setCurrentTime(130);
+    EXPECT_NE(field.pos(), QPoint(40, 30));
+    shaking->resume();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shaking == nullptr; }));
     EXPECT_EQ(field.pos(), QPoint(40, 30));
     type("s");
     EXPECT_EQ(shown(), QString());
