@@ -2,6 +2,7 @@
 
 #include "Platform/Controls/PopoverPlacement.h"
 
+#include <QBitmap>
 #include <QImage>
 #include <QVariantAnimation>
 #include <QWidget>
@@ -37,9 +38,12 @@ protected:
 private:
     bool isTranslucent() const { return testAttribute(Qt::WA_TranslucentBackground); }
 
+    QBitmap shape() const;
     void animate(bool appears);
-    void drawFrame(QPainter& painter) const;
-    QImage frameWithShadow() const;
+    void endAnimation();
+    void takeSnapshot();
+    void drawFrame(QPainter& painter);
+    QImage makeFrame() const;
 
     QWidget* m_content = nullptr;
     PopoverPlacement m_placement; // in its own coordinates

@@ -1,5 +1,6 @@
 #include "Platform/Controls/Popover.h"
 #include "Platform/Controls/PopoverWindow.h"
+#include "tests/support/Pixels.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -147,4 +148,65 @@ TEST_F(PopoverTest, MayGoAtAnyMoment) {
     EXPECT_EQ(popover, nullptr);
     EXPECT_EQ(window(), nullptr);
     QTest::qWait(200); // nothing goes on
+}
+
+namespace {
+
+/// A bubble with a green ground and a red edge, in place for a view above it.
+class PopoverWindowTest : public testing::Test {
+protected:
+    PopoverWindowTest() {
+        owner.show();
+        window.setContent(new QLabel(QStringLiteral("A preset needs a name")));
+        window.setColors(Qt::green, Qt::red);
+    }
+
+    void present(QSize size = {150, 40}) {
+        window.present(PopoverPlacement::beside({400, 300, 100, 20}, size, RectEdge::maxY, screen), owner,
+                       true);
+    }
+
+    bool isWhole() {
+        const QImage image = picture(window);
+        int green = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                green += image.pixel(x, y) == qRgb(0, 255, 0) ? 1 : 0;
+        return green > 4000 && window.content()->isVisible();
+    }
+
+    bool becomesWhole() {
+        return QTest::qWaitFor([this] { return isWhole(); });
+    }
+
+    const QRect screen{0, 0, 1000, 800};
+    QWidget owner;
+    PopoverWindow window;
+};
+
+} // namespace
+
+TEST_F(PopoverWindowTest, AppearsAndLeavesAsAWhole) {
+    window.setAttribute(Qt::WA_TranslucentBackground);
+    const auto opacity = [this] { // of its ground
+        return qAlpha(picture(window).pixel(window.rect().center() + QPoint(0, 14)));
+    };
+    present();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return opacity() > 0; }));
+    EXPECT_FALSE(isWhole()) << "it fades in, ground and text as one";
+    EXPECT_TRUE(becomesWhole());
+    window.dismiss(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return opacity() < 255; }));
+    const int before = opacity();
+    EXPECT_GT(before, 0);
+    present();
+    EXPECT_GE(opacity(), before / 2) << "turns round in the middle of its way";
+    EXPECT_TRUE(becomesWhole());
+    window.dismiss(true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isVisible(); }));
+    present();
+    window.dismiss(false);
+    present({200, 40}); // with another text
+    EXPECT_TRUE(becomesWhole());
+    EXPECT_EQ(window.content()->width(), 200);
 }
