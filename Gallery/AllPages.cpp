@@ -2,9 +2,11 @@
 
 #include "Gallery/Pages/CheckBoxesPage.h"
 #include "Gallery/Pages/ColorsPage.h"
+#include "Gallery/Pages/ComboBoxesPage.h"
 #include "Gallery/Pages/ImageButtonsPage.h"
 #include "Gallery/Pages/ImagesPage.h"
 #include "Gallery/Pages/MenusPage.h"
+#include "Gallery/Pages/PopUpsPage.h"
 #include "Gallery/Pages/PopoversPage.h"
 #include "Gallery/Pages/PushButtonsPage.h"
 #include "Gallery/Pages/ScrollBarsPage.h"
@@ -17,9 +19,9 @@ namespace gallery {
 
 const std::vector<GalleryPage>& allPages() {
     static const std::vector<GalleryPage> pages{
-        colorsPage(),     imagesPage(),      statesPage(),       pushButtonsPage(),
-        checkBoxesPage(), toolButtonsPage(), imageButtonsPage(), menusPage(),
-        segmentsPage(),   textFieldsPage(),  popoversPage(),     scrollBarsPage(),
+        colorsPage(),      imagesPage(),       statesPage(),   pushButtonsPage(), checkBoxesPage(),
+        toolButtonsPage(), imageButtonsPage(), menusPage(),    segmentsPage(),    popUpsPage(),
+        comboBoxesPage(),  textFieldsPage(),   popoversPage(), scrollBarsPage(),
     };
     return pages;
 }

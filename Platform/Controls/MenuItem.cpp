@@ -8,17 +8,6 @@
 
 namespace platform {
 
-namespace {
-
-/// `title` as an action's text, in which an ampersand marks a letter and a tabulator begins the keys.
-QString plainText(QString title) {
-    std::replace_if(
-        title.begin(), title.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');
-    return title.replace(u'&', QStringLiteral("&&"));
-}
-
-} // namespace
-
 MenuItem::MenuItem(const QString& title, std::optional<Selector> sentAction, const QString& key,
                    Qt::KeyboardModifiers modifiers)
     : action(sentAction) {
@@ -28,6 +17,12 @@ MenuItem::MenuItem(const QString& title, std::optional<Selector> sentAction, con
 }
 
 MenuItem::~MenuItem() = default;
+
+QString MenuItem::plainText(QString title) {
+    std::replace_if(
+        title.begin(), title.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');
+    return title.replace(u'&', QStringLiteral("&&"));
+}
 
 std::unique_ptr<MenuItem> MenuItem::separator() {
     return sectionHeader({});

@@ -40,6 +40,10 @@ public:
 
     const QString& title() const { return m_title; }
 
+    /// `title` as the text of an action, in which an ampersand marks a letter and a tabulator begins the
+    /// keys.
+    static QString plainText(QString title);
+
     void setTitle(const QString& title);
 
     /// The mark before the title. Choosing the item leaves it as it is.

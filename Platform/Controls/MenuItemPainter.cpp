@@ -14,10 +14,8 @@ namespace platform {
 
 namespace {
 
-constexpr int itemHeight = 26;
 constexpr int separatorHeight = 9;
 constexpr int sectionHeaderHeight = 26;
-constexpr int padding = 10;
 constexpr int markWidth = 16;
 constexpr int iconGap = 8;
 constexpr int arrowWidth = 16;
@@ -77,7 +75,7 @@ void MenuItemPainter::paint(QPainter& painter) const {
     if (isSectionHeader()) {
         paintSectionHeader(painter);
     } else if (isSeparator()) {
-        paintSeparator(painter);
+        paintLine(painter, m_item.rect, m_item.palette);
     } else {
         paintSelection(painter);
         paintMark(painter);
@@ -99,10 +97,10 @@ void MenuItemPainter::drawLine(QPainter& painter, const QRect& place, Qt::Alignm
     painter.drawText(place, static_cast<int>(alignment) | Qt::TextSingleLine, text);
 }
 
-void MenuItemPainter::paintSeparator(QPainter& painter) const {
-    QColor color = m_item.palette.color(QPalette::WindowText);
+void MenuItemPainter::paintLine(QPainter& painter, const QRect& rect, const QPalette& palette) {
+    QColor color = palette.color(QPalette::WindowText);
     color.setAlpha(32);
-    const QRect line = m_item.rect.adjusted(padding, 0, -padding, 0);
+    const QRect line = rect.adjusted(padding, 0, -padding, 0);
     painter.fillRect(QRect(line.left(), line.center().y(), line.width(), 1), color);
 }
 

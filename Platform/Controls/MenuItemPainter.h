@@ -6,6 +6,7 @@
 #include <QString>
 
 class QPainter;
+class QPalette;
 class QStyleOptionMenuItem;
 
 namespace platform {
@@ -21,11 +22,20 @@ public:
     /// In points; `text` is the size of title and keys.
     QSize size(QSize text) const;
 
+    /// A line between items, at the middle of the height of `rect`.
+    static void paintLine(QPainter& painter, const QRect& rect, const QPalette& palette);
+
     /// The distance of the title from the edge where lines begin.
     static int titleInset(bool hasMarks, bool hasIcons);
 
     /// The size of an icon, in points.
     static constexpr int iconSize = 16;
+
+    /// Of an item with a title, in points.
+    static constexpr int itemHeight = 26;
+
+    /// What the line of a separator keeps free at both ends, in points.
+    static constexpr int padding = 10;
 
 private:
     bool isSeparator() const;
@@ -37,7 +47,6 @@ private:
     QColor quietColor() const;
     QRect place(int left, int width) const;
     void drawLine(QPainter& painter, const QRect& place, Qt::Alignment alignment, const QString& text) const;
-    void paintSeparator(QPainter& painter) const;
     void paintSectionHeader(QPainter& painter) const;
     void paintSelection(QPainter& painter) const;
     void paintMark(QPainter& painter) const;

@@ -20,6 +20,8 @@ namespace {
 
 constexpr int panelMargin = 5;
 constexpr qreal panelRadius = 9;
+constexpr int scrollBarWidth = 9;
+constexpr int leastHandle = 24;
 
 /// A little nearer to the light than the window below.
 QColor panelColor(const QPalette& palette) {
@@ -42,9 +44,13 @@ MenuStyle& MenuStyle::shared() {
     return *style;
 }
 
-void MenuStyle::apply(QMenu& menu) {
-    menu.setStyle(&shared());
-    menu.setFont(systemFont(13));
+void MenuStyle::applyToPart(QWidget& part) {
+    part.setStyle(&shared());
+    part.setFont(systemFont(13));
+}
+
+void MenuStyle::apply(QWidget& menu) {
+    applyToPart(menu);
     if (!isCompositing())
         return;
     menu.setWindowFlag(Qt::FramelessWindowHint);
@@ -102,6 +108,51 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     return MenuItemPainter(*item).size(size);
 }
 
+/// A scroll bar is a handle alone, as long as what is in sight is of the whole.
+QRect MenuStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                const QWidget* widget) const {
+    const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || bar == nullptr)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    if (part == SC_ScrollBarGroove)
+        return bar->rect;
+    const int length = bar->rect.height();
+    const qint64 range = std::max<qint64>(1, qint64(bar->maximum) - bar->minimum + bar->pageStep);
+    const int handle = std::max<int>(leastHandle, static_cast<int>(length * qint64(bar->pageStep) / range));
+    const int top = sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition, length - handle,
+                                            bar->upsideDown);
+    switch (part) {
+    case SC_ScrollBarSlider:
+        return {bar->rect.left(), top, bar->rect.width(), handle};
+    case SC_ScrollBarSubPage:
+        return {bar->rect.left(), 0, bar->rect.width(), top};
+    case SC_ScrollBarAddPage:
+        return {bar->rect.left(), top + handle, bar->rect.width(), length - top - handle};
+    default:
+        return {};
+    }
+}
+
+void MenuStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
+    if (control != CC_ScrollBar) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    constexpr qreal thickness = 5;
+    const bool isHeld = (option->state & State_Sunken) != 0;
+    QRectF handle(subControlRect(control, option, SC_ScrollBarSlider, widget));
+    handle.adjust((handle.width() - thickness) / 2, 1, -(handle.width() - thickness) / 2, -1);
+    QColor color = option->palette.color(QPalette::WindowText);
+    color.setAlpha(isHeld ? 130 : 80);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    painter->drawRoundedRect(handle, thickness / 2, thickness / 2);
+    painter->restore();
+}
+
 int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* result) const {
     switch (hint) {
@@ -123,6 +174,8 @@ int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_MenuHMargin:
     case PM_MenuVMargin:
         return panelMargin;
+    case PM_ScrollBarExtent:
+        return scrollBarWidth;
     case PM_SmallIconSize:
         return MenuItemPainter::iconSize;
     default:

@@ -11,6 +11,8 @@
 
 namespace platform {
 
+class MenuList;
+
 /// A button with a menu, of which it shows the selected item; or, when it pulls down, a menu of commands
 /// below a title. The pointer, Space, Return and F4 open the menu; the arrow keys and the beginning of a
 /// title select without it. An item that the user chooses is selected; then it sends its own action or, if it
@@ -55,8 +57,16 @@ public:
     /// What the button shows.
     virtual QString title() const;
 
-    /// Opens the menu: with the selected item over the button, or below it when the button pulls down.
+    /// What names the button for assistive technology if nothing else does.
+    virtual QString nameBesideTitle() const { return {}; }
+
+    /// Opens the menu: with the selected item over the button, or below it when the button pulls down. A very
+    /// long menu opens as a list that looks the same.
     void openMenu();
+
+    bool isMenuOpen() const;
+
+    void closeMenu();
 
     QSizeF intrinsicContentSize() const override;
 
@@ -75,6 +85,15 @@ protected:
     /// For subclasses with a cell of their own.
     PopUpButton(std::unique_ptr<PopUpButtonCell> cell, QWidget* parent);
 
+    /// A title that stays, whatever is selected; absent for that of an item. With it the menu shows all
+    /// items.
+    void setStandingTitle(std::optional<QString> title);
+
+    /// Whether a press opens the menu. Otherwise it is one like that of other buttons and sends the action;
+    /// F4, Down and the menu key still open the menu.
+    virtual bool pressOpensMenu() const { return true; }
+
+    StyledControlState controlFlags() const override;
     void performClick() override;
     void beginTracking(QMouseEvent& event) override;
     bool popUpMenu(const QMouseEvent& press) override;
@@ -83,12 +102,16 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    MenuItem* firstItem() const;
+    QList<MenuItem*> itemsToMeasure() const;
     void makeRoomForMark(MenuItem& item) const;
     void selectFirstItem();
     void itemAdded(MenuItem& item);
     void itemsChanged();
     void hideTitleItem();
     int titleOverhang() const;
+    void openList();
+    bool isListOpen() const;
     void choose(MenuItem* item);
     void chooseAndSend(MenuItem* item);
     void finishChoice(MenuItem* item);
@@ -100,7 +123,9 @@ private:
     QPointer<QAction> m_selected;   // what is left of an item that is being destroyed is no item
     QPointer<QAction> m_titleItem;  // of one that pulls down, whose menu does not show it
     bool m_isTitleItemShown = true; // unless it is the title
+    std::optional<QString> m_standingTitle;
     TypeAhead m_typeAhead;
+    QPointer<MenuList> m_list; // of a very long menu, since it was opened
 };
 
 } // namespace platform

@@ -16,12 +16,15 @@ public:
           m_button(button) {}
 
     QString text(QAccessible::Text text) const override {
-        return text == QAccessible::Value ? m_button.title() : QAccessibleWidget::text(text);
+        if (text == QAccessible::Value)
+            return m_button.title();
+        const QString given = QAccessibleWidget::text(text);
+        return text == QAccessible::Name && given.isEmpty() ? m_button.nameBesideTitle() : given;
     }
 
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
-        const bool isOpen = m_button.menu() != nullptr && m_button.menu()->isVisible();
+        const bool isOpen = m_button.isMenuOpen();
         state.hasPopup = true;
         state.expandable = true;
         state.expanded = isOpen;
@@ -34,10 +37,12 @@ public:
     }
 
     void doAction(const QString& name) override {
-        if (actionNames().contains(name))
-            m_button.openMenu();
-        else
+        if (!actionNames().contains(name))
             QAccessibleWidget::doAction(name);
+        else if (name == pressAction())
+            m_button.click();
+        else
+            m_button.openMenu();
     }
 
 private:

@@ -19,15 +19,19 @@ void setPopUpMetrics(ButtonCellStyle& style) {
 ComboBoxStyle::ComboBoxStyle() {
     setPopUpMetrics(*this);
     setTitleEdgeInsets(insets(3, 7, 2, 0));
+    setFieldImage(Images::tpkCombobox);
+    setArrowImages({{normal, Images::tpkComboboxUp}, {on, Images::tpkCombobox}});
+}
+
+MenuButtonCellStyle::MenuButtonCellStyle() {
+    setPopUpMetrics(*this);
 }
 
 PopUpButtonCellStyle::PopUpButtonCellStyle() {
-    setPopUpMetrics(*this);
     setBezelImages({{normal, Images::tpkPopup}, {highlighted, Images::tpkPopupDown}});
 }
 
 StyledPopDownButtonCellStyle::StyledPopDownButtonCellStyle() {
-    setPopUpMetrics(*this);
     setBezelImages({{normal, Images::tpkPopdown}, {highlighted, Images::tpkPopdownDown}});
 }
 

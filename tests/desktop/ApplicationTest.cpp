@@ -199,9 +199,12 @@ TEST_F(ApplicationTest, SecondStartBringsTheWindowToTheFront) {
     const QString startup = QStringLiteral("launcher-1-host_TIME%1").arg(request[1]);
     EXPECT_EQ(startAgain({}, startup), 0);
     EXPECT_TRUE(isActive(title));
-    const QByteArray messages = m_desktop.messages();
-    EXPECT_TRUE(messages.contains("remove:")) << "the launcher's busy cursor ends";
-    EXPECT_TRUE(messages.contains(QByteArray(reinterpret_cast<const char*>(request), sizeof request)));
+    QByteArray messages;
+    const auto hears = [&](const QByteArray& message) {
+        return Desktop::waitUntil([&] { return (messages += m_desktop.messages()).contains(message); });
+    };
+    EXPECT_TRUE(hears("remove:")) << "the launcher's busy cursor ends";
+    EXPECT_TRUE(hears(QByteArray(reinterpret_cast<const char*>(request), sizeof request)));
 }
 
 TEST_F(ApplicationTest, FindsItsResourcesWhereverItIsStartedByName) {

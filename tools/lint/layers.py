@@ -40,7 +40,7 @@ SHOWS_VIEWS = """
     Tidepool/Buttons Tidepool/Text Tidepool/Events Tidepool/Menus Tidepool/Views Tidepool/Windows Tidepool/Styles/StyleSet
     Tidepool/Styles/Validating Tidepool/Choices/Segment Tidepool/Choices/SegmentAnnouncements
     Tidepool/Choices/SegmentInterface Tidepool/Choices/SegmentedButtonStyle Tidepool/Choices/SegmentedCell
-    Tidepool/Choices/StyledSegmentedCell Tidepool/Choices/StyledSegmentedControlAccessibility
+    Tidepool/Choices/StyledComboBoxCell Tidepool/Choices/StyledMenuButtonCell Tidepool/Choices/StyledSegmentedCell Tidepool/Choices/StyledSegmentedControlAccessibility
     Tidepool/Choices/StyledSegmentedControlInput
     Noteloft/InterFontModifier Noteloft/NoteloftApp Noteloft/main
     Plugin/Editor/EmbeddedAccessibility Plugin/Editor/EmbeddedEditor Plugin/Editor/HostKeyboard

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "Gallery/GalleryPage.h"
+
+namespace gallery {
+
+GalleryPage comboBoxesPage();
+
+} // namespace gallery
