@@ -102,7 +102,7 @@ void PopoverWindow::present(const PopoverPlacement& placement, QWidget& owner, b
     if (isVisible() && !appears)
         return;
     create();
-    windowHandle()->setTransientParent(owner.window()->windowHandle());
+    windowHandle()->setTransientParent(owner.windowHandle());
     if (animates && appears)
         animate(true);
     else
@@ -151,8 +151,7 @@ void PopoverWindow::takeSnapshot() {
     m_content->hide();
 }
 
-QImage PopoverWindow::makeFrame() const {
-    const qreal scale = devicePixelRatioF();
+QImage PopoverWindow::makeFrame(qreal scale) const {
     const qreal line = std::max(1.0, std::floor(scale)) / scale; // of whole pixels
     QImage frame((QSizeF(size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     frame.setDevicePixelRatio(scale);
@@ -167,8 +166,9 @@ QImage PopoverWindow::makeFrame() const {
 }
 
 void PopoverWindow::drawFrame(QPainter& painter) {
-    if (m_frame.isNull() || m_frame.devicePixelRatio() != devicePixelRatioF())
-        m_frame = makeFrame();
+    const qreal scale = pixelsPerPoint(painter);
+    if (m_frame.isNull() || m_frame.devicePixelRatio() != scale)
+        m_frame = makeFrame(scale);
     drawPixels(painter, {}, m_frame);
 }
 

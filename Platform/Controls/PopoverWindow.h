@@ -27,7 +27,7 @@ public:
     /// Takes its place, in the coordinates of what it is in: the screen.
     void place(const PopoverPlacement& placement);
 
-    /// Goes to its place, and appears there if it was hidden.
+    /// Goes to its place, and appears there if it was hidden. `owner` is a window.
     void present(const PopoverPlacement& placement, QWidget& owner, bool animates);
 
     void dismiss(bool animates);
@@ -43,7 +43,7 @@ private:
     void endAnimation();
     void takeSnapshot();
     void drawFrame(QPainter& painter);
-    QImage makeFrame() const;
+    QImage makeFrame(qreal scale) const;
 
     QWidget* m_content = nullptr;
     PopoverPlacement m_placement; // in its own coordinates

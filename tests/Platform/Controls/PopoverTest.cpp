@@ -3,8 +3,11 @@
 #include "tests/support/Pixels.h"
 
 #include <QApplication>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -107,6 +110,35 @@ TEST_F(PopoverTest, FollowsItsViewAndNeverTakesTheKeyboard) {
     EXPECT_TRUE(isSeen());
     area.move(200, area.screen()->availableGeometry().bottom() - 120);
     EXPECT_LT(distance(), 0) << "no room below";
+}
+
+TEST_F(PopoverTest, FollowsAViewThatIsEmbeddedAndMagnified) {
+    auto* const window = new QWidget;
+    auto* const button = new QPushButton(window);
+    button->setGeometry(20, 20, 60, 20);
+    window->resize(300, 800);
+    QWidget around;
+    QGraphicsScene scene;
+    QGraphicsView view(&scene, &around);
+    scene.addWidget(window)->setScale(2);
+    view.setGeometry(50, 60, 300, 200);
+    around.resize(400, 300);
+    around.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&around));
+    popover->show({}, *button, RectEdge::maxY);
+    ASSERT_TRUE(isSeen());
+    const auto middle = [&] {
+        return PopoverTest::window()->geometry().center() - view.viewport()->mapToGlobal(QPoint());
+    };
+    const QPoint before = middle();
+    EXPECT_NEAR(before.x(), 2 * (20 + 30), 2);
+    EXPECT_NEAR(before.y(), 2 * (20 + 20) + PopoverPlacement::arrowLength + 15, 2);
+    view.verticalScrollBar()->setValue(30);
+    EXPECT_EQ(middle(), before - QPoint(0, 30));
+    around.move(around.pos() + QPoint(10, 0));
+    EXPECT_EQ(middle(), before - QPoint(0, 30));
+    view.verticalScrollBar()->setValue(300);
+    EXPECT_TRUE(goes());
 }
 
 TEST_F(PopoverTest, ClosesWithItsView) {
