@@ -51,12 +51,11 @@ void MenuList::updateRows() {
 }
 
 bool MenuList::eventFilter(QObject* watched, QEvent* event) {
-    if (const auto* const change = watched == &m_menu ? dynamic_cast<QActionEvent*>(event) : nullptr) {
-        if (event->type() == QEvent::ActionRemoved)
-            m_rows->remove(change->action());
-        else
-            m_update.start(0);
-    }
+    const QEvent::Type type = event->type();
+    if (watched == &m_menu && type == QEvent::ActionRemoved)
+        m_rows->remove(static_cast<QActionEvent*>(event)->action());
+    else if (watched == &m_menu && (type == QEvent::ActionAdded || type == QEvent::ActionChanged))
+        m_update.start(0);
     return ListPopup::eventFilter(watched, event);
 }
 

@@ -33,7 +33,7 @@ public:
             return m_field.stringValue();
         if (kind == QAccessible::Name && !m_field.isEditable() && m_field.accessibleName().isEmpty())
             return m_field.stringValue();
-        const QString text = QAccessibleWidget::text(kind);
+        QString text = QAccessibleWidget::text(kind);
         if (kind == QAccessible::Name && text.isEmpty())
             return m_field.cell().placeholderString();
         if (kind == QAccessible::Description && m_field.formattingError())
