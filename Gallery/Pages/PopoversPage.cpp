@@ -23,7 +23,7 @@ using platform::RectEdge;
 using tidepool::ValidatingTextField;
 
 const QString& message() {
-    static const QString text = QStringLiteral("A preset needs a name");
+    static const QString text = QStringLiteral("A name is needed");
     return text;
 }
 
@@ -63,39 +63,52 @@ QWidget* makeLiveRow(const GallerySettings& settings) {
     return row;
 }
 
-/// A popover inside of the page, at `edge` of nothing.
-QWidget* makeSpecimen(RectEdge edge, const QString& text) {
+/// A text as a popover shows it.
+QLabel* makeContent(const QString& text) {
+    const auto& style = tidepool::StyleReference().get<tidepool::PopoverStyle>(nullptr);
+    auto* const label = new QLabel(text);
+    label->setFont(style.font());
+    label->setContentsMargins(12, 12, 12, 12);
+    return label;
+}
+
+/// A popover inside of the page, beside a part of it that lies at `anchor`.
+QWidget* makeSpecimen(RectEdge edge, const QString& text, const QRect& anchor) {
     auto* const holder = new QWidget;
-    holder->setFixedSize(160, 100);
+    holder->setFixedSize(152, 96);
     auto* const window = new PopoverWindow;
     window->setAttribute(Qt::WA_TranslucentBackground);
     window->setParent(holder, Qt::Widget);
     const auto& style = tidepool::StyleReference().get<tidepool::PopoverStyle>(nullptr);
-    auto* const label = new QLabel(text);
-    label->setFont(style.font());
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
-    window->setContent(label);
+    window->setContent(makeContent(text));
     window->setColors(style.backgroundColor(), tidepool::TPColors::grey30);
-    const QRect middle(80, 50, 0, 0);
-    const QPoint offset = edge == RectEdge::maxY   ? QPoint(0, -35)
-                          : edge == RectEdge::minY ? QPoint(0, 35)
-                          : edge == RectEdge::maxX ? QPoint(-66, 0)
-                                                   : QPoint(66, 0);
-    window->place(
-        PopoverPlacement::beside(middle.translated(offset), {124, 40}, edge, {-500, -500, 1000, 1000}));
+    const QSize size = window->content()->sizeHint();
+    window->place(PopoverPlacement::beside(anchor, size, edge, holder->rect().adjusted(10, -99, -10, 99)));
     window->show();
     return holder;
+}
+
+void addSpecimens(Section& section) {
+    StateGrid& grid = section.addGrid(
+        {QStringLiteral("Below"), QStringLiteral("Above"), QStringLiteral("Right"), QStringLiteral("Left")});
+    const auto addRow = [&](const QString& variant, const QString& text) {
+        const auto at = [&](RectEdge edge, QPoint tip) {
+            return makeSpecimen(edge, text, {tip, QSize(0, 0)});
+        };
+        grid.addRow(variant, {at(RectEdge::maxY, {76, 16}), at(RectEdge::minY, {76, 80}),
+                              at(RectEdge::maxX, {12, 48}), at(RectEdge::minX, {140, 48})});
+    };
+    addRow(QStringLiteral("One line"), message());
+    addRow(QStringLiteral("Several lines"), QStringLiteral("A name is needed\nthat no other has"));
+    grid.addRow(QStringLiteral("At the screen’s edge"),
+                {makeSpecimen(RectEdge::maxY, message(), {0, 16, 30, 0}),
+                 makeSpecimen(RectEdge::minY, message(), {122, 80, 30, 0})});
 }
 
 QWidget* makePage(const GallerySettings& settings) {
     auto* const page = new PageBody;
     page->addSection(QStringLiteral("Live")).add(makeLiveRow(settings));
-    StateGrid& grid = page->addSection(QStringLiteral("SimpleTextViewPopover"))
-                          .addGrid({QStringLiteral("Below"), QStringLiteral("Above"), QStringLiteral("Right"),
-                                    QStringLiteral("Left")});
-    grid.addRow({}, {makeSpecimen(RectEdge::maxY, message()), makeSpecimen(RectEdge::minY, message()),
-                     makeSpecimen(RectEdge::maxX, message()), makeSpecimen(RectEdge::minX, message())});
+    addSpecimens(page->addSection(QStringLiteral("SimpleTextViewPopover")));
     return page;
 }
 

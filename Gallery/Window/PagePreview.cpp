@@ -56,8 +56,11 @@ bool PagePreview::eventFilter(QObject*, QEvent* event) {
 }
 
 void PagePreview::paintEvent(QPaintEvent*) {
-    if (m_area != nullptr && m_area->hasFocus())
-        QPainter(this).fillRect(rect(), palette().highlight());
+    if (m_area == nullptr || !m_area->hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setClipRegion(QRegion(rect()) - m_area->geometry()); // the scroll bars let see what lies below
+    painter.fillRect(rect(), palette().highlight());
 }
 
 } // namespace gallery

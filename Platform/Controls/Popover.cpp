@@ -4,13 +4,42 @@
 
 #include <QAccessible>
 #include <QEvent>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QWidget>
+#include <QScrollBar>
 
 #include <utility>
 
 namespace platform {
+
+namespace {
+
+/// The view that shows an embedded window; null for one of the desktop's.
+QGraphicsView* viewShowing(const QWidget& widget) {
+    const QGraphicsProxyWidget* proxy = widget.graphicsProxyWidget();
+    const auto views = proxy != nullptr ? proxy->scene()->views() : QList<QGraphicsView*>();
+    return views.value(0);
+}
+
+/// What the widget lies in; null for a window of the desktop's.
+QWidget* around(const QWidget& widget) {
+    if (!widget.isWindow())
+        return widget.parentWidget();
+    const QGraphicsView* view = viewShowing(widget);
+    return view != nullptr ? view->viewport() : nullptr;
+}
+
+/// A rectangle of the widget in that.
+QRect mappedAround(const QWidget& widget, const QRect& rect) {
+    const QGraphicsView* view = widget.isWindow() ? viewShowing(widget) : nullptr;
+    if (view == nullptr)
+        return rect.translated(widget.pos());
+    return view->mapFromScene(widget.graphicsProxyWidget()->mapRectToScene(rect)).boundingRect();
+}
+
+} // namespace
 
 Popover::Popover(QObject* parent) : QObject(parent), m_window(std::make_unique<PopoverWindow>()) {
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &Popover::reposition);
@@ -62,17 +91,21 @@ void Popover::close() {
 void Popover::watch(QWidget& view) {
     ignore();
     m_view = &view;
-    m_viewsEnd = connect(&view, &QObject::destroyed, this, &Popover::close);
-    for (QWidget* widget = m_view; widget != nullptr; widget = widget->parentWidget()) {
+    m_watching = std::make_unique<QObject>();
+    connect(&view, &QObject::destroyed, m_watching.get(), [this] { close(); });
+    for (QWidget* widget = m_view; widget != nullptr; widget = around(*widget)) {
         widget->installEventFilter(this);
         m_watched << widget;
-        if (widget->isWindow())
-            break;
+        const QGraphicsView* scrolled = widget->isWindow() ? viewShowing(*widget) : nullptr;
+        if (scrolled == nullptr)
+            continue;
+        for (const QScrollBar* bar : {scrolled->horizontalScrollBar(), scrolled->verticalScrollBar()})
+            connect(bar, &QScrollBar::valueChanged, m_watching.get(), [this] { reposition(); });
     }
 }
 
 void Popover::ignore() {
-    QObject::disconnect(m_viewsEnd);
+    m_watching.reset();
     for (const QPointer<QWidget>& widget : std::exchange(m_watched, {}))
         if (widget)
             widget->removeEventFilter(this);
@@ -104,22 +137,34 @@ bool Popover::eventFilter(QObject*, QEvent* event) {
 QRect Popover::visibleAnchor() const {
     QRect rect = m_rect.isEmpty() ? m_view->rect() : m_rect;
     const QWidget* widget = m_view;
-    for (; !widget->isWindow() && widget->parentWidget() != nullptr; widget = widget->parentWidget())
-        rect = rect.translated(widget->pos()) & widget->parentWidget()->rect();
+    while (const QWidget* outer = around(*widget)) {
+        rect = mappedAround(*widget, rect) & outer->rect();
+        widget = outer;
+    }
     return {widget->mapToGlobal(rect.topLeft()), rect.size()};
+}
+
+/// The window of the desktop that the view is in.
+QWidget& Popover::outermost() const {
+    QWidget* widget = m_view;
+    while (QWidget* const outer = around(*widget))
+        widget = outer;
+    return *widget;
 }
 
 void Popover::reposition() {
     if (m_view == nullptr || m_window->content() == nullptr)
         return;
     const QRect anchor = visibleAnchor();
-    const bool isSeen = m_view->isVisible() && !anchor.isEmpty() && !m_view->window()->isMinimized() &&
+    QWidget& owner = outermost();
+    const bool isSeen = m_view->isVisible() && !anchor.isEmpty() && !owner.isMinimized() &&
                         QGuiApplication::applicationState() == Qt::ApplicationActive;
     if (!isSeen)
         return m_window->dismiss(false);
     const QSize size = m_contentSize.expandedTo(m_window->content()->minimumSizeHint());
-    const QRect screen = m_view->screen()->availableGeometry();
-    m_window->present(PopoverPlacement::beside(anchor, size, m_preferredEdge, screen), *m_view, m_animates);
+    const QRect screen = owner.screen()->availableGeometry();
+    m_window->setLayoutDirection(m_view->layoutDirection());
+    m_window->present(PopoverPlacement::beside(anchor, size, m_preferredEdge, screen), owner, m_animates);
 }
 
 } // namespace platform

@@ -68,11 +68,12 @@ private:
     void ignore();
     void reposition();
     QRect visibleAnchor() const;
+    QWidget& outermost() const;
 
     std::unique_ptr<PopoverWindow> m_window;
     QPointer<QWidget> m_view;
     QList<QPointer<QWidget>> m_watched;
-    QMetaObject::Connection m_viewsEnd;
+    std::unique_ptr<QObject> m_watching; // lives as long as what it hears of is watched
     QRect m_rect;
     QSize m_contentSize;
     RectEdge m_preferredEdge = RectEdge::maxY;

@@ -1,6 +1,8 @@
 #include "Platform/Controls/PopoverPlacement.h"
 
-#include <QPolygonF>
+#include "Platform/Graphics/DevicePixels.h"
+
+#include <QTransform>
 
 #include <algorithm>
 
@@ -31,6 +33,21 @@ int roomBeyond(RectEdge edge, const QRect& anchor, const QRect& screen) {
     return screen.bottom() - anchor.bottom();
 }
 
+/// Turns that edge upwards, so that there is one way to draw the arrow.
+QTransform edgeUp(RectEdge edge) {
+    switch (edge) {
+    case RectEdge::minX: // the arrow is at the right
+        return {0, -1, 1, 0, 0, 0};
+    case RectEdge::minY:
+        return {1, 0, 0, -1, 0, 0};
+    case RectEdge::maxX:
+        return {0, 1, 1, 0, 0, 0};
+    case RectEdge::maxY:
+        break;
+    }
+    return {};
+}
+
 /// The start of a stretch of `length` around `middle`, inside of the screen's.
 int startAround(int middle, int length, int first, int last) {
     return std::max(first, std::min(middle - length / 2, last - length));
@@ -51,8 +68,8 @@ PopoverPlacement PopoverPlacement::beside(const QRect& anchor, QSize bubble, Rec
                   startAround(middle.y(), bubble.height(), screen.top(), screen.bottom() + 1));
     QPointF tip = middle;
     const auto between = [](qreal value, int start, int length) {
-        constexpr int corner = cornerRadius + arrowWidth / 2;
-        return std::max<qreal>(start + corner, std::min<qreal>(value, start + length - corner));
+        const qreal corner = std::min(cornerRadius + arrowWidth / 2.0, length / 2.0);
+        return std::clamp(value, start + corner, start + length - corner);
     };
     if (isVertical(edge)) {
         const bool isBelow = edge == RectEdge::maxY;
@@ -66,26 +83,30 @@ PopoverPlacement PopoverPlacement::beside(const QRect& anchor, QSize bubble, Rec
     return {edge, QRect(origin, bubble), tip};
 }
 
-QPainterPath PopoverPlacement::outline(qreal inset) const {
-    QPainterPath path;
-    path.addRoundedRect(QRectF(bubble).adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
-                        cornerRadius - inset);
-    const QPointF along = isVertical(edge) ? QPointF(arrowWidth / 2.0, 0) : QPointF(0, arrowWidth / 2.0);
-    const qreal away = edge == RectEdge::maxX || edge == RectEdge::maxY ? 1 : -1;
-    const QPointF step = isVertical(edge) ? QPointF(0, away) : QPointF(away, 0);
-    const QPointF point = tip + step * inset;
-    const QPointF base = point + step * arrowLength;
-    const QPointF inside = base + (base - point); // so that the parts overlap
-    QPainterPath arrow;
-    const QPointF shoulder = point + (base - point) * 0.2;
-    arrow.moveTo(base - along);
-    arrow.lineTo(shoulder - along * 0.2);
-    arrow.quadTo(point, shoulder + along * 0.2);
-    arrow.lineTo(base + along);
-    arrow.lineTo(inside + along);
-    arrow.lineTo(inside - along);
-    arrow.closeSubpath();
-    return path.united(arrow);
+QPainterPath PopoverPlacement::outline(qreal inset, qreal scale) const {
+    constexpr qreal steep = arrowLength + 1; // height and half the width of the arrow, had it a point
+    const QTransform up = edgeUp(edge);
+    const QRectF whole(onPixel(QRectF(bubble).topLeft(), scale),
+                       onPixel(QRectF(bubble).bottomRight(), scale));
+    const QRectF rect = up.mapRect(whole).marginsRemoved({inset, inset, inset, inset});
+    const qreal radius = cornerRadius - inset;
+    const qreal flare = std::clamp<qreal>(rect.width() / 2 - radius - steep, 0, arrowWidth / 2.0 - steep);
+    const QPointF base(up.map(tip).x(), rect.top());
+    const auto at = [&](qreal x, qreal y) { return base + QPointF(x, y); };
+    const QSizeF corner(2 * radius, 2 * radius);
+    const QPointF far(rect.right() - corner.width(), rect.bottom() - corner.height());
+    QPainterPath path(at(-steep - flare, 0));
+    path.quadTo(at(-steep, 0), at(-steep + flare * 0.7, -flare * 0.7));
+    path.lineTo(at(-2, 2 - steep));
+    path.quadTo(at(0, -steep), at(2, 2 - steep));
+    path.lineTo(at(steep - flare * 0.7, -flare * 0.7));
+    path.quadTo(at(steep, 0), at(steep + flare, 0));
+    path.arcTo({{far.x(), rect.top()}, corner}, 90, -90);
+    path.arcTo({far, corner}, 0, -90);
+    path.arcTo({{rect.left(), far.y()}, corner}, -90, -90);
+    path.arcTo({rect.topLeft(), corner}, 180, -90);
+    path.closeSubpath();
+    return up.inverted().map(path);
 }
 
 PopoverPlacement PopoverPlacement::translated(QPoint offset) const {

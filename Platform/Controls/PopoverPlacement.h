@@ -11,7 +11,8 @@ enum class RectEdge { minX = 0, minY = 1, maxX = 2, maxY = 3 };
 /// Where a popover stands. Points, all in the same coordinates.
 struct PopoverPlacement {
     static constexpr int arrowLength = 7;
-    static constexpr int arrowWidth = 18;
+    /// Where it meets the bubble.
+    static constexpr int arrowWidth = 22;
     static constexpr int cornerRadius = 8;
 
     /// Beside which edge of its anchor.
@@ -26,8 +27,9 @@ struct PopoverPlacement {
     static PopoverPlacement beside(const QRect& anchor, QSize bubble, RectEdge preferred,
                                    const QRect& screen);
 
-    /// The bubble with its arrow, or what lies `inset` points inside of it.
-    QPainterPath outline(qreal inset = 0) const;
+    /// The bubble with its arrow, or what lies `inset` points inside of it, with edges between the pixels of
+    /// `scale` a point.
+    QPainterPath outline(qreal inset = 0, qreal scale = 1) const;
 
     PopoverPlacement translated(QPoint offset) const;
 

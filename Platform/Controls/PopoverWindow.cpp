@@ -2,6 +2,7 @@
 
 #include "Platform/Controls/Accessibility.h"
 #include "Platform/Core/WindowSystem.h"
+#include "Platform/Graphics/DevicePixels.h"
 #include "Platform/Graphics/DropShadow.h"
 #include "Platform/Graphics/ReducedMotion.h"
 
@@ -10,7 +11,9 @@
 #include <QPainter>
 #include <QWindow>
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 
 namespace platform {
 
@@ -20,7 +23,8 @@ using namespace std::chrono_literals;
 
 constexpr auto duration = 150ms;
 constexpr qreal smallest = 0.94; // from where it grows
-constexpr int shadowReach = 16;
+/// Room for the arrow and the shadow: whole pixels at every quarter of a scale.
+constexpr int margin = 24;
 
 class PopoverInterface : public QAccessibleWidget {
 public:
@@ -43,10 +47,8 @@ PopoverWindow::PopoverWindow()
     m_animation.setEasingCurve(QEasingCurve::OutCubic);
     connect(&m_animation, &QVariantAnimation::valueChanged, this, [this] { update(); });
     connect(&m_animation, &QVariantAnimation::finished, this, [this] {
-        m_snapshot = {};
         setVisible(!m_isLeaving);
-        m_content->show();
-        update();
+        endAnimation();
     });
     prefersReducedMotion(); // so that the desktop has answered when it appears
 }
@@ -66,11 +68,12 @@ void PopoverWindow::setColors(const QColor& background, const QColor& edge) {
 }
 
 void PopoverWindow::place(const PopoverPlacement& placement) {
-    const int margin = PopoverPlacement::arrowLength + (isTranslucent() ? shadowReach : 0);
     const QRect place = placement.bubble.adjusted(-margin, -margin, margin, margin);
     const PopoverPlacement own = placement.translated(-place.topLeft());
-    if (own != m_placement)
+    if (own != m_placement) {
         m_frame = {};
+        endAnimation();
+    }
     m_placement = own;
     // A window that the compositor of Wayland has placed moves only when it is shown anew.
     if (isVisible() && geometry() != place && QGuiApplication::platformName().startsWith(u"wayland"))
@@ -78,7 +81,18 @@ void PopoverWindow::place(const PopoverPlacement& placement) {
     setGeometry(place);
     m_content->setGeometry(own.bubble);
     if (!isTranslucent())
-        setMask(QRegion(own.outline().toFillPolygon().toPolygon()));
+        setMask(shape());
+}
+
+/// The pixels that are at least half covered, where there can be no others.
+QBitmap PopoverWindow::shape() const {
+    QImage covered(size(), QImage::Format_ARGB32_Premultiplied);
+    covered.fill(Qt::transparent);
+    QPainter painter(&covered);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(m_placement.outline(), Qt::black);
+    painter.end();
+    return QBitmap::fromImage(covered.createAlphaMask(Qt::ThresholdAlphaDither));
 }
 
 void PopoverWindow::present(const PopoverPlacement& placement, QWidget& owner, bool animates) {
@@ -88,11 +102,11 @@ void PopoverWindow::present(const PopoverPlacement& placement, QWidget& owner, b
     if (isVisible() && !appears)
         return;
     create();
-    windowHandle()->setTransientParent(owner.window()->windowHandle());
-    if (animates)
+    windowHandle()->setTransientParent(owner.windowHandle());
+    if (animates && appears)
         animate(true);
     else
-        m_animation.stop();
+        endAnimation();
     show();
 }
 
@@ -108,46 +122,58 @@ void PopoverWindow::dismiss(bool animates) {
 
 void PopoverWindow::animate(bool appears) {
     if (prefersReducedMotion() || !isTranslucent()) {
-        if (!appears)
-            hide();
-        return;
+        setVisible(appears);
+        return endAnimation();
     }
+    takeSnapshot();
+    m_animation.setDirection(appears ? QVariantAnimation::Forward : QVariantAnimation::Backward);
+    if (m_animation.state() != QVariantAnimation::Running) // else it turns round
+        m_animation.start();
+}
+
+void PopoverWindow::endAnimation() {
     m_animation.stop();
+    m_snapshot = {};
+    if (m_content != nullptr)
+        m_content->show();
+    update();
+}
+
+void PopoverWindow::takeSnapshot() {
     m_content->show();
-    QImage snapshot(size() * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
-    snapshot.setDevicePixelRatio(devicePixelRatioF());
-    snapshot.fill(Qt::transparent);
-    QPainter painter(&snapshot);
+    const qreal scale = devicePixelRatioF();
+    m_snapshot = QImage((QSizeF(size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    m_snapshot.setDevicePixelRatio(scale);
+    m_snapshot.fill(Qt::transparent);
+    QPainter painter(&m_snapshot);
     drawFrame(painter);
     m_content->render(&painter, m_content->pos(), {}, DrawChildren);
-    painter.end();
-    m_snapshot = snapshot;
     m_content->hide();
-    m_animation.setDirection(appears ? QVariantAnimation::Forward : QVariantAnimation::Backward);
-    m_animation.start();
 }
 
-QImage PopoverWindow::frameWithShadow() const {
-    QImage shape(size() * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
-    shape.setDevicePixelRatio(devicePixelRatioF());
-    shape.fill(Qt::transparent);
-    QPainter painter(&shape);
+QImage PopoverWindow::makeFrame(qreal scale) const {
+    const qreal line = std::max(1.0, std::floor(scale)) / scale; // of whole pixels
+    QImage frame((QSizeF(size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    frame.setDevicePixelRatio(scale);
+    frame.fill(isTranslucent() ? QColor(Qt::transparent) : m_edge);
+    QPainter painter(&frame);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(m_edge, 1));
+    painter.setPen(QPen(m_edge, line));
     painter.setBrush(m_background);
-    painter.drawPath(m_placement.outline(0.5)); // on whole pixels
+    painter.drawPath(m_placement.outline(line / 2, scale));
     painter.end();
-    return withDropShadow(shape, {QColor(0, 0, 0, 110), 12, {0, 3}});
+    return isTranslucent() ? withDropShadow(frame, {QColor(0, 0, 0, 110), 12, {0, 3}}) : frame;
 }
 
-void PopoverWindow::drawFrame(QPainter& painter) const {
-    painter.drawImage(QPointF(), m_frame);
+void PopoverWindow::drawFrame(QPainter& painter) {
+    const qreal scale = pixelsPerPoint(painter);
+    if (m_frame.isNull() || m_frame.devicePixelRatio() != scale)
+        m_frame = makeFrame(scale);
+    drawPixels(painter, {}, m_frame);
 }
 
 void PopoverWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (m_frame.isNull() || m_frame.devicePixelRatio() != devicePixelRatioF())
-        m_frame = frameWithShadow();
     if (m_snapshot.isNull())
         return drawFrame(painter);
     const qreal progress = m_animation.currentValue().toReal();

@@ -2,6 +2,7 @@
 
 #include "Platform/Controls/PopoverPlacement.h"
 
+#include <QBitmap>
 #include <QImage>
 #include <QVariantAnimation>
 #include <QWidget>
@@ -26,7 +27,7 @@ public:
     /// Takes its place, in the coordinates of what it is in: the screen.
     void place(const PopoverPlacement& placement);
 
-    /// Goes to its place, and appears there if it was hidden.
+    /// Goes to its place, and appears there if it was hidden. `owner` is a window.
     void present(const PopoverPlacement& placement, QWidget& owner, bool animates);
 
     void dismiss(bool animates);
@@ -37,9 +38,12 @@ protected:
 private:
     bool isTranslucent() const { return testAttribute(Qt::WA_TranslucentBackground); }
 
+    QBitmap shape() const;
     void animate(bool appears);
-    void drawFrame(QPainter& painter) const;
-    QImage frameWithShadow() const;
+    void endAnimation();
+    void takeSnapshot();
+    void drawFrame(QPainter& painter);
+    QImage makeFrame(qreal scale) const;
 
     QWidget* m_content = nullptr;
     PopoverPlacement m_placement; // in its own coordinates

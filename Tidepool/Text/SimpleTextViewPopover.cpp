@@ -3,9 +3,8 @@
 #include "Tidepool/Styles/StyleReference.h"
 #include "Tidepool/Styles/WindowStyle.h"
 
+#include <QEvent>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace tidepool {
 
@@ -22,7 +21,7 @@ SimpleTextViewPopover::SimpleTextViewPopover(QObject* parent) : Popover(parent),
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(m_text);
     m_text->setTextFormat(Qt::PlainText);
-    m_text->setAlignment(Qt::AlignCenter);
+    layout->setAlignment(m_text, Qt::AlignCenter);
     setContentView(container);
 }
 
@@ -35,21 +34,30 @@ void SimpleTextViewPopover::takeLook(const QWidget& view) {
     setColors(style.backgroundColor(), TPColors::grey30);
 }
 
+/// As wide as its lines, which are broken where they would get too long; a longer word is left whole.
+void SimpleTextViewPopover::fitText() {
+    m_text->setWordWrap(false);
+    m_text->setMinimumSize(0, 0);
+    m_text->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    QSize size = m_text->sizeHint();
+    if (size.width() > widest) {
+        m_text->setWordWrap(true);
+        const QRect lines = m_text->fontMetrics().boundingRect({0, 0, widest, QWIDGETSIZE_MAX},
+                                                               Qt::TextWordWrap, m_text->text());
+        const int width = lines.width() + 1; // what lies between two points
+        size = {width, m_text->heightForWidth(width)};
+    }
+    m_text->setFixedSize(size);
+}
+
 void SimpleTextViewPopover::showMessage(const std::optional<QString>& message, QWidget& view,
                                         platform::RectEdge edge) {
     takeLook(view);
-    m_text->setWordWrap(false);
-    m_text->setMinimumWidth(0);
     m_text->setText(message.value_or(QString()));
-    if (m_text->sizeHint().width() > widest) {
-        m_text->setWordWrap(true);
-        m_text->setMinimumWidth(widest);
-    }
     setAccessibleText(m_text->text());
+    fitText();
     const QSizeF padding = StyleReference().get<PopoverStyle>(&view).padding();
-    const QSize text =
-        m_text->wordWrap() ? QSize(widest, m_text->heightForWidth(widest)) : m_text->sizeHint();
-    setContentSize((QSizeF(text) + 2 * padding).toSize().expandedTo(text + QSize(2 * margin, 2 * margin)));
+    setContentSize((QSizeF(m_text->size()) + 2 * padding).toSize());
     show({}, view, edge);
 }
 
@@ -61,6 +69,12 @@ void SimpleTextViewPopover::show(const QRect& rect, QWidget& view, platform::Rec
 void SimpleTextViewPopover::close() {
     m_currentPositioningView = nullptr;
     Popover::close();
+}
+
+bool SimpleTextViewPopover::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_currentPositioningView && event->type() == QEvent::StyleChange)
+        takeLook(*m_currentPositioningView);
+    return Popover::eventFilter(watched, event);
 }
 
 SimpleTextViewPopover& SimpleTextViewPopoverController::popover() {

@@ -34,8 +34,12 @@ public:
 
     void setControlState(StyledControlState state) { m_controlState = state; }
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void takeLook(const QWidget& view);
+    void fitText();
 
     QLabel* m_text;
     QPointer<QWidget> m_currentPositioningView;

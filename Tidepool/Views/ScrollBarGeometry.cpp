@@ -57,6 +57,20 @@ ScrollBarGeometry& ScrollBarGeometry::shared() {
     return *style;
 }
 
+int ScrollBarGeometry::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                 QStyleHintReturn* result) const {
+    switch (hint) {
+    case SH_ScrollBar_MiddleClickAbsolutePosition:
+        return 1;
+    case SH_ScrollBar_LeftClickAbsolutePosition:
+        return QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier) ? 1 : 0;
+    case SH_ScrollBar_Transient: // the bars fade by themselves
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+}
+
 int ScrollBarGeometry::pixelMetric(PixelMetric metric, const QStyleOption* option,
                                    const QWidget* widget) const {
     if (metric == PM_ScrollBarExtent)

@@ -1,12 +1,13 @@
 #include "Tidepool/Views/StyledScrollBar.h"
 
+#include "Platform/Graphics/DevicePixels.h"
 #include "Platform/Graphics/ReducedMotion.h"
 #include "Tidepool/Styles/ScrollBarStyle.h"
 #include "Tidepool/Views/ScrollBarGeometry.h"
 
 #include <QAbstractScrollArea>
 #include <QContextMenuEvent>
-#include <QEvent>
+#include <QHoverEvent>
 #include <QPainter>
 #include <QStyleOptionSlider>
 
@@ -23,8 +24,12 @@ constexpr auto idleTime = 1000ms;
 constexpr auto fadeTime = 250ms;
 constexpr qreal inset = 3;
 constexpr qreal insetUnderPointer = 2; // the knob grows where it can be taken
+constexpr int nearness = 24;           // in points
 
-void fillCapsule(QPainter& painter, const QRectF& rect, const QColor& color) {
+/// On whole pixels.
+void fillCapsule(QPainter& painter, const QRectF& frame, const QColor& color) {
+    const QRectF rect(platform::onDevicePixel(painter, frame.topLeft()),
+                      platform::onDevicePixel(painter, frame.bottomRight()));
     const qreal radius = std::min(rect.width(), rect.height()) / 2;
     painter.setBrush(color);
     painter.drawRoundedRect(rect, radius, radius);
@@ -84,6 +89,21 @@ void StyledScrollBar::fade() {
         m_fading.start();
 }
 
+void StyledScrollBar::watch(QWidget& view) {
+    view.setAttribute(Qt::WA_Hover); // whether or not it tracks the pointer
+    view.installEventFilter(this);
+}
+
+bool StyledScrollBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::HoverMove) {
+        const QPointF position = static_cast<QHoverEvent*>(event)->position();
+        const QPoint here = mapFromGlobal(static_cast<QWidget*>(watched)->mapToGlobal(position)).toPoint();
+        if (rect().adjusted(-nearness, -nearness, nearness, nearness).contains(here))
+            flash();
+    }
+    return QScrollBar::eventFilter(watched, event);
+}
+
 bool StyledScrollBar::event(QEvent* event) {
     const bool isHandled = QScrollBar::event(event);
     switch (event->type()) {
@@ -139,8 +159,12 @@ void StyledScrollBar::paintEvent(QPaintEvent*) {
 }
 
 void setStyledScrollBars(QAbstractScrollArea& area) {
-    area.setVerticalScrollBar(new StyledScrollBar(Qt::Vertical));
-    area.setHorizontalScrollBar(new StyledScrollBar(Qt::Horizontal));
+    auto* const vertical = new StyledScrollBar(Qt::Vertical);
+    auto* const horizontal = new StyledScrollBar(Qt::Horizontal);
+    area.setVerticalScrollBar(vertical);
+    area.setHorizontalScrollBar(horizontal);
+    vertical->watch(*area.viewport());
+    horizontal->watch(*area.viewport());
     area.setCornerWidget(new QWidget); // in place of the desktop's
 }
 

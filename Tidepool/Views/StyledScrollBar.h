@@ -10,8 +10,9 @@ class QAbstractScrollArea;
 
 namespace tidepool {
 
-/// The kit's scroll bar. It shows while the view scrolls and while the pointer is on it; a second later it
-/// fades. Its place stays free, so that nothing ever lies below it. Main thread.
+/// The kit's scroll bar. It shows while the view scrolls and while the pointer is on it or near; a second
+/// later it fades. Its place stays free, so that nothing ever lies below it. A click into its slot moves a
+/// page, one with Shift or the middle button to that place. Main thread.
 class StyledScrollBar : public QScrollBar {
     Q_OBJECT
 
@@ -27,9 +28,13 @@ public:
     /// Shows it for a moment.
     void flash();
 
+    /// Also shows when the pointer comes near within `view`.
+    void watch(QWidget& view);
+
     QSize sizeHint() const override;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;

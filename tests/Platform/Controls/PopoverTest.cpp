@@ -1,9 +1,13 @@
 #include "Platform/Controls/Popover.h"
 #include "Platform/Controls/PopoverWindow.h"
+#include "tests/support/Pixels.h"
 
 #include <QApplication>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -108,6 +112,35 @@ TEST_F(PopoverTest, FollowsItsViewAndNeverTakesTheKeyboard) {
     EXPECT_LT(distance(), 0) << "no room below";
 }
 
+TEST_F(PopoverTest, FollowsAViewThatIsEmbeddedAndMagnified) {
+    auto* const window = new QWidget;
+    auto* const button = new QPushButton(window);
+    button->setGeometry(20, 20, 60, 20);
+    window->resize(300, 800);
+    QWidget around;
+    QGraphicsScene scene;
+    QGraphicsView view(&scene, &around);
+    scene.addWidget(window)->setScale(2);
+    view.setGeometry(50, 60, 300, 200);
+    around.resize(400, 300);
+    around.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&around));
+    popover->show({}, *button, RectEdge::maxY);
+    ASSERT_TRUE(isSeen());
+    const auto middle = [&] {
+        return PopoverTest::window()->geometry().center() - view.viewport()->mapToGlobal(QPoint());
+    };
+    const QPoint before = middle();
+    EXPECT_NEAR(before.x(), 2 * (20 + 30), 2);
+    EXPECT_NEAR(before.y(), 2 * (20 + 20) + PopoverPlacement::arrowLength + 15, 2);
+    view.verticalScrollBar()->setValue(30);
+    EXPECT_EQ(middle(), before - QPoint(0, 30));
+    around.move(around.pos() + QPoint(10, 0));
+    EXPECT_EQ(middle(), before - QPoint(0, 30));
+    view.verticalScrollBar()->setValue(300);
+    EXPECT_TRUE(goes());
+}
+
 TEST_F(PopoverTest, ClosesWithItsView) {
     int closed = 0;
     QObject::connect(popover.get(), &Popover::closed, [&] { ++closed; });
@@ -147,4 +180,65 @@ TEST_F(PopoverTest, MayGoAtAnyMoment) {
     EXPECT_EQ(popover, nullptr);
     EXPECT_EQ(window(), nullptr);
     QTest::qWait(200); // nothing goes on
+}
+
+namespace {
+
+/// A bubble with a green ground and a red edge, in place for a view above it.
+class PopoverWindowTest : public testing::Test {
+protected:
+    PopoverWindowTest() {
+        owner.show();
+        window.setContent(new QLabel(QStringLiteral("A preset needs a name")));
+        window.setColors(Qt::green, Qt::red);
+    }
+
+    void present(QSize size = {150, 40}) {
+        window.present(PopoverPlacement::beside({400, 300, 100, 20}, size, RectEdge::maxY, screen), owner,
+                       true);
+    }
+
+    bool isWhole() {
+        const QImage image = picture(window);
+        int green = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                green += image.pixel(x, y) == qRgb(0, 255, 0) ? 1 : 0;
+        return green > 4000 && window.content()->isVisible();
+    }
+
+    bool becomesWhole() {
+        return QTest::qWaitFor([this] { return isWhole(); });
+    }
+
+    const QRect screen{0, 0, 1000, 800};
+    QWidget owner;
+    PopoverWindow window;
+};
+
+} // namespace
+
+TEST_F(PopoverWindowTest, AppearsAndLeavesAsAWhole) {
+    window.setAttribute(Qt::WA_TranslucentBackground);
+    const auto opacity = [this] { // of its ground
+        return qAlpha(picture(window).pixel(window.rect().center() + QPoint(0, 14)));
+    };
+    present();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return opacity() > 0; }));
+    EXPECT_FALSE(isWhole()) << "it fades in, ground and text as one";
+    EXPECT_TRUE(becomesWhole());
+    window.dismiss(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return opacity() < 255; }));
+    const int before = opacity();
+    EXPECT_GT(before, 0);
+    present();
+    EXPECT_GE(opacity(), before / 2) << "turns round in the middle of its way";
+    EXPECT_TRUE(becomesWhole());
+    window.dismiss(true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isVisible(); }));
+    present();
+    window.dismiss(false);
+    present({200, 40}); // with another text
+    EXPECT_TRUE(becomesWhole());
+    EXPECT_EQ(window.content()->width(), 200);
 }

@@ -5,6 +5,7 @@
 #include <QProxyStyle>
 #include <QScrollArea>
 #include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -92,4 +93,28 @@ TEST_F(StyledScrollBarTest, TheKnobIsDraggedAndTheSlotPages) {
     EXPECT_NEAR(horizontal().value(), 100, 3);
     QTest::mouseClick(&horizontal(), Qt::LeftButton, {}, {5, 6});
     EXPECT_EQ(horizontal().value(), horizontal().maximum()) << "a page on";
+}
+
+TEST_F(StyledScrollBarTest, ComesWhenThePointerIsNear) {
+    m_area.widget()->setMouseTracking(false);
+    EXPECT_TRUE(fades());
+    QTest::mouseMove(m_area.window()->windowHandle(), {60, 40});
+    QTest::mouseMove(m_area.window()->windowHandle(), {65, 40});
+    EXPECT_EQ(vertical().visibility(), 0);
+    QTest::mouseMove(m_area.window()->windowHandle(), {190, 40});
+    EXPECT_EQ(vertical().visibility(), 1);
+    EXPECT_EQ(horizontal().visibility(), 0);
+    EXPECT_TRUE(fades()) << "although the pointer rests there";
+}
+
+TEST_F(StyledScrollBarTest, GoesToTheVeryPlaceWithShiftOrTheMiddleButton) {
+    QTest::mouseClick(&vertical(), Qt::LeftButton, Qt::ShiftModifier, {6, 50});
+    EXPECT_NEAR(vertical().value(), 450, 15);
+    QTest::mouseClick(&vertical(), Qt::MiddleButton, {}, {6, 99});
+    EXPECT_EQ(vertical().value(), vertical().maximum());
+    QTest::mouseClick(&vertical(), Qt::LeftButton, {}, {6, 5});
+    EXPECT_EQ(vertical().value(), 800) << "and without, by a page";
+    m_area.setLayoutDirection(Qt::RightToLeft);
+    QTest::mouseClick(&horizontal(), Qt::LeftButton, Qt::ShiftModifier, {0, 6});
+    EXPECT_EQ(horizontal().value(), horizontal().maximum());
 }
