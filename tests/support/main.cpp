@@ -2,8 +2,26 @@
 
 #include <QApplication>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
+
+namespace {
+
+// Qt keeps one state of the pointer: a button that a test leaves pressed would be pressed in the next.
+class PointerRelease : public testing::EmptyTestEventListener {
+    void OnTestEnd(const testing::TestInfo& /*test*/) override {
+        if (QGuiApplication::mouseButtons() == Qt::NoButton)
+            return;
+        QWindow window;
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
+            if (QGuiApplication::mouseButtons().testFlag(button))
+                QTest::mouseRelease(&window, button);
+    }
+};
+
+} // namespace
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
@@ -22,5 +40,6 @@ int main(int argc, char** argv) {
 #ifdef NOTELOFT_MAIN_BUNDLE
     platform::Bundle::setMainDirectory(QStringLiteral(NOTELOFT_MAIN_BUNDLE));
 #endif
+    testing::UnitTest::GetInstance()->listeners().Append(new PointerRelease);
     return RUN_ALL_TESTS();
 }
